@@ -1,0 +1,20 @@
+set(TALVO_WARNINGS -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wold-style-cast -Wnon-virtual-dtor -Werror)
+
+# talvo_add_layer(NAME SOURCES... [LINK TARGETS...]): the object target of one folder of the library.
+function(talvo_add_layer name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+    add_library(${name} OBJECT ${ARG_SOURCES})
+    target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
+    target_compile_options(${name} PRIVATE ${TALVO_WARNINGS})
+    target_link_libraries(${name} PUBLIC ${ARG_LINK})
+endfunction()
+
+# talvo_add_test(NAME SOURCES... [LINK TARGETS...]): a GoogleTest program, its cases known to CTest.
+function(talvo_add_test name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
+    target_compile_options(${name} PRIVATE ${TALVO_WARNINGS})
+    target_link_libraries(${name} PRIVATE TalvoCorvaneZelmarSerializationThrift GTest::gmock GTest::gtest_main ${ARG_LINK})
+    add_test(NAME ${name} COMMAND ${name})
+endfunction()

@@ -1,0 +1,5 @@
+namespace cpp Talvo.Corvane.Data.Generated
+
+struct Guid {
+    1: string value
+}

@@ -1,0 +1,7 @@
+include "Guid.thrift"
+
+namespace cpp Talvo.Corvane.Zelmar.Serialization.Thrift.Commands.Generated
+
+struct PingCommandParams {
+    1: Guid.Guid commandGuid
+}

@@ -1,0 +1,10 @@
+include "RecorderState.thrift"
+
+namespace cpp Talvo.Corvane.Zelmar.Serialization.Thrift.Notifier.Generated
+
+struct RecorderStateChangedEventArgs {
+    1: i32 channelIndex
+    2: i64 channelSerial
+    3: optional i32 eventFlags
+    4: RecorderState.RecorderState status
+}

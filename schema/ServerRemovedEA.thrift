@@ -1,0 +1,5 @@
+namespace cpp Talvo.Corvane.Zelmar.Serialization.Thrift.Notifier.Generated
+
+struct ServerRemovedEventArgs {
+    1: i32 serverId
+}

@@ -1,0 +1,5 @@
+namespace cpp Talvo.Corvane.Zelmar.Serialization.Thrift.Commands.Generated
+
+struct UnknownCommandReply {
+    1: string commandType
+}
