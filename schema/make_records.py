@@ -1,0 +1,267 @@
+#!/usr/bin/env python3
+"""Makes the C++ wire records from the schema files.
+
+    make_records.py --thrift COMPILER --output FOLDER FILE.thrift...
+
+The Thrift compiler does most of the work. This step finishes what it leaves open, for every schema file:
+
+  <file>_types.h       enumerations get the fixed underlying type int, since any 32-bit number is legal on the wire; each
+                       record declares its fields first, then destructor, fingerprint constants, constructors and setters
+  <file>_types.tcc     as the compiler writes it
+  <file>_types.cpp     printing of records and enumerations, fingerprints and the constants object are appended
+  <file>_constants.h   the class <file>Constants and the object g_<file>_constants
+
+An output file is rewritten only when its text changes. Whatever is not as expected ends the step with one line on
+stderr and exit code 1, so that no half-finished record is ever compiled.
+"""
+
+import argparse
+import hashlib
+import re
+import subprocess
+import sys
+import tempfile
+import xml.etree.ElementTree as ElementTree
+from pathlib import Path
+
+XML = "{http://thrift.apache.org/xml/idl}"
+CPP_OPTIONS = "cpp:templates,moveable_types,no_ostream_operators"
+
+# What stands for a type in the canonical text of a record; binary and string are the same type in C++.
+BASE_TYPES = {"bool": "bool", "byte": "byte", "i8": "byte", "i16": "i16", "i32": "i32", "i64": "i64",
+              "double": "double", "string": "string", "binary": "string"}
+
+
+class StepError(Exception):
+    """Something in the schema or in the compiler's output is not as this step expects it."""
+
+
+class Schema:
+    """One schema file as the compiler's XML describes it."""
+
+    def __init__(self, name, document):
+        self.name = name
+        self.includes = []
+        self.enums = []
+        self.records = {}  # name -> field elements in declaration order
+        self.namespace = None
+        for element in document:
+            kind = element.tag.removeprefix(XML)
+            if kind == "include":
+                self.includes.append(element.get("name"))
+            elif kind == "namespace" and element.get("name") == "cpp":
+                self.namespace = element.get("value").replace(".", "::")
+            elif kind == "enum":
+                self.enums.append(element.get("name"))
+            elif kind == "struct":
+                self.records[element.get("name")] = element.findall(XML + "field")
+            else:
+                raise StepError(f"{name}.thrift: '{kind}' is not supported, only records and enumerations are")
+        if self.namespace is None:
+            raise StepError(f"{name}.thrift: no 'namespace cpp'")
+
+
+def canonical_text(schemas, schema, record):
+    """The text whose MD5 digest is the record's fingerprint: {id:type;...}, nested records written out in full."""
+
+    def type_text(element):
+        kind = element.get("type")
+        if kind in ("list", "set"):
+            return f"{kind}<{type_text(element.find(XML + 'elemType'))}>"
+        if kind == "map":
+            return f"map<{type_text(element.find(XML + 'keyType'))},{type_text(element.find(XML + 'valueType'))}>"
+        if kind == "id":
+            module, name = schemas.get(element.get("type-module")), element.get("type-id")
+            if module and name in module.enums:
+                return "enum"
+            if module and name in module.records:
+                return canonical_text(schemas, module, name)
+        if kind in BASE_TYPES:
+            return BASE_TYPES[kind]
+        raise StepError(f"{schema.name}.thrift: {record} has a field of unknown type '{element.get('type-id', kind)}'")
+
+    def field_text(field):
+        optional = "opt-" if field.get("required") == "optional" else ""
+        return f"{field.get('field-id')}:{optional}{type_text(field)};"
+
+    fields = sorted(schema.records[record], key=lambda field: int(field.get("field-id")))
+    return "{" + "".join(map(field_text, fields)) + "}"
+
+
+def substitute(pattern, replacement, text, what):
+    """Replaces the one match of the pattern; none or several are an error."""
+    text, count = re.subn(pattern, replacement, text, flags=re.DOTALL)
+    if count != 1:
+        raise StepError(f"{what} found {count} times in the compiler's output, expected once")
+    return text
+
+
+def finish_header(schema, text):
+    where = f"{schema.name}_types.h: "
+    for include in schema.includes:
+        if f'#include "{include}_types.h"\n' not in text:
+            raise StepError(f"{where}include of {include}_types.h is missing")
+
+    for enum in schema.enums:
+        text = substitute(rf"(struct {enum} \{{\n  enum type)( \{{\n)", r"\1 : int\2", text, f"{where}enumeration {enum}")
+
+    for record, fields in schema.records.items():
+        def reordered(match):
+            names = [field.get("name") for field in fields]
+            if any(field.get("required") != "required" for field in fields):
+                names.append("__isset")
+            if re.findall(r"(\w+);\n", match["fields"]) != names:
+                raise StepError(f"{where}record {record} does not declare the fields of its schema in their order")
+            constants = "  static const char* const ascii_fingerprint;\n  static const uint8_t binary_fingerprint[16];\n\n"
+            return match["head"] + match["fields"] + match["destructor"] + constants + match["constructors"]
+
+        text = substitute(rf"(?P<head>class {record} \{{\n public:\n\n)"
+                          rf"(?P<constructors>(?:  {record}\([^\n]*\n|  {record}& operator=[^\n]*\n)+.*?\n)"
+                          rf"(?P<destructor>  virtual ~{record}\(\) noexcept;\n)"
+                          r"(?P<fields>.*?\n\n)(?=  void __set_|  bool operator ==)",
+                          reordered, text, f"{where}record {record}")
+
+    if len(re.findall(r"^  enum type", text, re.MULTILINE)) != len(schema.enums):
+        raise StepError(f"{where}an enumeration that the schema does not name")
+    if len(re.findall(r"^class \w+ {", text, re.MULTILINE)) != len(schema.records):
+        raise StepError(f"{where}a record that the schema does not name")
+    return text
+
+
+def enum_printing(enum):
+    return f"""\
+std::string to_string(const {enum}::type& val) {{
+  return std::to_string(static_cast<int>(val));
+}}
+
+std::ostream& operator<<(std::ostream& out, const {enum}::type& val) {{
+  return out << to_string(val);
+}}
+"""
+
+
+def record_printing(record, fields):
+    lines, separator = [], ""
+    for field in fields:
+        name = field.get("name")
+        value = f"to_string(obj.{name})"
+        if field.get("required") == "optional":
+            value = f'(obj.__isset.{name} ? {value} : "<null>")'
+        lines.append(f'  out << "{separator}{name}=" << {value};\n')
+        separator = ", "
+    return f"""\
+std::ostream& operator<<(std::ostream& out, const {record}& obj) {{
+  using ::apache::thrift::to_string;
+  out << "{record}(";
+{''.join(lines)}  return out << ")";
+}}
+"""
+
+
+def fingerprint_constants(record, text):
+    digest = hashlib.md5(text.encode(), usedforsecurity=False)
+    octets = ", ".join(f"0x{octet:02X}" for octet in digest.digest())
+    return f"""\
+const char* const {record}::ascii_fingerprint = "{digest.hexdigest().upper()}";
+const uint8_t {record}::binary_fingerprint[16] = {{{octets}}};
+"""
+
+
+def finish_source(schemas, schema, text):
+    if f'#include "{schema.name}_types.h"\n' not in text or "#include <thrift/TToString.h>\n" not in text:
+        raise StepError(f"{schema.name}_types.cpp: includes are missing in the compiler's output")
+    for enum in schema.enums:
+        if f" _{enum}_VALUES_TO_NAMES(" not in text:
+            raise StepError(f"{schema.name}_types.cpp: names of enumeration {enum} are missing")
+    for record in schema.records:
+        if f"{record}::~{record}()" not in text:
+            raise StepError(f"{schema.name}_types.cpp: record {record} is missing")
+
+    parts = [enum_printing(enum) for enum in schema.enums]
+    for record, fields in schema.records.items():
+        parts.append(fingerprint_constants(record, canonical_text(schemas, schema, record)))
+        parts.append(record_printing(record, fields))
+    parts.append(f"const {schema.name}Constants g_{schema.name}_constants{{}};\n")
+    body = "\n".join(parts)
+    return f'{text}\n#include "{schema.name}_constants.h"\n\nnamespace {schema.namespace} {{\n\n{body}\n}} // namespace\n'
+
+
+def constants_header(schema):
+    return f"""\
+#ifndef {schema.name}_CONSTANTS_H
+#define {schema.name}_CONSTANTS_H
+
+namespace {schema.namespace} {{
+
+class {schema.name}Constants {{}};
+
+extern const {schema.name}Constants g_{schema.name}_constants;
+
+}} // namespace
+
+#endif
+"""
+
+
+def run_compiler(thrift, generator, folder, schema_file):
+    command = [thrift, "--gen", generator, "-out", str(folder), str(schema_file)]
+    try:
+        result = subprocess.run(command, capture_output=True, text=True, check=False)
+    except OSError as error:
+        raise StepError(f"cannot run the Thrift compiler '{thrift}': {error.strerror}") from error
+    if result.returncode != 0:
+        reason = " ".join((result.stderr or result.stdout).split())
+        raise StepError(f"{schema_file.name}: the Thrift compiler failed: {reason}")
+
+
+def read_text(file):
+    try:
+        return file.read_text(encoding="utf-8")
+    except OSError as error:
+        raise StepError(f"{file.name}: {error.strerror}") from error
+
+
+def write_if_changed(file, text):
+    if not file.exists() or file.read_text(encoding="utf-8") != text:
+        file.write_text(text, encoding="utf-8")
+
+
+def make_records(thrift, schema_files, output):
+    with tempfile.TemporaryDirectory() as scratch:
+        scratch = Path(scratch)
+        schemas = {}
+        for file in schema_files:
+            for generator in (CPP_OPTIONS, "xml"):
+                run_compiler(thrift, generator, scratch, file)
+            document = ElementTree.fromstring(read_text(scratch / f"{file.stem}.xml")).find(XML + "document")
+            schemas[file.stem] = Schema(file.stem, document)
+
+        texts = {}
+        for name, schema in schemas.items():
+            for include in schema.includes:
+                if include not in schemas:
+                    raise StepError(f"{name}.thrift: includes {include}.thrift, which is not among the schema files")
+            texts[f"{name}_types.h"] = finish_header(schema, read_text(scratch / f"{name}_types.h"))
+            texts[f"{name}_types.tcc"] = read_text(scratch / f"{name}_types.tcc")
+            texts[f"{name}_types.cpp"] = finish_source(schemas, schema, read_text(scratch / f"{name}_types.cpp"))
+            texts[f"{name}_constants.h"] = constants_header(schema)
+
+    output.mkdir(parents=True, exist_ok=True)
+    for name, text in texts.items():
+        write_if_changed(output / name, text)
+
+
+def main():
+    parser = argparse.ArgumentParser(description="Makes the C++ wire records from the schema files.")
+    parser.add_argument("--thrift", default="thrift", help="the Thrift compiler")
+    parser.add_argument("--output", required=True, type=Path, help="folder of the generated files")
+    parser.add_argument("schema_files", nargs="+", type=Path, metavar="FILE.thrift")
+    arguments = parser.parse_args()
+    try:
+        make_records(arguments.thrift, arguments.schema_files, arguments.output)
+    except StepError as error:
+        sys.exit(f"make_records.py: {error}")
+
+
+if __name__ == "__main__":
+    main()
