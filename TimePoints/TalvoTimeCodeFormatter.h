@@ -1,0 +1,23 @@
+#pragma once
+
+#include "TimePoints/TimeCodeFormatter.h"
+
+namespace Talvo::TimePoints
+{
+
+/// Writes the text form in which time codes travel: `YYYY-MM-DDThh:mm:ss:ff@rate`, with `;` before the frame if the
+/// time code is drop-frame. `rate` is the nominal rate in samples per second. TimeCode::Empty() gives
+/// `1900-01-01T00:00:00:00@50`.
+///
+/// An undated time code has -1 for year, month and day, and a piece below 10 has a "0" in front: its text starts
+/// `-1-0-1-0-1T` and can't be parsed again.
+class TalvoTimeCodeFormatter : public TimeCodeFormatter
+{
+public:
+    ~TalvoTimeCodeFormatter() override;
+
+    /// Allocates the result, nothing else.
+    std::string Format(TimeCode const& timeCode) const override;
+};
+
+} // namespace Talvo::TimePoints

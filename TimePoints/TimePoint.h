@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstdint>
+
+namespace Talvo::TimePoints
+{
+
+/// A position on the timeline of a server, in the server's own unit. Default-built it is Empty().
+struct TimePoint
+{
+    std::int64_t position = -9223372036854775807;
+
+    /// No position: the bit pattern 0x8000000000000001.
+    static constexpr TimePoint Empty() noexcept { return {}; }
+
+    bool operator==(TimePoint const&) const = default;
+};
+
+} // namespace Talvo::TimePoints
