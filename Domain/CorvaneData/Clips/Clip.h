@@ -1,0 +1,171 @@
+#pragma once
+
+#include "Domain/CorvaneData/Clips/Enums.h"
+#include "Domain/CorvaneData/FixedText.h"
+#include "TimePoints/TimeCode.h"
+#include "TimePoints/TimePoint.h"
+
+#include <array>
+#include <cstdint>
+
+namespace Talvo::Corvane::Data::Clips
+{
+
+/// Identifier text inside a clip: up to eight characters, then zero.
+using UmIdText = std::array<char, 9>;
+
+/// A recorded clip: a plain record that owns no memory and is copied as bytes.
+///
+/// Absence is a value: 0 of an enumeration, TimeCode::Empty(), TimePoint::Empty(), RecordingStatus::NotPresent. Two clips
+/// are equal if every field is, every byte of every text included.
+class Clip
+{
+public:
+    /// One recorded form of the clip. A new one is cleared for Essences::Type::Intra.
+    class Essence
+    {
+    public:
+        /// Sets all thirteen fields, whatever they held: `recordingStatus` NotPresent; metadata, compression types and
+        /// compression information to the neutral enumerators of the type (of LongGop: LongGopNone and LongGopXdCam, of
+        /// LowRes: LowResNone, LowResMjpeg and LowResMpeg1Layer2, of Intra: the zero ones); all else 0.
+        void Clear(Essences::Type type) noexcept;
+
+        Essences::Type Type() const noexcept { return type_; } ///< set by Clear() alone
+
+        Essences::Metadata Metadata() const noexcept { return metadata_; }
+        void Metadata(Essences::Metadata value) noexcept { metadata_ = value; }
+
+        Essences::VideoCompressionType VideoCompressionType() const noexcept { return videoCompressionType_; }
+        void VideoCompressionType(Essences::VideoCompressionType value) noexcept { videoCompressionType_ = value; }
+
+        Essences::AudioCompressionType AudioCompressionType() const noexcept { return audioCompressionType_; }
+        void AudioCompressionType(Essences::AudioCompressionType value) noexcept { audioCompressionType_ = value; }
+
+        Essences::VideoCompressionInfo VideoCompressionInfo() const noexcept { return videoCompressionInfo_; }
+        void VideoCompressionInfo(Essences::VideoCompressionInfo value) noexcept { videoCompressionInfo_ = value; }
+
+        bool operator==(Essence const&) const = default;
+
+    private:
+        Essences::Type type_ = Essences::Type::Intra;
+
+    public:
+        Essences::RecordingStatus recordingStatus = Essences::RecordingStatus::NotPresent;
+        Essences::ArchiveStatus archiveStatus = Essences::ArchiveStatus::NoStore;
+
+    private:
+        Essences::Metadata metadata_ = Essences::Metadata::IntraEncodingBitLengthUnknown;
+
+    public:
+        Essences::BlockSize blockSize = Essences::BlockSize::Unknown;
+
+    private:
+        Essences::VideoCompressionType videoCompressionType_ = Essences::VideoCompressionType::IntraMjpegRegular;
+        Essences::AudioCompressionType audioCompressionType_ = Essences::AudioCompressionType::IntraNone;
+        Essences::VideoCompressionInfo videoCompressionInfo_ = Essences::VideoCompressionInfo::IntraNone;
+
+    public:
+        Essences::AudioConfiguration audioConfiguration = Essences::AudioConfiguration::NoAudio;
+        std::int32_t videoCompressionRate = 0;
+        std::int32_t audioCompressionRate = 0;
+        std::int32_t horizontalFrameSize = 0;
+        std::int32_t verticalFrameSize = 0;
+    };
+
+    /// The defaults below; both in-bound time codes are DefaultTimecode(), and the three essences are cleared, each for
+    /// its own type.
+    Clip() noexcept;
+
+    /// A clip as Clip() builds it.
+    static Clip const& Empty() noexcept;
+
+    /// 1900-01-01T00:00:00:00 at 50/1, dated, non-drop. It counts as present: it differs from TimeCode::Empty().
+    static TimePoints::TimeCode DefaultTimecode() noexcept;
+
+    Clips::VideoStandard VideoStandard() const noexcept { return videoStandard_; }
+
+    /// Stores the standard, no more: the time codes are neither checked again nor changed.
+    void VideoStandard(Clips::VideoStandard standard) noexcept;
+
+    TimePoints::TimeCode const& InBoundTodTimecode() const noexcept { return inBoundTodTimecode_; }
+    TimePoints::TimeCode const& InBoundUserTimecode() const noexcept { return inBoundUserTimecode_; }
+
+    /// Stores the time code and returns true, or stores nothing and returns false if its rate does not agree with the
+    /// video standard: Pal agrees with the nominal rates 25, 50 and 100, Ntsc with 24, 30, 48, 60 and 120.
+    /// DefaultTimecode() is taken under either standard, so that a clip whose time codes were never set can be copied
+    /// field by field.
+    bool TrySetInBoundTodTimecode(TimePoints::TimeCode const& timecode) noexcept;
+
+    /// As TrySetInBoundTodTimecode().
+    bool TrySetInBoundUserTimecode(TimePoints::TimeCode const& timecode) noexcept;
+
+    bool operator==(Clip const&) const = default;
+
+    UmIdText umId = BlankUmId;
+    UmIdText sourceUmId = BlankUmId;
+    UmIdText fillAndKeyUmId = BlankUmId;
+    UmIdText materialId = BlankUmId;
+    FixedText<24> name;
+    FixedText<24> reservedName; ///< stays in the process
+    FixedText<32> varId;
+    std::array<FixedText<12>, 5> keywords;
+    std::array<unsigned char, 8> userBits{};
+    bool is3D = false;
+    bool isDual = false;
+    bool isTwinRec = false;
+    bool reservedFlagA = false; ///< stays in the process, as the next two
+    bool reservedFlagB = false;
+    bool reservedFlagC = false;
+    bool isLegacyTimecodeDrop = false;
+    TrainStatus trainStatus = TrainStatus::NotATrain;
+    SourceEngine sourceEngine = SourceEngine::None;
+    UhdDivisionMode uhdDivisionMode = UhdDivisionMode::None;
+    HdrProfile hdrProfile = HdrProfile::Sdr;
+    AlphaArchiveStatus alphaArchiveStatus = AlphaArchiveStatus::None;
+    ArchiveStatus archiveStatus = ArchiveStatus::NoStore;
+    FillAndKeyStatus fillAndKeyStatus = FillAndKeyStatus::None;
+    std::int32_t userProtect = 0;
+    Camera camera = Camera::NotSet;
+    AfdAspectRatio afdAspectRatio = AfdAspectRatio::Unknown;
+    CodedFrameAspectRatio codedFrameAspectRatio = CodedFrameAspectRatio::Unknown;
+    VideoFormat videoFormat = VideoFormat::Sd;
+
+private:
+    Clips::VideoStandard videoStandard_ = Clips::VideoStandard::Pal;
+
+public:
+    TimecodeType userTimecodeType = TimecodeType::AtcVitc;
+    PrimaryTimecode primaryTimecode = PrimaryTimecode::NotSet;
+    Rating rating = Rating::None;
+    PreferentialCamera preferentialCamera = PreferentialCamera::None;
+    std::int32_t reservedValue = 2; ///< stays in the process
+    std::int64_t inBoundField = 0;  ///< in fields, as the next three
+    std::int64_t shortInBoundField = 0;
+    std::int64_t shortOutBoundField = 0;
+    std::int64_t outBoundField = 0;
+    std::uint32_t legacyTimecodeOffset = 0;
+    std::int32_t kviIndex = 0;
+    std::uint32_t userLock = 0;
+    std::uint32_t thumbnailOffset = 0;
+    std::uint32_t sequence = 65535;
+    std::uint32_t machineSerial = 0;
+    std::int32_t nbAudioVideoChannels = 1;
+    std::int32_t dolbyMonoSignal = 0;
+
+private:
+    TimePoints::TimeCode inBoundTodTimecode_;
+    TimePoints::TimeCode inBoundUserTimecode_;
+
+public:
+    TimePoints::TimePoint inBoundTimepoint;
+    Essence intraEssence;
+    Essence longGopEssence;
+    Essence lowResEssence;
+
+private:
+    bool TrySet(TimePoints::TimeCode& destination, TimePoints::TimeCode const& timecode) const noexcept;
+
+    static constexpr UmIdText BlankUmId{' ', ' ', ' ', ' ', ' ', ' ', ' ', ' ', '\0'};
+};
+
+} // namespace Talvo::Corvane::Data::Clips

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+
+namespace Talvo::Corvane::Data::Clips
+{
+
+/// Identifier text of a clip: up to eight single-byte characters. Empty when default-built.
+class UmId
+{
+public:
+    static constexpr std::size_t MaxLength = 8;
+
+    /// Stores the first eight characters at most; the rest is cut.
+    /// @param text NUL-terminated, never null
+    void SetUmId(char const* text) noexcept;
+
+    /// The NUL-terminated text, valid as long as the object.
+    char const* GetUmId() const noexcept { return text_.data(); }
+
+    bool operator==(UmId const&) const = default;
+
+private:
+    std::array<char, MaxLength + 1> text_{}; // zero from the end of the text on
+};
+
+} // namespace Talvo::Corvane::Data::Clips
