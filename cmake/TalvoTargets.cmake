@@ -9,12 +9,13 @@ function(talvo_add_layer name)
     target_link_libraries(${name} PUBLIC ${ARG_LINK})
 endfunction()
 
-# talvo_add_test(NAME SOURCES... [LINK TARGETS...]): a GoogleTest program, its cases known to CTest.
+# talvo_add_test(NAME SOURCES... [LINK TARGETS...]): a GoogleTest program, known to CTest.
 function(talvo_add_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
     target_compile_options(${name} PRIVATE ${TALVO_WARNINGS})
-    target_link_libraries(${name} PRIVATE TalvoCorvaneZelmarSerializationThrift GTest::gmock GTest::gtest_main ${ARG_LINK})
+    target_link_libraries(${name} PRIVATE
+        Talvo::CorvaneZelmarSerializationThrift Thrift::thrift GTest::gmock GTest::gtest_main ${ARG_LINK})
     add_test(NAME ${name} COMMAND ${name})
 endfunction()

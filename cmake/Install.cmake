@@ -1,0 +1,33 @@
+# The install tree can be moved: no file in it holds an absolute path.
+include(CMakePackageConfigHelpers)
+
+set(package TalvoCorvaneZelmarSerializationThrift)
+set(includeRoot ${CMAKE_INSTALL_INCLUDEDIR}/Talvo.Corvane.Zelmar.Serialization.Thrift)
+set(packageFolder ${CMAKE_INSTALL_LIBDIR}/cmake/${package})
+set(schemaFolder ${CMAKE_INSTALL_DATADIR}/Talvo.Corvane.Zelmar.Serialization.Thrift/schema)
+
+install(TARGETS ${package} EXPORT ${package} INCLUDES DESTINATION ${includeRoot})
+install(DIRECTORY Common TimePoints Domain Thrift DESTINATION ${includeRoot}
+    FILES_MATCHING PATTERN "*.h" PATTERN Thrift/Detail EXCLUDE PATTERN TimeCodeText.h EXCLUDE)
+get_target_property(generatedHeaders WireRecords TALVO_GENERATED_HEADERS)
+install(FILES ${generatedHeaders} DESTINATION ${includeRoot}/generated)
+install(DIRECTORY schema/ DESTINATION ${schemaFolder} FILES_MATCHING PATTERN "*.thrift")
+
+if(TARGET talvo-wire)
+    set_target_properties(talvo-wire PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+    install(TARGETS talvo-wire)
+endif()
+
+install(EXPORT ${package} NAMESPACE Talvo:: DESTINATION ${packageFolder} FILE ${package}Targets.cmake)
+configure_package_config_file(cmake/PackageConfig.cmake.in ${package}Config.cmake
+    INSTALL_DESTINATION ${packageFolder} NO_SET_AND_CHECK_MACRO NO_CHECK_REQUIRED_COMPONENTS_MACRO)
+write_basic_package_version_file(${package}ConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES
+    ${PROJECT_BINARY_DIR}/${package}Config.cmake
+    ${PROJECT_BINARY_DIR}/${package}ConfigVersion.cmake
+    cmake/FindThrift.cmake
+    DESTINATION ${packageFolder})
+
+configure_file(cmake/talvo.pc.in talvo-corvane-zelmar-serialization-thrift.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/talvo-corvane-zelmar-serialization-thrift.pc
+    DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
