@@ -1,0 +1,43 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Data::Clips
+{
+class Clip;
+} // namespace Talvo::Corvane::Data::Clips
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips
+{
+
+namespace Generated
+{
+class Clip;
+} // namespace Generated
+
+/// Writes a domain `Clip` into the wire record `Clip`. It can't fail.
+///
+/// The destination is expected to be new and is not reset: fields that are not written keep value and flag.
+/// - Texts of identifiers go out up to their first zero; text slots go out whole, never trimmed or transcoded, with the
+///   flag that says whether they hold UTF-16.
+/// - `keywords` always has five elements. `userBits` are appended to what the destination holds, each 0 to 255.
+/// - The 32-bit `legacyTimecodeOffset`, `userLock`, `thumbnailOffset`, `sequence` and `machineSerial` are
+/// zero-extended.
+/// - These stay off the wire: an optional enumeration that holds 0 (so `HdrProfile::Unknown`), a time code or time
+/// point
+///   that is empty, an essence that is `NotPresent`.
+/// - Lost on the way: the reserved fields, and domain enumerators outside their table, which travel as 0.
+class ClipToThriftConverter : public Converter<Corvane::Data::Clips::Clip, Generated::Clip>
+{
+public:
+    ~ClipToThriftConverter() override = default;
+
+    ConversionResult To(Corvane::Data::Clips::Clip const& source, Generated::Clip& destination) const noexcept override;
+
+    ConversionResult To(Corvane::Data::Clips::Clip&& source, Generated::Clip& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips

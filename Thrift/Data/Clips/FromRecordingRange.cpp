@@ -1,0 +1,25 @@
+#include "Thrift/Data/Clips/FromRecordingRange.h"
+
+#include "Domain/CorvaneData/Clips/RecordingRange.h"
+#include "Thrift/Detail/Flagged.h"
+#include "Thrift/Detail/Results.h"
+#include "Thrift/Detail/TimeCodes.h"
+#include "generated/RecordingRange_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips
+{
+
+using namespace Detail;
+
+ConversionResult RecordingRangeToThriftConverter::To(Corvane::Data::Clips::RecordingRange const& source,
+                                                     Generated::RecordingRange& destination) const noexcept
+{
+    // Empty bounds travel too, unlike those of a clip.
+    TALVO_FLAGGED(destination, inBoundTimepoint) = source.rangeInTimePoint.position;
+    TALVO_FLAGGED(destination, outBoundTimepoint) = source.rangeOutTimePoint.position;
+    TALVO_FLAGGED(destination, inBoundTimecode) = TimeCodeText(source.rangeInTimecode);
+    TALVO_FLAGGED(destination, outBoundTimecode) = TimeCodeText(source.rangeOutTimecode);
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Data::Clips
+{
+struct RecordingRange;
+} // namespace Talvo::Corvane::Data::Clips
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips
+{
+
+namespace Generated
+{
+class RecordingRange;
+} // namespace Generated
+
+/// Writes a domain `RecordingRange` into the wire record `RecordingRange`: all four bounds, empty ones too. It can't
+/// fail.
+class RecordingRangeToThriftConverter
+    : public Converter<Corvane::Data::Clips::RecordingRange, Generated::RecordingRange>
+{
+public:
+    ~RecordingRangeToThriftConverter() override = default;
+
+    ConversionResult To(Corvane::Data::Clips::RecordingRange const& source,
+                        Generated::RecordingRange& destination) const noexcept override;
+
+    ConversionResult To(Corvane::Data::Clips::RecordingRange&& source,
+                        Generated::RecordingRange& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips

@@ -1,0 +1,44 @@
+#include "Thrift/Data/Clips/FromTrain.h"
+
+#include "Domain/CorvaneData/Clips/Train.h"
+#include "Thrift/Data/Clips/FromClip.h"
+#include "Thrift/Data/Clips/FromRecordingRange.h"
+#include "Thrift/Detail/Flagged.h"
+#include "Thrift/Detail/Results.h"
+#include "Thrift/Detail/TimeCodes.h"
+#include "generated/Train_types.h"
+
+#include <tuple>
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips
+{
+
+using namespace Detail;
+
+ConversionResult TrainToThriftConverter::To(Corvane::Data::Clips::Train const& source,
+                                            Generated::Train& destination) const noexcept
+{
+    ClipToThriftConverter const fromClip;
+    RecordingRangeToThriftConverter const fromRange;
+
+    if (source.trainClip != nullptr)
+    {
+        if (auto const result = fromClip.To(*source.trainClip, destination.trainData); !result.success)
+            return Nested(result);
+    }
+    destination.__isset.trainData = source.trainClip != nullptr;
+
+    // Appended: a destination that holds ranges already keeps them in front. That no range fails is not looked at.
+    destination.recordingRanges.reserve(destination.recordingRanges.size() + source.trainRanges.size());
+    for (auto const& range : source.trainRanges)
+        std::ignore = fromRange.To(range, destination.recordingRanges.emplace_back());
+    destination.__isset.recordingRanges = !destination.recordingRanges.empty();
+
+    TALVO_FLAGGED(destination, isInMoving) = source.isInMoving;
+    TALVO_FLAGGED(destination, isOutMoving) = source.isOutMoving;
+    if (IsPresent(source.lastKnownTimeCode))
+        TALVO_FLAGGED(destination, lastKnownTimeCode) = TimeCodeText(source.lastKnownTimeCode);
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Data::Clips
+{
+class Train;
+} // namespace Talvo::Corvane::Data::Clips
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips
+{
+
+namespace Generated
+{
+class Train;
+} // namespace Generated
+
+/// Writes a domain `Train` into the wire record `Train`. It can't fail.
+///
+/// - Without a clip the flag of `trainData` is cleared.
+/// - Ranges are appended to those that the destination holds, and the flag of `recordingRanges` says whether there is
+/// any.
+/// - `lastKnownTimeCode` stays off the wire when it is empty.
+class TrainToThriftConverter : public Converter<Corvane::Data::Clips::Train, Generated::Train>
+{
+public:
+    ~TrainToThriftConverter() override = default;
+
+    ConversionResult To(Corvane::Data::Clips::Train const& source,
+                        Generated::Train& destination) const noexcept override;
+
+    ConversionResult To(Corvane::Data::Clips::Train&& source, Generated::Train& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Data::Clips
+{
+struct RecordingRange;
+} // namespace Talvo::Corvane::Data::Clips
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips
+{
+
+namespace Generated
+{
+class RecordingRange;
+} // namespace Generated
+
+/// Replaces a domain `RecordingRange` by the wire record `RecordingRange`.
+///
+/// Failures, which leave the destination unchanged:
+/// - "RecordingRange is empty": one of the four flags is clear.
+/// - "Invalid TimeCode format": a time code text can't be parsed, whatever is wrong with it.
+class ThriftToRecordingRangeConverter
+    : public Converter<Generated::RecordingRange, Corvane::Data::Clips::RecordingRange>
+{
+public:
+    ~ThriftToRecordingRangeConverter() override = default;
+
+    ConversionResult To(Generated::RecordingRange const& source,
+                        Corvane::Data::Clips::RecordingRange& destination) const noexcept override;
+
+    ConversionResult To(Generated::RecordingRange&& source,
+                        Corvane::Data::Clips::RecordingRange& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips

@@ -1,0 +1,61 @@
+#include "Thrift/Data/Clips/ToTrain.h"
+
+#include "Domain/CorvaneData/Clips/Train.h"
+#include "Thrift/Data/Clips/ToClip.h"
+#include "Thrift/Data/Clips/ToRecordingRange.h"
+#include "Thrift/Detail/Results.h"
+#include "Thrift/Detail/SeenFields.h"
+#include "Thrift/Detail/TimeCodes.h"
+#include "generated/Train_types.h"
+
+#include <cstddef>
+#include <memory>
+#include <tuple>
+#include <utility>
+#include <vector>
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips
+{
+
+using namespace Detail;
+using Corvane::Data::Clips::Clip;
+using Corvane::Data::Clips::RecordingRange;
+using TimePoints::TimeCode;
+
+ConversionResult ThriftToTrainConverter::To(Generated::Train const& source,
+                                            Corvane::Data::Clips::Train& destination) const noexcept
+{
+    ThriftToClipConverter const toClip;
+    ThriftToRecordingRangeConverter const toRange;
+    auto const& isset = source.__isset;
+    SeenFields seen;
+
+    std::unique_ptr<Clip> trainClip;
+    if (seen(isset.trainData))
+    {
+        trainClip = std::make_unique<Clip>();
+        if (auto const result = toClip.To(source.trainData, *trainClip); !result.success) return Nested(result);
+    }
+
+    std::vector<RecordingRange> trainRanges;
+    if (seen(isset.recordingRanges))
+    {
+        // A range that fails stays in the list as an empty one, so that both sides count the same number of ranges.
+        trainRanges.resize(source.recordingRanges.size());
+        for (std::size_t i = 0; i < trainRanges.size(); ++i)
+            std::ignore = toRange.To(source.recordingRanges[i], trainRanges[i]);
+    }
+
+    bool const isInMoving = seen(isset.isInMoving) && source.isInMoving;
+    bool const isOutMoving = seen(isset.isOutMoving) && source.isOutMoving;
+    auto lastKnownTimeCode = seen(isset.lastKnownTimeCode)
+                                 ? ReadTimeCode(source.lastKnownTimeCode).value_or(TimeCode::Empty())
+                                 : TimeCode::Empty();
+
+    // The destination is taken over even when nothing was seen: a train that fails is left empty, not as it was.
+    destination = Corvane::Data::Clips::Train(std::move(trainClip), std::move(trainRanges), isInMoving, isOutMoving,
+                                              std::move(lastKnownTimeCode));
+    return seen.None() ? Failure("Train is empty") : Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips

@@ -1,0 +1,31 @@
+#include "Thrift/Data/FromGuid.h"
+
+#include "Domain/CorvaneData/Guid.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/Guid_types.h"
+
+namespace Talvo::Corvane::Data::Generated
+{
+
+// Orders the keys of the wire's sets and maps: unsigned bytes first, then length, whatever the flags say.
+bool Guid::operator<(Guid const& other) const
+{
+    return value < other.value;
+}
+
+} // namespace Talvo::Corvane::Data::Generated
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data
+{
+
+using namespace Detail;
+
+ConversionResult GuidToThriftConverter::To(Corvane::Data::Guid const& source,
+                                           Corvane::Data::Generated::Guid& destination) const noexcept
+{
+    destination.value.assign(reinterpret_cast<char const*>(source.Bytes()), source.Size);
+    destination.__isset.value = true;
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data

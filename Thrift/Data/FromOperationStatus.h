@@ -1,0 +1,38 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Data
+{
+struct OperationStatus;
+} // namespace Talvo::Corvane::Data
+
+namespace Talvo::Corvane::Data::Generated
+{
+class OperationStatus;
+} // namespace Talvo::Corvane::Data::Generated
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data
+{
+
+/// Writes a domain `OperationStatus` into one field of the wire record `OperationStatus`. It can't fail.
+///
+/// A `Failed` status sends its `result`, any other one its `status`; the field not chosen keeps value and flag. The
+/// result of a status that is not `Failed` is lost.
+class OperationStatusToThriftConverter
+    : public Converter<Corvane::Data::OperationStatus, Corvane::Data::Generated::OperationStatus>
+{
+public:
+    ~OperationStatusToThriftConverter() override = default;
+
+    ConversionResult To(Corvane::Data::OperationStatus const& source,
+                        Corvane::Data::Generated::OperationStatus& destination) const noexcept override;
+
+    ConversionResult To(Corvane::Data::OperationStatus&& source,
+                        Corvane::Data::Generated::OperationStatus& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Data
+{
+class Guid;
+} // namespace Talvo::Corvane::Data
+
+namespace Talvo::Corvane::Data::Generated
+{
+class Guid;
+} // namespace Talvo::Corvane::Data::Generated
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data
+{
+
+/// Replaces a domain `Guid` by the bytes of the wire record `Guid`, or by `Guid::Empty()` when its flag is clear. It
+/// can't fail: of a longer value the first sixteen bytes are taken, a shorter one is filled with zeros.
+class ThriftToGuidConverter : public Converter<Corvane::Data::Generated::Guid, Corvane::Data::Guid>
+{
+public:
+    ~ThriftToGuidConverter() override = default;
+
+    ConversionResult To(Corvane::Data::Generated::Guid const& source,
+                        Corvane::Data::Guid& destination) const noexcept override;
+
+    ConversionResult To(Corvane::Data::Generated::Guid&& source,
+                        Corvane::Data::Guid& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data

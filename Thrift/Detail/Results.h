@@ -1,0 +1,25 @@
+#pragma once
+
+#include "Common/Serialization/ConversionResult.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Detail
+{
+
+/// Costs no allocation.
+inline Common::Serialization::ConversionResult Success() noexcept
+{
+    return {true, {}};
+}
+
+inline Common::Serialization::ConversionResult Failure(char const* const message)
+{
+    return {false, message};
+}
+
+/// Passes a nested failure up: the same text with no prefix, read as a NUL-terminated one.
+inline Common::Serialization::ConversionResult Nested(Common::Serialization::ConversionResult const& failure)
+{
+    return Failure(failure.message.c_str());
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Detail

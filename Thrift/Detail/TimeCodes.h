@@ -1,0 +1,35 @@
+#pragma once
+
+#include "TimePoints/TalvoTimeCodeParser.h"
+#include "TimePoints/TimeCode.h"
+#include "TimePoints/TimeCodeText.h"
+#include "TimePoints/TimePoint.h"
+
+#include <string>
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Detail
+{
+
+// Out: `= TimeCodeText(timeCode)` writes the text straight into the wire's string. Guarded in: `ReadTimeCode(text)` gives
+// nothing for any bad text. Both are the library's time code text without an allocation of its own.
+using TimePoints::ReadTimeCode;
+using TimePoints::TimeCodeText;
+
+/// Unguarded in: for a bad text it throws, which ends the process at the end of a conversion.
+inline TimePoints::TimeCode ParseTimeCode(std::string const& text)
+{
+    return TimePoints::TalvoTimeCodeParser().Parse(text);
+}
+
+/// Empty time codes and time points stay off the wire in optional fields.
+inline bool IsPresent(TimePoints::TimeCode const& timeCode) noexcept
+{
+    return timeCode != TimePoints::TimeCode();
+}
+
+inline bool IsPresent(TimePoints::TimePoint const& timePoint) noexcept
+{
+    return timePoint != TimePoints::TimePoint::Empty();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Detail
