@@ -10,8 +10,10 @@ export function sampleFiles()
 {
     const files = new Map();
     for (const { name, record, value } of samples) {
-        for (const protocol of Object.keys(protocols))
-            files.set(`${name}.${protocol}`, { bytes: writeRecord(schema.get(record), value, protocol), record, protocol, value });
+        for (const protocol of Object.keys(protocols)) {
+            const bytes = writeRecord(schema.get(record), value, protocol);
+            files.set(`${name}.${protocol}`, { bytes, record, protocol, value });
+        }
     }
     const list = [...files].map(([file, { record }]) => `${file} ${record}\n`).join('');
     files.set('samples.txt', { bytes: Buffer.from(list) });
@@ -25,7 +27,7 @@ function index()
     return `# Wire samples
 
 Small records, written by \`tests/peer/make-samples.mjs\` through another implementation of the wire format than ours.
-Each is there as \`<name>.binary\` and \`<name>.compact\`; \`samples.txt\` lists all files with their records for programs.
+Each is there as \`<name>.binary\` and \`<name>.compact\`; programs find all files and their records in \`samples.txt\`.
 
     talvo-wire print Clip examples/samples/clip-two-essences.binary
     talvo-wire convert Clip examples/samples/clip-long-texts.compact -p compact

@@ -50,8 +50,9 @@ const range = (firstHour, lastHour) => ({
 
 const atTimepoint = timepoint =>
     ({ type: 'Absolute', specializedLoadBoundary: { absoluteLoadBoundary: { timepoint } } });
-const fieldsFromClip = fieldCount =>
-    ({ type: 'RelativeToCorrespondingClipBoundary', specializedLoadBoundary: { relativeLoadBoundary: { fieldCount } } });
+const fieldsFromClip = fieldCount => ({
+    type: 'RelativeToCorrespondingClipBoundary', specializedLoadBoundary: { relativeLoadBoundary: { fieldCount } },
+});
 
 // What a TimePoint holds when it is empty: 0x8000000000000001.
 const emptyTimepoint = -0x7fffffffffffffffn;
@@ -150,7 +151,7 @@ export const samples = [
     { name: 'train-bad-ranges', record: 'Train',
         value: { recordingRanges: [range(10, 12), { ...range(13, 14), outBoundTimecode: undefined },
             { ...range(15, 16), inBoundTimecode: '2024-02-30T15:00:00:00@50' }], isInMoving: true },
-        shows: 'a good range, one without its out time code and one with a day that does not exist: both become empty' },
+        shows: 'a good range, one without its out time code, one with a day that does not exist: both become empty' },
     { name: 'train-bad-last-time-code', record: 'Train', value: { lastKnownTimeCode: '2024-06-15 18:30:00:00@50' },
         shows: 'a malformed last time code as the only field: skipped, and still no failure' },
     { name: 'guid', record: 'Guid', value: guid(0xfe), shows: 'sixteen raw bytes, zeros among them' },
@@ -166,7 +167,8 @@ export const samples = [
         shows: 'two players at half speed backwards' },
     { name: 'load-clips-command', record: 'LoadClipsCommandParams',
         value: { commandGuid: guid(30), playersParameters: [
-            [guid(32), { clip: guid(33), timepoint: emptyTimepoint, inBoundary: atTimepoint(-1n), outBoundary: fieldsFromClip(100n) }],
+            [guid(32), { clip: guid(33), timepoint: emptyTimepoint, inBoundary: atTimepoint(-1n),
+                outBoundary: fieldsFromClip(100n) }],
             [guid(31), { clip: guid(34) }]] },
         shows: 'a map whose keys are identifiers; the second entry holds a clip alone' },
     { name: 'get-clips-reply', record: 'GetClipsCommandReply',
@@ -174,12 +176,12 @@ export const samples = [
             clips: [shortClip('A1B2C3D4', 'First'), { ...shortClip('A1B2C3D5', 'Second'), lowResEssence }] },
         shows: 'two clips and a revision that a double cannot hold' },
     { name: 'player-state', record: 'PlayerState', value: playerState,
-        shows: 'a playing channel, a malformed time code that is skipped and a speed without its numerator that is ignored' },
+        shows: 'a playing channel; a malformed time code and a speed without its numerator are skipped' },
     { name: 'recorder-state', record: 'RecorderState',
         value: { serial: 310042n, channelIndex: 0, name: 'A recorder name of more than 24 bytes', status: 'Recording',
-            isFirstTimePointRunning: true, firstTimePoint: 9007199254740993n, lastTodTimecode: '2024-06-15T18:30:00:00@50',
-            primaryTimecodeType: 'User', remainingCapacity: 150n, totalCapacity: 100n,
-            recorderTrain: shortClip('TRAIN001', 'Camera A') },
+            isFirstTimePointRunning: true, firstTimePoint: 9007199254740993n,
+            lastTodTimecode: '2024-06-15T18:30:00:00@50', primaryTimecodeType: 'User',
+            remainingCapacity: 150n, totalCapacity: 100n, recorderTrain: shortClip('TRAIN001', 'Camera A') },
         shows: 'a recording channel whose remaining capacity is clamped to the total' },
     { name: 'server-info', record: 'ServerInfo',
         value: { serverId: 3, userNumber: 12, corvaneVersion: '4.01.28, built from the release branch of June',
@@ -187,16 +189,21 @@ export const samples = [
             kronoIpAddress: 0xc0a80102 | 0, gbeIpAddresses: [0x0a000001, 0x0a000002], isLocal: true },
         shows: 'a version text that is cut, and addresses with the top bit set and clear' },
     { name: 'playlist', record: 'Playlist',
-        value: { audioVideoTrack: { elements: [element(1, 'A1B2C3D4', { tags: [tag] }), element(2, 'A1B2C3D5', { tags: [] })] },
+        value: {
+            audioVideoTrack: {
+                elements: [element(1, 'A1B2C3D4', { tags: [tag] }), element(2, 'A1B2C3D5', { tags: [] })] },
             auxTrackClipUmId: 'AUX00001', sequence: playlistHeader },
         shows: 'two elements, a tag with three properties and a header at 30000/1001' },
     { name: 'playlist-count-only', record: 'Playlist',
-        value: { audioVideoTrack: { numberOfElements: 250 }, sequence: { ...playlistHeader, playRateNumerator: 25000n } },
+        value: { audioVideoTrack: { numberOfElements: 250 },
+            sequence: { ...playlistHeader, playRateNumerator: 25000n } },
         shows: 'the light form of a listing; its bad play rate is not reported' },
     { name: 'clip-creation-finished', record: 'ClipCreationFinishedEventArgs',
-        value: { clipCommand: { localMachineSerial: 310042n, requestSource: 'panel-1', operationNumber: 5, userTicket: -1,
-            commandGuid: guid(50), subCommandIndex: 1 }, sourceClip: { ...clip, intraEssence }, newClip: shortClip('NEW00001', 'Copy'),
-        creationType: 'Copy', networkType: 'Local', databaseRevision: 9007199254740993n },
+        value: {
+            clipCommand: { localMachineSerial: 310042n, requestSource: 'panel-1', operationNumber: 5, userTicket: -1,
+                commandGuid: guid(50), subCommandIndex: 1 },
+            sourceClip: { ...clip, intraEssence }, newClip: shortClip('NEW00001', 'Copy'),
+            creationType: 'Copy', networkType: 'Local', databaseRevision: 9007199254740993n },
         shows: 'an event with the clip that was copied and the new one' },
     { name: 'player-state-changed', record: 'PlayerStateChangedEventArgs',
         value: { channelIndex: 2, channelSerial: 310042n, eventFlags: 0x40, status: playerState },

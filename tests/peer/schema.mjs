@@ -38,6 +38,7 @@ export function readSchema(folder)
 
 function resolve(type, scope, definitions)
 {
+    const resolved = part => resolve(part, scope, definitions);
     switch (type.kind) {
     case 'name': {
         const fullName = type.name.includes('.') ? type.name : `${scope}.${type.name}`;
@@ -48,9 +49,9 @@ function resolve(type, scope, definitions)
     }
     case 'list':
     case 'set':
-        return { kind: type.kind, element: resolve(type.element, scope, definitions) };
+        return { kind: type.kind, element: resolved(type.element) };
     case 'map':
-        return { kind: 'map', key: resolve(type.key, scope, definitions), value: resolve(type.value, scope, definitions) };
+        return { kind: 'map', key: resolved(type.key), value: resolved(type.value) };
     default:
         return type;
     }

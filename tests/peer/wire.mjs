@@ -51,7 +51,8 @@ function write(protocol, type, value)
     case 'i32': return protocol.writeI32(checked(value, (value | 0) === value, type));
     case 'enum': return protocol.writeI32(enumNumber(type, value));
     case 'i64': return protocol.writeI64(toInt64(checked(value, BigInt.asIntN(64, value) === value, type)));
-    case 'string': return protocol.writeBinary(Buffer.from(checked(value, /^[\0-\xff]*$/.test(value), type), 'latin1'));
+    case 'string':
+        return protocol.writeBinary(Buffer.from(checked(value, /^[\0-\xff]*$/.test(value), type), 'latin1'));
     case 'list':
         protocol.writeListBegin(wireTypes[type.element.kind], value.length);
         value.forEach(element => write(protocol, type.element, element));
@@ -146,7 +147,7 @@ function expectFields(record, value)
     const unknown = Object.keys(value).find(name => !record.fields.some(field => field.name === name));
     if (unknown)
         throw new Error(`${record.name} has no field ${unknown}`);
-    const missing = record.fields.find(({ name, requiredness }) => requiredness === 'required' && value[name] === undefined);
+    const missing = record.fields.find(field => field.requiredness === 'required' && value[field.name] === undefined);
     if (missing)
         throw new Error(`${record.name}.${missing.name} is required`);
 }
@@ -201,7 +202,8 @@ function canonical(type, value)
     case 'i64': return String(value);
     case 'list': return value.map(element => canonical(type.element, element));
     case 'set': return sorted(value.map(element => canonical(type.element, element)));
-    case 'map': return sorted(value.map(([key, mapped]) => [canonical(type.key, key), canonical(type.value, mapped)]));
+    case 'map':
+        return sorted(value.map(([key, mapped]) => [canonical(type.key, key), canonical(type.value, mapped)]));
     case 'record':
         expectFields(type, value);
         return Object.fromEntries(type.fields.filter(({ name }) => value[name] !== undefined)
