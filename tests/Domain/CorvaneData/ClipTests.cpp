@@ -1,0 +1,200 @@
+#include "Domain/CorvaneData/Clips/Clip.h"
+#include "Domain/CorvaneData/Clips/Train.h"
+#include "TimePoints/TimeCodeBuilder.h"
+
+#include <gmock/gmock.h>
+
+#include <cstdint>
+#include <memory>
+#include <set>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace Talvo::Corvane::Data::Clips
+{
+namespace
+{
+
+using TimePoints::TimeCode;
+using TimePoints::TimeCodeBuilder;
+using TimePoints::TimePoint;
+
+std::vector<std::int64_t> Numbers(auto... values)
+{
+    return {static_cast<std::int64_t>(values)...};
+}
+
+TEST(Clip, HasItsDefaultsWhenNew)
+{
+    Clip const clip;
+
+    for (UmIdText const& text : {clip.umId, clip.sourceUmId, clip.fillAndKeyUmId, clip.materialId})
+        EXPECT_EQ(std::string_view(text.data(), text.size()), std::string_view("        \0", 9));
+    auto const expectBlank = [](auto const& text, std::size_t size)
+    {
+        EXPECT_EQ(text.payload.size(), size);
+        EXPECT_THAT(text.payload, testing::Each(' '));
+        EXPECT_THAT(text.end, testing::Each('\0'));
+        EXPECT_FALSE(text.isUtf16);
+    };
+    expectBlank(clip.name, 24);
+    expectBlank(clip.reservedName, 24);
+    expectBlank(clip.varId, 32);
+    EXPECT_EQ(clip.keywords.size(), 5u);
+    for (auto const& keyword : clip.keywords) expectBlank(keyword, 12);
+    EXPECT_THAT(clip.userBits, testing::AllOf(testing::SizeIs(8), testing::Each(0)));
+
+    // What is not zero.
+    EXPECT_EQ(clip.hdrProfile, HdrProfile::Sdr);
+    EXPECT_EQ(clip.userTimecodeType, TimecodeType::AtcVitc);
+    EXPECT_EQ(clip.reservedValue, 2);
+    EXPECT_EQ(clip.sequence, 65535u);
+    EXPECT_EQ(clip.nbAudioVideoChannels, 1);
+    EXPECT_EQ(clip.inBoundTimepoint, TimePoint::Empty());
+    EXPECT_EQ(clip.InBoundTodTimecode(), Clip::DefaultTimecode());
+    EXPECT_EQ(clip.InBoundUserTimecode(), Clip::DefaultTimecode());
+
+    // What is.
+    for (bool const flag : {clip.is3D, clip.isDual, clip.isTwinRec, clip.reservedFlagA, clip.reservedFlagB,
+                            clip.reservedFlagC, clip.isLegacyTimecodeDrop})
+        EXPECT_FALSE(flag);
+    EXPECT_THAT(Numbers(clip.trainStatus, clip.sourceEngine, clip.uhdDivisionMode, clip.alphaArchiveStatus,
+                        clip.archiveStatus, clip.fillAndKeyStatus, clip.userProtect, clip.camera, clip.afdAspectRatio,
+                        clip.codedFrameAspectRatio, clip.videoFormat, clip.VideoStandard(), clip.primaryTimecode,
+                        clip.rating, clip.preferentialCamera, clip.inBoundField, clip.shortInBoundField,
+                        clip.shortOutBoundField, clip.outBoundField, clip.legacyTimecodeOffset, clip.kviIndex,
+                        clip.userLock, clip.thumbnailOffset, clip.machineSerial, clip.dolbyMonoSignal),
+                testing::Each(0));
+
+    EXPECT_EQ(clip.intraEssence, Clip::Essence());
+    EXPECT_EQ(clip.longGopEssence.Type(), Essences::Type::LongGop);
+    EXPECT_EQ(clip.lowResEssence.Type(), Essences::Type::LowRes);
+    EXPECT_EQ(Clip::Empty(), clip);
+
+    EXPECT_EQ(Clip::DefaultTimecode(), TimeCodeBuilder{.numerator = 50}.Build());
+    EXPECT_NE(Clip::DefaultTimecode(), TimeCode::Empty());
+}
+
+TEST(Clip, DiffersInAnyByteOfAText)
+{
+    Clip clip;
+    clip.name.payload.back() = '\0'; // padded with zeros instead of blanks
+    EXPECT_NE(clip, Clip());
+    clip = Clip();
+    clip.keywords[4].isUtf16 = true;
+    EXPECT_NE(clip, Clip());
+}
+
+TEST(Clip, TakesOnlyTimeCodesOfItsVideoStandard)
+{
+    std::set<int> const palRates{25, 50, 100};
+    std::set<int> const ntscRates{24, 30, 48, 60, 120};
+    for (auto const& [standard, accepted] :
+         {std::pair(VideoStandard::Pal, palRates), std::pair(VideoStandard::Ntsc, ntscRates)})
+        for (int rate = 1; rate <= 240; ++rate)
+        {
+            Clip clip;
+            clip.VideoStandard(standard);
+            auto const timecode = TimeCodeBuilder{.year = 2020, .hour = 1, .numerator = rate}.Build();
+            bool const agrees = accepted.contains(rate);
+            auto const& expected = agrees ? timecode : Clip::DefaultTimecode();
+
+            EXPECT_EQ(clip.TrySetInBoundTodTimecode(timecode), agrees) << rate;
+            EXPECT_EQ(clip.InBoundTodTimecode(), expected) << rate;
+            EXPECT_EQ(clip.InBoundUserTimecode(), Clip::DefaultTimecode()) << rate;
+            EXPECT_EQ(clip.TrySetInBoundUserTimecode(timecode), agrees) << rate;
+            EXPECT_EQ(clip.InBoundUserTimecode(), expected) << rate;
+        }
+}
+
+TEST(Clip, TakesTheDefaultTimecodeUnderEitherStandardAndKeepsItWhenTheStandardChanges)
+{
+    auto const ntscTimecode = TimeCodeBuilder{.hour = 1, .numerator = 60, .dropFrame = true}.Build();
+    Clip clip;
+    clip.VideoStandard(VideoStandard::Ntsc);
+    ASSERT_TRUE(clip.TrySetInBoundTodTimecode(ntscTimecode) && clip.TrySetInBoundUserTimecode(ntscTimecode));
+    clip.VideoStandard(VideoStandard::Pal);
+    EXPECT_EQ(clip.VideoStandard(), VideoStandard::Pal);
+    EXPECT_EQ(clip.InBoundTodTimecode(), ntscTimecode);
+
+    clip.VideoStandard(VideoStandard::Ntsc);
+    EXPECT_TRUE(clip.TrySetInBoundTodTimecode(Clip::DefaultTimecode()));
+    EXPECT_TRUE(clip.TrySetInBoundUserTimecode(Clip::DefaultTimecode()));
+    EXPECT_EQ(clip.InBoundTodTimecode(), Clip::DefaultTimecode());
+    EXPECT_EQ(clip.InBoundUserTimecode(), Clip::DefaultTimecode());
+
+    auto const oneSampleLater = TimeCodeBuilder{.sample = 1}.Build();
+    EXPECT_FALSE(clip.TrySetInBoundTodTimecode(oneSampleLater));
+}
+
+TEST(ClipEssence, ClearSetsEveryFieldToTheNeutralOnesOfTheType)
+{
+    using namespace Essences;
+    struct Row
+    {
+        Essences::Type type;
+        Essences::Metadata metadata;
+        Essences::VideoCompressionType video;
+        Essences::AudioCompressionType audio;
+        Essences::VideoCompressionInfo info;
+    };
+    for (Row const& row : {Row{Type::Intra, Metadata{}, VideoCompressionType{}, AudioCompressionType{}, {}},
+                           Row{Type::LongGop, Metadata::LongGopNone, VideoCompressionType::LongGopXdCam,
+                               AudioCompressionType::LongGopNone, VideoCompressionInfo::LongGopNone},
+                           Row{Type::LowRes, Metadata::LowResNone, VideoCompressionType::LowResMjpeg,
+                               AudioCompressionType::LowResMpeg1Layer2, VideoCompressionInfo::LowResNone}})
+    {
+        Clip::Essence essence;
+        essence.recordingStatus = RecordingStatus::OnDisk;
+        essence.archiveStatus = Essences::ArchiveStatus::Stored;
+        essence.Metadata(Metadata::IntraEncodingBitLength10);
+        essence.blockSize = BlockSize::MB16;
+        essence.VideoCompressionType(VideoCompressionType::IntraXAvc480);
+        essence.AudioCompressionType(AudioCompressionType{7}); // the setters check nothing
+        essence.VideoCompressionInfo(VideoCompressionInfo::IntraProResLt);
+        essence.audioConfiguration = AudioConfiguration::ThirtyTwoMonos;
+        essence.videoCompressionRate = essence.audioCompressionRate = 1;
+        essence.horizontalFrameSize = essence.verticalFrameSize = 1;
+
+        essence.Clear(row.type);
+
+        EXPECT_EQ(essence.Type(), row.type);
+        EXPECT_EQ(essence.recordingStatus, RecordingStatus::NotPresent);
+        EXPECT_EQ(essence.Metadata(), row.metadata);
+        EXPECT_EQ(essence.VideoCompressionType(), row.video);
+        EXPECT_EQ(essence.AudioCompressionType(), row.audio);
+        EXPECT_EQ(essence.VideoCompressionInfo(), row.info);
+
+        EXPECT_THAT(Numbers(essence.archiveStatus, essence.blockSize, essence.audioConfiguration,
+                            essence.videoCompressionRate, essence.audioCompressionRate, essence.horizontalFrameSize,
+                            essence.verticalFrameSize),
+                    testing::Each(0));
+        if (row.type == Type::Intra) EXPECT_EQ(essence, Clip::Essence());
+    }
+}
+
+TEST(Train, MovesItsClipAndRanges)
+{
+    auto const lastTimecode = Clip::DefaultTimecode();
+    auto clip = std::make_unique<Clip>();
+    auto const* const address = clip.get();
+    RecordingRange range;
+    EXPECT_EQ(range, (RecordingRange{TimePoint::Empty(), TimePoint::Empty(), TimeCode::Empty(), TimeCode::Empty()}));
+    range.rangeInTimePoint = TimePoint{5};
+
+    Train source(std::move(clip), {range, RecordingRange()}, true, false, TimeCode(lastTimecode));
+    Train destination(nullptr, {}, false, true, TimeCode());
+    EXPECT_EQ(destination.trainClip, nullptr);
+    EXPECT_EQ(destination.lastKnownTimeCode, TimeCode::Empty());
+
+    destination = std::move(source);
+    EXPECT_EQ(destination.trainClip.get(), address);
+    EXPECT_THAT(destination.trainRanges, testing::ElementsAre(range, RecordingRange()));
+    EXPECT_TRUE(destination.isInMoving);
+    EXPECT_FALSE(destination.isOutMoving);
+    EXPECT_EQ(destination.lastKnownTimeCode, lastTimecode);
+}
+
+} // namespace
+} // namespace Talvo::Corvane::Data::Clips
