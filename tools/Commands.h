@@ -1,0 +1,50 @@
+#pragma once
+
+#include "tools/Protocols.h"
+
+#include <string>
+
+namespace Talvo::Tools
+{
+
+/// Exit statuses of the tool.
+enum class ExitStatus
+{
+    Done = 0,
+    ConversionFailed = 1,
+    BadInput = 2
+};
+
+/// A record in a file.
+struct Source
+{
+    std::string record; ///< Name of its type.
+    std::string path;   ///< "-" for standard input.
+    Protocol protocol;
+};
+
+/// Where a record is written to.
+struct Target
+{
+    std::string path; ///< "-" for standard output; empty for nowhere.
+    Protocol protocol;
+};
+
+// The tool's commands. Results go to standard output, notes and the messages of failed conversions to standard error;
+// everything else that goes wrong is thrown as Failure.
+
+/// Prints every record's name, namespace and directions.
+void List();
+
+/// Prints one line for each value of a record.
+void Print(Source const& source);
+
+/// Converts a record to the domain and back, prints what each conversion said and every value that came back different,
+/// and writes the record that came back. A time code that its converter reads unguarded ends the process when it is
+/// malformed, as it does in any other caller of the converter.
+ExitStatus Convert(Source const& source, Target const& target);
+
+/// Writes a record in another protocol. Notes on standard error where that protocol can't carry it unchanged.
+void Transcode(Source const& source, Target const& target);
+
+} // namespace Talvo::Tools

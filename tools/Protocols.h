@@ -1,0 +1,47 @@
+#pragma once
+
+#include "tools/RecordType.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace Talvo::Tools
+{
+
+enum class Protocol
+{
+    Binary,
+    Compact,
+    Json
+};
+
+/// The largest file that is read, in bytes, and the most elements that one list, set or map may claim.
+inline constexpr std::size_t MaxFileSize = 64 * 1024 * 1024;
+inline constexpr std::uint32_t MaxContainerSize = 100'000;
+
+/// The protocol named `binary`, `compact` or `json`. Throws Failure for any other name.
+Protocol ParseProtocol(std::string_view name);
+
+std::string_view Name(Protocol protocol);
+
+/// A record and what was odd in its bytes.
+struct Decoded
+{
+    std::unique_ptr<WireRecord> record;
+    std::size_t skippedFields; ///< Fields of an id or type that the record does not have, nested records aside.
+};
+
+/// Reads one record from all of `bytes`. Throws Failure where they are empty, cut off, followed by more, not of that
+/// protocol or hold no field of such a record.
+///
+/// A claimed size allocates nothing beyond what the bytes could hold: Thrift's limits are set to their number, and the
+/// elements of all containers are counted against it.
+Decoded Decode(std::string const& bytes, Protocol protocol, RecordType const& type);
+
+/// The record as one message without frame.
+std::string Encode(WireRecord const& record, Protocol protocol);
+
+} // namespace Talvo::Tools
