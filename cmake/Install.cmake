@@ -8,7 +8,9 @@ set(schemaFolder ${CMAKE_INSTALL_DATADIR}/Talvo.Corvane.Zelmar.Serialization.Thr
 
 install(TARGETS ${package} EXPORT ${package} INCLUDES DESTINATION ${includeRoot})
 install(DIRECTORY Common TimePoints Domain Thrift DESTINATION ${includeRoot}
-    FILES_MATCHING PATTERN "*.h" PATTERN Thrift/Detail EXCLUDE PATTERN TimeCodeText.h EXCLUDE)
+    FILES_MATCHING PATTERN "*.h"
+    PATTERN Thrift/Detail EXCLUDE
+    REGEX "TimePoints/(SampleUnits|TimeCodeBreakdown|TimeCodeText)\\.h$" EXCLUDE)
 get_target_property(generatedHeaders WireRecords TALVO_GENERATED_HEADERS)
 install(FILES ${generatedHeaders} DESTINATION ${includeRoot}/generated)
 install(DIRECTORY schema/ DESTINATION ${schemaFolder} FILES_MATCHING PATTERN "*.thrift")
@@ -28,6 +30,7 @@ install(FILES
     cmake/FindThrift.cmake
     DESTINATION ${packageFolder})
 
+file(RELATIVE_PATH toPrefix /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
 configure_file(cmake/talvo.pc.in talvo-corvane-zelmar-serialization-thrift.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/talvo-corvane-zelmar-serialization-thrift.pc
     DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
