@@ -51,11 +51,3 @@ unsigned int Guid::MachineSerial() const noexcept
 }
 
 } // namespace Talvo::Corvane::Data::Channels
-
-std::size_t std::hash<Talvo::Corvane::Data::Channels::Guid>::operator()(
-    Talvo::Corvane::Data::Channels::Guid const& guid) const noexcept
-{
-    std::uint32_t value = 0;
-    for (unsigned int i = 0; i < guid.Size; ++i) value = value * 31 + guid.Bytes()[i];
-    return value;
-}

@@ -44,5 +44,10 @@ public:
 template<>
 struct std::hash<Talvo::Corvane::Data::Channels::Guid>
 {
-    std::size_t operator()(Talvo::Corvane::Data::Channels::Guid const& guid) const noexcept;
+    std::size_t operator()(Talvo::Corvane::Data::Channels::Guid const& guid) const noexcept
+    {
+        std::uint32_t value = 0;
+        for (unsigned int i = 0; i < guid.Size; ++i) value = value * 31 + guid.Bytes()[i];
+        return value;
+    }
 };

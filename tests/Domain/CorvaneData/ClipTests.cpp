@@ -165,12 +165,11 @@ TEST(ClipEssence, ClearSetsEveryFieldToTheNeutralOnesOfTheType)
         EXPECT_EQ(essence.VideoCompressionType(), row.video);
         EXPECT_EQ(essence.AudioCompressionType(), row.audio);
         EXPECT_EQ(essence.VideoCompressionInfo(), row.info);
-
         EXPECT_THAT(Numbers(essence.archiveStatus, essence.blockSize, essence.audioConfiguration,
                             essence.videoCompressionRate, essence.audioCompressionRate, essence.horizontalFrameSize,
                             essence.verticalFrameSize),
                     testing::Each(0));
-        if (row.type == Type::Intra) EXPECT_EQ(essence, Clip::Essence());
+        EXPECT_EQ(essence == Clip::Essence(), row.type == Type::Intra);
     }
 }
 
