@@ -1,0 +1,293 @@
+#include "tests/Thrift/Data/Clips/Values.h"
+
+#include "Thrift/Data/Clips/FromClip.h"
+#include "Thrift/Data/Clips/FromEssence.h"
+#include "Thrift/Data/Clips/ToClip.h"
+#include "Thrift/Data/Clips/ToEssence.h"
+#include "generated/Clip_types.h"
+#include "tests/Thrift/RoundTrip.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace Talvo::Tests
+{
+namespace
+{
+
+using namespace Corvane::Zelmar::Serialization::Thrift::Data::Clips;
+using Corvane::Data::Clips::Clip;
+using Corvane::Data::Clips::VideoStandard;
+using testing::Each;
+using testing::ElementsAre;
+
+namespace Essences = Corvane::Data::Clips::Essences;
+
+Generated::Clip Sent(Clip const& clip)
+{
+    Generated::Clip wire;
+    EXPECT_TRUE(ClipToThriftConverter().To(clip, wire).success);
+    return wire;
+}
+
+Clip Received(Generated::Clip const& wire, Clip clip = Clip())
+{
+    EXPECT_TRUE(ThriftToClipConverter().To(wire, clip).success);
+    return clip;
+}
+
+std::string Refused(Generated::Clip const& wire, Clip& clip)
+{
+    auto const result = ThriftToClipConverter().To(wire, clip);
+    EXPECT_FALSE(result.success);
+    return result.message;
+}
+
+std::string Text(auto const& payload)
+{
+    return {payload.begin(), payload.end()};
+}
+
+TEST(EssenceConversion, RoundTrip)
+{
+    for (auto const type : {Essences::Type::Intra, Essences::Type::LongGop, Essences::Type::LowRes})
+    {
+        ExpectRoundTrip<EssenceToThriftConverter, ThriftToEssenceConverter, Generated::Essence>(FullEssence(type));
+        ExpectFieldByField<EssenceToThriftConverter, ThriftToEssenceConverter, Generated::Essence>(FullEssence(type));
+        Clip::Essence cleared;
+        cleared.Clear(type);
+        ExpectRoundTrip<EssenceToThriftConverter, ThriftToEssenceConverter, Generated::Essence>(cleared);
+    }
+}
+
+TEST(EssenceConversion, TypeResetsAndOtherFieldsPatch)
+{
+    Generated::Essence wire;
+    wire.__isset.verticalFrameSize = true;
+    wire.verticalFrameSize = 7;
+    auto expected = FullEssence(Essences::Type::LowRes);
+    auto essence = expected;
+    EXPECT_TRUE(ThriftToEssenceConverter().To(wire, essence).success);
+    expected.verticalFrameSize = 7;
+    EXPECT_EQ(essence, expected);
+
+    wire.__isset.type = true;
+    wire.type = Generated::Type::LongGop;
+    EXPECT_TRUE(ThriftToEssenceConverter().To(wire, essence).success);
+    expected.Clear(Essences::Type::LongGop);
+    expected.verticalFrameSize = 7;
+    EXPECT_EQ(essence, expected);
+
+    auto const result = ThriftToEssenceConverter().To(Generated::Essence(), essence);
+    EXPECT_FALSE(result.success);
+    EXPECT_EQ(result.message, "Essence is empty");
+    EXPECT_EQ(essence, expected);
+}
+
+TEST(ClipConversion, RoundTrip)
+{
+    ExpectRoundTrip<ClipToThriftConverter, ThriftToClipConverter, Generated::Clip>(FullClip(), NtscClip());
+    ExpectFieldByField<ClipToThriftConverter, ThriftToClipConverter, Generated::Clip>(FullClip(), NtscClip());
+    ExpectRoundTrip<ClipToThriftConverter, ThriftToClipConverter, Generated::Clip>(Clip());
+}
+
+TEST(ClipConversion, ReservedFieldsStayInTheProcess)
+{
+    Clip clip;
+    clip.reservedName.isUtf16 = true;
+    clip.reservedFlagA = clip.reservedFlagB = clip.reservedFlagC = true;
+    clip.reservedValue = 99;
+    EXPECT_EQ(Received(Sent(clip)), Clip());
+    EXPECT_EQ(Received(Sent(Clip()), clip), clip);
+}
+
+TEST(ClipConversion, FreshClipSendsItsDefaultsAndNoAbsentField)
+{
+    auto const wire = Sent(Clip());
+    EXPECT_EQ(wire.umId, "        ");
+    EXPECT_EQ(wire.name.data, std::string(24, ' '));
+    EXPECT_EQ(wire.varId.data, std::string(32, ' '));
+    EXPECT_EQ(wire.keywords.size(), 5u);
+    EXPECT_THAT(wire.userBits, testing::AllOf(testing::SizeIs(8), Each(0)));
+    EXPECT_EQ(wire.hdrProfile, Generated::HdrProfile::Sdr);
+    EXPECT_EQ(wire.inBoundTodTimecode, "1900-01-01T00:00:00:00@50");
+    EXPECT_EQ(wire.inBoundUserTimecode, "1900-01-01T00:00:00:00@50");
+    auto const& isset = wire.__isset;
+    EXPECT_TRUE(isset.hdrProfile && isset.inBoundTodTimecode && isset.inBoundUserTimecode);
+    EXPECT_FALSE(isset.sourceEngine || isset.uhdDivisionMode || isset.alphaArchiveStatus || isset.fillAndKeyStatus ||
+                 isset.camera || isset.afdAspectRatio || isset.codedFrameAspectRatio || isset.primaryTimecode ||
+                 isset.rating || isset.preferentialCamera);
+    EXPECT_FALSE(isset.sourceInBoundTodTimecode || isset.sourceInBoundUserTimecode || isset.inBoundTimepoint ||
+                 isset.intraEssence || isset.longGopEssence || isset.lowResEssence);
+
+    Clip clip;
+    clip.hdrProfile = Corvane::Data::Clips::HdrProfile::Unknown;
+    EXPECT_FALSE(Sent(clip).__isset.hdrProfile);
+}
+
+TEST(ClipConversion, AbsentFieldsKeepWhatAReusedWireRecordHeld)
+{
+    auto wire = Sent(FullClip());
+    EXPECT_TRUE(ClipToThriftConverter().To(Clip(), wire).success);
+    EXPECT_TRUE(wire.__isset.camera && wire.__isset.inBoundTimepoint && wire.__isset.intraEssence);
+    EXPECT_EQ(wire.camera, Generated::Camera::X);
+    EXPECT_EQ(wire.inBoundTimepoint, -1);
+    EXPECT_EQ(wire.keywords.size(), 5u);
+    EXPECT_THAT(wire.userBits, ElementsAre(0, 1, 127, 128, 200, 254, 255, 7, 0, 0, 0, 0, 0, 0, 0, 0));
+}
+
+TEST(ClipConversion, TextsAreCutPaddedAndEndedAsTheirSlotsSay)
+{
+    Generated::Clip wire;
+    wire.__set_umId("TWELVE CHARS");
+    wire.__set_sourceUmId("");
+    wire.__set_materialId(std::string("A\0B", 3));
+    wire.name.data = std::string("\x41\x00\x42", 3);
+    wire.name.isUtf16 = true; // the inner flags are clear, and not looked at
+    wire.varId.data = std::string(33, 'v');
+    wire.__isset.umId = wire.__isset.sourceUmId = wire.__isset.materialId = true;
+    wire.__isset.name = wire.__isset.varId = true;
+
+    auto const clip = Received(wire, FullClip());
+    EXPECT_EQ(Text(clip.umId), std::string("TWELVE C\0", 9));
+    EXPECT_EQ(Text(clip.sourceUmId), std::string(9, '\0'));
+    EXPECT_EQ(Text(clip.materialId), std::string("A\0B\0\0\0\0\0\0", 9));
+    EXPECT_TRUE(clip.name.isUtf16);
+    EXPECT_EQ(Text(clip.name.payload), wire.name.data + std::string(21, '\0'));
+    EXPECT_EQ(Text(clip.varId.payload), std::string(32, 'v'));
+    EXPECT_THAT(clip.varId.end, Each('\0'));
+
+    auto const again = Sent(clip);
+    EXPECT_EQ(again.umId, "TWELVE C");
+    EXPECT_EQ(again.sourceUmId, "");
+    EXPECT_EQ(again.materialId, "A");
+    EXPECT_EQ(again.name.data, wire.name.data + std::string(21, '\0'));
+    EXPECT_TRUE(again.name.isUtf16 && again.name.__isset.data && again.name.__isset.isUtf16);
+}
+
+TEST(ClipConversion, ListsPatchTheSlotsThatTheyReach)
+{
+    Generated::Clip wire;
+    wire.__isset.keywords = wire.__isset.userBits = true;
+    wire.keywords.resize(2);
+    wire.keywords[1].data = "longer than twelve";
+    wire.keywords[1].isUtf16 = true;
+    wire.userBits = {-1, 0x1234};
+    auto const few = Received(wire);
+    EXPECT_EQ(Text(few.keywords[0].payload), std::string(12, '\0'));
+    EXPECT_EQ(Text(few.keywords[1].payload), "longer than ");
+    EXPECT_TRUE(few.keywords[1].isUtf16);
+    for (auto const slot : {2, 3, 4}) EXPECT_EQ(few.keywords[slot], Clip().keywords[slot]);
+    EXPECT_THAT(few.userBits, ElementsAre(0xFF, 0x34, 0, 0, 0, 0, 0, 0));
+
+    wire.keywords.assign(7, wire.keywords[1]);
+    wire.userBits.assign(10, -1);
+    auto const many = Received(wire);
+    for (auto const& slot : many.keywords) EXPECT_EQ(Text(slot.payload), "longer than ");
+    EXPECT_THAT(many.userBits, Each(0xFF));
+    EXPECT_THAT(Sent(many).userBits, testing::AllOf(testing::SizeIs(8), Each(255)));
+}
+
+TEST(ClipConversion, LegacyDropIsTakenOnlyByAClipThatIsNtscBefore)
+{
+    Generated::Clip wire;
+    wire.__isset.isLegacyTimecodeDrop = wire.isLegacyTimecodeDrop = true;
+    EXPECT_EQ(Received(wire), Clip()); // dropped, yet it counts as a field
+
+    wire.__isset.videoStandard = true;
+    wire.videoStandard = Generated::VideoStandard::Ntsc;
+    EXPECT_FALSE(Received(wire).isLegacyTimecodeDrop);
+    wire.videoStandard = Generated::VideoStandard::Pal;
+    EXPECT_TRUE(Received(wire, NtscClip()).isLegacyTimecodeDrop);
+}
+
+TEST(ClipConversion, HighWordsAreLost)
+{
+    Generated::Clip wire;
+    wire.legacyTimecodeOffset = 0x1'0000'0002;
+    wire.machineSerial = -1;
+    wire.__isset.legacyTimecodeOffset = wire.__isset.machineSerial = true;
+    auto const clip = Received(wire);
+    EXPECT_EQ(clip.legacyTimecodeOffset, 2u);
+    EXPECT_EQ(clip.machineSerial, 0xFFFFFFFFu);
+    EXPECT_EQ(Sent(clip).machineSerial, 0xFFFFFFFF);
+}
+
+TEST(ClipConversion, EmptyWhenNothingCounts)
+{
+    Generated::Clip wire;
+    auto const expectEmpty = [&wire]
+    {
+        auto clip = FullClip();
+        EXPECT_EQ(Refused(wire, clip), "Clip is empty");
+        EXPECT_EQ(clip, FullClip());
+    };
+    expectEmpty();
+    wire.__set_sourceInBoundTodTimecode("never read");
+    wire.__set_sourceInBoundUserTimecode("never read");
+    expectEmpty();
+    wire.__isset.keywords = wire.__isset.userBits = true;
+    expectEmpty();
+}
+
+TEST(ClipConversion, TimeCodeOfAnotherRateStopsTheConversion)
+{
+    struct Row
+    {
+        void (Generated::Clip::*set)(std::string const&);
+        char const* message;
+    };
+    for (auto const& [set, message] : {
+             Row{&Generated::Clip::__set_inBoundTodTimecode, "In Bound TOD Timecode Rate inconsistent with Clip Rate"},
+             Row{&Generated::Clip::__set_inBoundUserTimecode,
+                 "In Bound User Timecode Rate inconsistent with Clip Rate"},
+         })
+    {
+        auto wire = Sent(FullClip());
+        (wire.*set)("2024-02-29T12:00:00:00@25");
+        auto clip = NtscClip();
+        EXPECT_EQ(Refused(wire, clip), message);
+        EXPECT_EQ(clip.dolbyMonoSignal, 2);                               // before it: applied
+        EXPECT_EQ(clip.inBoundTimepoint, TimePoints::TimePoint::Empty()); // behind it: not
+        EXPECT_EQ(clip.InBoundUserTimecode(), Clip::DefaultTimecode());
+        wire.videoStandard = Generated::VideoStandard::Pal; // the standard of the same record decides
+        (wire.*set)("2024-02-29T12:00:00;00@30");
+        EXPECT_FALSE(Refused(wire, clip).empty());
+    }
+}
+
+TEST(ClipConversion, EmptyEssenceStopsTheConversion)
+{
+    auto wire = Sent(FullClip());
+    wire.longGopEssence.__isset = {};
+    auto clip = NtscClip();
+    EXPECT_EQ(Refused(wire, clip), "Essence is empty");
+    EXPECT_EQ(clip.intraEssence, FullClip().intraEssence);
+    EXPECT_EQ(clip.longGopEssence, Clip().longGopEssence);
+    EXPECT_EQ(clip.lowResEssence, Clip().lowResEssence);
+
+    Generated::Clip only;
+    only.__isset.lowResEssence = true;
+    Clip fresh;
+    EXPECT_EQ(Refused(only, fresh), "Essence is empty");
+}
+
+TEST(ClipConversionDeathTest, TimeCodeTextsAreReadUnguarded)
+{
+    Generated::Clip wire;
+    wire.__set_inBoundTodTimecode("noon");
+    Clip clip;
+    EXPECT_DEATH(std::ignore = ThriftToClipConverter().To(wire, clip), "terminate");
+    wire.__set_inBoundTodTimecode("2024-01-01T00:00:00:00@50");
+    wire.__set_inBoundUserTimecode("2024-01-01T00:00:00:00@99999999999");
+    EXPECT_DEATH(std::ignore = ThriftToClipConverter().To(wire, clip), "terminate");
+    wire.__set_inBoundUserTimecode("2023-02-29T00:00:00:00@50");
+    EXPECT_DEATH(std::ignore = ThriftToClipConverter().To(wire, clip), "terminate");
+}
+
+} // namespace
+} // namespace Talvo::Tests

@@ -1,0 +1,251 @@
+#include "tests/Thrift/Data/Clips/Values.h"
+
+#include "Domain/CorvaneData/Clips/Groups/AnglesGroup.h"
+#include "Domain/CorvaneData/Clips/Train.h"
+#include "Thrift/Data/Clips/FromAngle.h"
+#include "Thrift/Data/Clips/FromAnglesGroup.h"
+#include "Thrift/Data/Clips/FromRecordingRange.h"
+#include "Thrift/Data/Clips/FromTrain.h"
+#include "Thrift/Data/Clips/ToAngle.h"
+#include "Thrift/Data/Clips/ToAnglesGroup.h"
+#include "Thrift/Data/Clips/ToRecordingRange.h"
+#include "Thrift/Data/Clips/ToTrain.h"
+#include "generated/Angle_types.h"
+#include "generated/AnglesGroup_types.h"
+#include "generated/Train_types.h"
+#include "tests/Thrift/RoundTrip.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace Talvo::Tests
+{
+namespace
+{
+
+using namespace Corvane::Zelmar::Serialization::Thrift::Data::Clips;
+using namespace Corvane::Data::Clips;
+using TimePoints::TimeCode;
+using TimePoints::TimePoint;
+
+namespace Clips = Corvane::Data::Clips;
+namespace WireGroups = Corvane::Data::Clips::Groups::Generated;
+
+template<typename TGuid>
+TGuid SomeGuid(char const fill)
+{
+    TGuid guid;
+    static_cast<Corvane::Data::Guid&>(guid) =
+        Corvane::Data::Guid(reinterpret_cast<unsigned char const*>(std::string(16, fill).data()), 16);
+    return guid;
+}
+
+Groups::AnglesGroup FullGroup()
+{
+    Groups::AnglesGroup group(SomeGuid<Groups::Guid>('g'));
+    group.AddAngle(Camera::Z, SomeGuid<Clips::Guid>('z'), PreferentialCamera::Primary);
+    group.AddAngle(Camera::B, SomeGuid<Clips::Guid>('b'), PreferentialCamera::Secondary);
+    group.AddAngle(Camera::A, SomeGuid<Clips::Guid>('a'), PreferentialCamera::None);
+    group.AddAngle(Camera::C, Clips::Guid(), PreferentialCamera::None); // no clip, but not the empty angle
+    return group;
+}
+
+TEST(AngleConversion, RoundTrip)
+{
+    Groups::Angle const angle{Camera::L, SomeGuid<Clips::Guid>('l')};
+    ExpectRoundTrip<AngleToThriftConverter, ThriftToAngleConverter, WireGroups::Angle>(angle);
+    WireGroups::Angle wire;
+    wire.camera = static_cast<Generated::Camera::type>(16);
+    auto read = angle;
+    EXPECT_TRUE(ThriftToAngleConverter().To(wire, read).success);
+    EXPECT_EQ(read, Groups::Angle::Empty());
+}
+
+TEST(AnglesGroupConversion, SendsOneItemACameraInTheOrderOfCameras)
+{
+    WireGroups::AnglesGroup wire;
+    wire.angles[Generated::Camera::Y]; // cleared before the group is written
+    EXPECT_TRUE(AnglesGroupToThriftConverter().To(FullGroup(), wire).success);
+    EXPECT_EQ(wire.id.value, std::string(16, 'g'));
+    std::string told;
+    for (auto const& [camera, item] : wire.angles)
+        told += std::to_string(camera) + item.clipId.value.substr(0, 1) + std::to_string(item.preferencialCamera) + ' ';
+    using namespace std::string_literals;
+    EXPECT_EQ(told, "1a0 2b2 3\0000 15z1 "s);
+}
+
+TEST(AnglesGroupConversion, RoundTripReplacesTheDestination)
+{
+    Groups::AnglesGroup const empty{Groups::Guid()};
+    WireGroups::AnglesGroup wire;
+    ASSERT_TRUE(AnglesGroupToThriftConverter().To(FullGroup(), wire).success);
+    auto group = empty;
+    group.AddAngle(Camera::Y, Clips::Guid(), PreferentialCamera::Primary);
+    EXPECT_TRUE(ThriftToAnglesGroupConverter().To(Read<WireGroups::AnglesGroup>(Written(wire)), group).success);
+    EXPECT_EQ(group, FullGroup());
+
+    EXPECT_TRUE(ThriftToAnglesGroupConverter().To(WireGroups::AnglesGroup(), group).success);
+    EXPECT_EQ(group, empty);
+    EXPECT_TRUE(AnglesGroupToThriftConverter().To(empty, wire).success);
+    EXPECT_TRUE(wire.angles.empty());
+}
+
+RecordingRange FullRange()
+{
+    return {{1}, {-2}, ParsedTimeCode("2001-01-01T01:02:03:04@25"), ParsedTimeCode("2001-01-01T01:02:59;29@30")};
+}
+
+TEST(RecordingRangeConversion, RoundTrip)
+{
+    ExpectRoundTrip<RecordingRangeToThriftConverter, ThriftToRecordingRangeConverter, Generated::RecordingRange>(
+        FullRange());
+
+    // Empty bounds travel. An empty time code comes back as the time code of the origin, which is not empty.
+    Generated::RecordingRange wire;
+    EXPECT_TRUE(RecordingRangeToThriftConverter().To(RecordingRange(), wire).success);
+    EXPECT_EQ(wire.inBoundTimepoint, TimePoint::Empty().position);
+    EXPECT_EQ(wire.outBoundTimecode, "1900-01-01T00:00:00:00@50");
+    RecordingRange range;
+    EXPECT_TRUE(ThriftToRecordingRangeConverter().To(wire, range).success);
+    EXPECT_EQ(range.rangeInTimecode, Clip::DefaultTimecode());
+}
+
+TEST(RecordingRangeConversion, IncompleteOrBadRangesLeaveTheDestination)
+{
+    Generated::RecordingRange full;
+    ASSERT_TRUE(RecordingRangeToThriftConverter().To(FullRange(), full).success);
+    auto const expectRefused = [](Generated::RecordingRange const& wire, char const* const message)
+    {
+        RecordingRange range;
+        auto const result = ThriftToRecordingRangeConverter().To(wire, range);
+        EXPECT_FALSE(result.success);
+        EXPECT_EQ(result.message, message);
+        EXPECT_EQ(range, RecordingRange());
+    };
+
+    for (auto const missing : {0, 1, 2, 3})
+    {
+        auto wire = full;
+        if (missing == 0) wire.__isset.inBoundTimepoint = false;
+        if (missing == 1) wire.__isset.outBoundTimepoint = false;
+        if (missing == 2) wire.__isset.inBoundTimecode = false;
+        if (missing == 3) wire.__isset.outBoundTimecode = false;
+        wire.inBoundTimecode = "bad"; // completeness is judged first
+        expectRefused(wire, "RecordingRange is empty");
+    }
+    for (auto const* const bad : {"", "noon", "2001-02-29T00:00:00:00@25", "2001-01-01T00:00:00:00@99999999999"})
+    {
+        auto wire = full;
+        wire.inBoundTimecode = bad;
+        expectRefused(wire, "Invalid TimeCode format");
+        wire = full;
+        wire.outBoundTimecode = bad;
+        expectRefused(wire, "Invalid TimeCode format");
+    }
+}
+
+Train FullTrain()
+{
+    return {
+        std::make_unique<Clip>(), {FullRange(), FullRange()}, true, true, ParsedTimeCode("2001-01-01T00:00:00:00@25")};
+}
+
+Train EmptyTrain()
+{
+    return {nullptr, {}, false, false, TimeCode(TimeCode::Empty())};
+}
+
+void ExpectEmpty(Train const& train)
+{
+    EXPECT_EQ(train.trainClip, nullptr);
+    EXPECT_TRUE(train.trainRanges.empty());
+    EXPECT_FALSE(train.isInMoving || train.isOutMoving);
+    EXPECT_EQ(train.lastKnownTimeCode, TimeCode::Empty());
+}
+
+TEST(TrainConversion, RoundTrip)
+{
+    auto const source = FullTrain();
+    Generated::Train wire;
+    EXPECT_TRUE(TrainToThriftConverter().To(source, wire).success);
+    for (auto const& protocol : Protocols())
+    {
+        auto train = EmptyTrain();
+        EXPECT_TRUE(
+            ThriftToTrainConverter().To(Read<Generated::Train>(Written(wire, *protocol), *protocol), train).success);
+        ASSERT_NE(train.trainClip, nullptr);
+        EXPECT_EQ(*train.trainClip, *source.trainClip);
+        EXPECT_EQ(train.trainRanges, source.trainRanges);
+        EXPECT_TRUE(train.isInMoving && train.isOutMoving);
+        EXPECT_EQ(train.lastKnownTimeCode, source.lastKnownTimeCode);
+    }
+}
+
+TEST(TrainConversion, ReusedWireRecordKeepsRangesAndLosesAMissingClip)
+{
+    Generated::Train wire;
+    EXPECT_TRUE(TrainToThriftConverter().To(EmptyTrain(), wire).success);
+    EXPECT_FALSE(wire.__isset.trainData || wire.__isset.recordingRanges || wire.__isset.lastKnownTimeCode);
+    EXPECT_TRUE(wire.__isset.isInMoving && wire.__isset.isOutMoving);
+
+    EXPECT_TRUE(TrainToThriftConverter().To(FullTrain(), wire).success);
+    EXPECT_TRUE(TrainToThriftConverter().To(FullTrain(), wire).success);
+    EXPECT_EQ(wire.recordingRanges.size(), 4u);
+    EXPECT_TRUE(TrainToThriftConverter().To(EmptyTrain(), wire).success);
+    EXPECT_FALSE(wire.__isset.trainData || wire.isInMoving);
+    EXPECT_TRUE(wire.__isset.recordingRanges && wire.__isset.lastKnownTimeCode);
+    EXPECT_EQ(wire.recordingRanges.size(), 4u);
+}
+
+TEST(TrainConversion, BadRangesAndABadLastTimeCodeAreNoFailure)
+{
+    Generated::Train wire;
+    ASSERT_TRUE(TrainToThriftConverter().To(FullTrain(), wire).success);
+    wire.recordingRanges[0].inBoundTimecode = "noon";
+    wire.recordingRanges.emplace_back(); // all flags clear
+    wire.lastKnownTimeCode = "2001-01-01T00:00:00:00@99999999999";
+    auto train = EmptyTrain();
+    EXPECT_TRUE(ThriftToTrainConverter().To(wire, train).success);
+    EXPECT_THAT(train.trainRanges, testing::ElementsAre(RecordingRange(), FullRange(), RecordingRange()));
+    EXPECT_EQ(train.lastKnownTimeCode, TimeCode::Empty());
+}
+
+TEST(TrainConversion, OneFieldIsEnoughAndNoneEmptiesTheDestination)
+{
+    Generated::Train onlyRanges, onlyTimeCode, onlyOut;
+    onlyRanges.__isset.recordingRanges = true;
+    onlyTimeCode.lastKnownTimeCode = "noon";
+    onlyTimeCode.__isset.lastKnownTimeCode = true;
+    onlyOut.__isset.isOutMoving = true;
+    for (auto const& wire : {onlyRanges, onlyTimeCode, onlyOut})
+    {
+        auto train = FullTrain();
+        EXPECT_TRUE(ThriftToTrainConverter().To(wire, train).success);
+        ExpectEmpty(train);
+    }
+
+    auto train = FullTrain();
+    auto const result = ThriftToTrainConverter().To(Generated::Train(), train);
+    EXPECT_FALSE(result.success);
+    EXPECT_EQ(result.message, "Train is empty");
+    ExpectEmpty(train);
+}
+
+TEST(TrainConversion, BadClipLeavesTheDestination)
+{
+    Generated::Train wire;
+    wire.__isset.trainData = wire.__isset.isInMoving = true;
+    auto train = EmptyTrain();
+    train.isOutMoving = true;
+    auto const result = ThriftToTrainConverter().To(wire, train);
+    EXPECT_FALSE(result.success);
+    EXPECT_EQ(result.message, "Clip is empty");
+    EXPECT_TRUE(train.isOutMoving);
+}
+
+} // namespace
+} // namespace Talvo::Tests

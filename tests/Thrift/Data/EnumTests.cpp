@@ -1,0 +1,168 @@
+#include "Thrift/Data/Clips/EnumConverter.h"
+#include "Thrift/Data/OperationResultConverter.h"
+#include "Thrift/Data/OperationStatusConverter.h"
+#include "Thrift/EnumAssociation.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <functional>
+#include <limits>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace Talvo::Tests
+{
+namespace
+{
+
+namespace Domain = Corvane::Data;
+namespace Thrift = Corvane::Zelmar::Serialization::Thrift;
+namespace Wire = Corvane::Data::Generated;
+namespace WireClips = Thrift::Data::Clips::Generated;
+
+/// One table: its lookups on plain numbers, and the domain number of each wire number.
+struct Table
+{
+    std::string name;
+    std::function<std::int32_t(std::int32_t)> toWire;
+    std::function<std::int32_t(std::int32_t)> toDomain;
+    std::vector<std::int32_t> domainNumbers;
+};
+
+std::vector<std::int32_t> EqualNumbers(std::int32_t const count)
+{
+    std::vector<std::int32_t> numbers;
+    for (std::int32_t number = 0; number < count; ++number) numbers.push_back(number);
+    return numbers;
+}
+
+template<typename TDomain, typename TWire>
+Table ClipTable(std::string name, std::vector<std::int32_t> domainNumbers)
+{
+    using namespace Thrift::Data::Clips::EnumConverter;
+    return {std::move(name),
+            [](std::int32_t number) { return std::int32_t{ToGeneratedEnum(static_cast<TDomain>(number))}; },
+            [](std::int32_t number)
+            { return static_cast<std::int32_t>(FromGeneratedEnum(static_cast<TWire>(number))); },
+            std::move(domainNumbers)};
+}
+
+std::vector<Table> Tables()
+{
+    using namespace Domain::Clips;
+    return {
+        ClipTable<TrainStatus, WireClips::TrainStatus::type>("trainStatus", EqualNumbers(3)),
+        ClipTable<SourceEngine, WireClips::SourceEngine::type>("sourceEngine", EqualNumbers(4)),
+        ClipTable<UhdDivisionMode, WireClips::UhdDivisionMode::type>("uhdDivisionMode", EqualNumbers(3)),
+        ClipTable<HdrProfile, WireClips::HdrProfile::type>("hdrProfile", EqualNumbers(6)),
+        ClipTable<AlphaArchiveStatus, WireClips::AlphaArchiveStatus::type>("alphaArchiveStatus", EqualNumbers(3)),
+        ClipTable<ArchiveStatus, WireClips::ArchiveStatus::type>("archiveStatus", EqualNumbers(3)),
+        ClipTable<FillAndKeyStatus, WireClips::FillAndKeyStatus::type>("fillAndKeyStatus", EqualNumbers(3)),
+        ClipTable<Camera, WireClips::Camera::type>("camera", EqualNumbers(16)),
+        ClipTable<AfdAspectRatio, WireClips::AfdAspectRatio::type>("afdAspectRatio", EqualNumbers(4)),
+        ClipTable<CodedFrameAspectRatio, WireClips::CodedFrameAspectRatio::type>("codedFrameAspectRatio",
+                                                                                 EqualNumbers(3)),
+        ClipTable<VideoFormat, WireClips::VideoFormat::type>("videoFormat", EqualNumbers(6)),
+        ClipTable<VideoStandard, WireClips::VideoStandard::type>("videoStandard", EqualNumbers(2)),
+        ClipTable<TimecodeType, WireClips::TimecodeType::type>("timecodeType", EqualNumbers(3)),
+        ClipTable<PrimaryTimecode, WireClips::PrimaryTimecode::type>("primaryTimecode", EqualNumbers(3)),
+        ClipTable<Rating, WireClips::Rating::type>("rating", EqualNumbers(4)),
+        ClipTable<PreferentialCamera, WireClips::PreferentialCamera::type>("preferentialCamera", EqualNumbers(3)),
+        ClipTable<Essences::Type, WireClips::Type::type>("essType", EqualNumbers(3)),
+        ClipTable<Essences::RecordingStatus, WireClips::RecordingStatus::type>("recordingStatus", EqualNumbers(5)),
+        ClipTable<Essences::ArchiveStatus, WireClips::EssenceArchiveStatus::type>("essenceArchiveStatus",
+                                                                                  EqualNumbers(2)),
+        ClipTable<Essences::Metadata, WireClips::Metadata::type>("metadata", EqualNumbers(5)),
+        ClipTable<Essences::BlockSize, WireClips::BlockSize::type>("blockSize", {0, 2, 4, 5}),
+        ClipTable<Essences::VideoCompressionType, WireClips::VideoCompressionType::type>("videoCompressionType",
+                                                                                         EqualNumbers(26)),
+        ClipTable<Essences::AudioCompressionType, WireClips::AudioCompressionType::type>("audioCompressionType",
+                                                                                         EqualNumbers(3)),
+        ClipTable<Essences::VideoCompressionInfo, WireClips::VideoCompressionInfo::type>("videoCompressionInfo",
+                                                                                         EqualNumbers(11)),
+        ClipTable<Essences::AudioConfiguration, WireClips::AudioConfiguration::type>("audioConfiguration",
+                                                                                     EqualNumbers(8)),
+        {"operationResult",
+         [](std::int32_t number) {
+             return std::int32_t{
+                 Thrift::Data::OperationResultConverter::To(static_cast<Domain::OperationResult>(number))};
+         },
+         [](std::int32_t number)
+         {
+             return static_cast<std::int32_t>(
+                 Thrift::Data::OperationResultConverter::To(static_cast<Wire::OperationResult::type>(number)));
+         },
+         {0, 1, 8, 2, 3, 4, 5, 6, 7, 9, 10, 11}},
+        {"operationStatus",
+         [](std::int32_t number)
+         {
+             return std::int32_t{
+                 Thrift::Data::OperationStatusConverter::To(static_cast<Domain::OperationStatus::Status>(number))};
+         },
+         [](std::int32_t number)
+         {
+             return static_cast<std::int32_t>(
+                 Thrift::Data::OperationStatusConverter::To(static_cast<Wire::OperationStatusStatus::type>(number)));
+         },
+         EqualNumbers(4)},
+    };
+}
+
+TEST(EnumTables, EveryEnumeratorThereAndBackAndAllOthersToZero)
+{
+    for (auto const& table : Tables())
+    {
+        SCOPED_TRACE(table.name);
+        auto const count = static_cast<std::int32_t>(table.domainNumbers.size());
+        for (std::int32_t wire = 0; wire < count; ++wire)
+        {
+            EXPECT_EQ(table.toDomain(wire), table.domainNumbers[static_cast<std::size_t>(wire)]);
+            EXPECT_EQ(table.toWire(table.domainNumbers[static_cast<std::size_t>(wire)]), wire);
+        }
+        auto const last = table.domainNumbers.back();
+        for (auto const outside : {-1, count, 32, 33, 1 << 16, std::numeric_limits<std::int32_t>::min()})
+            EXPECT_EQ(table.toDomain(outside), 0) << outside;
+        for (auto const outside : {-1, last + 1, 32, 33, 1 << 16, std::numeric_limits<std::int32_t>::min()})
+            EXPECT_EQ(table.toWire(outside), 0) << outside;
+    }
+}
+
+TEST(EnumTables, BlockSizesWithoutAPairReadBackAsZero)
+{
+    using namespace Thrift::Data::Clips::EnumConverter;
+    using Domain::Clips::Essences::BlockSize;
+    for (auto const number : {1, 3})
+    {
+        auto const wire = ToGeneratedEnum(static_cast<BlockSize>(number));
+        EXPECT_EQ(wire, WireClips::BlockSize::Unknown);
+        EXPECT_EQ(FromGeneratedEnum(wire), BlockSize::Unknown);
+    }
+}
+
+// Domain numbers far apart, as in a table whose last value is a mask of sixteen bits.
+TEST(EnumTables, NumbersMayBeFarApart)
+{
+    enum class Mask : std::int32_t
+    {
+        None,
+        First,
+        All = 65535
+    };
+    enum WireMask : int
+    {
+        WireNone,
+        WireFirst,
+        WireAll
+    };
+    constexpr Thrift::EnumAssociation<Mask, WireMask> masks{
+        {Mask::None, WireNone}, {Mask::First, WireFirst}, {Mask::All, WireAll}};
+    EXPECT_EQ(masks.ToGeneratedEnum(Mask::All), WireAll);
+    EXPECT_EQ(masks.FromGeneratedEnum(WireAll), Mask::All);
+    EXPECT_EQ(masks.ToGeneratedEnum(static_cast<Mask>(31)), WireNone); // shares the slot of All
+    EXPECT_EQ(masks.ToGeneratedEnum(static_cast<Mask>(2)), WireNone);
+}
+
+} // namespace
+} // namespace Talvo::Tests
