@@ -39,8 +39,14 @@ public:
 private:
     friend struct TimeCodeBuilder;
 
-    /// The same from a count of days since the origin.
-    void DaysAndTimeToSample(std::int64_t days, int hour, int minute, int second, int sample) noexcept;
+    constexpr TimeCode(VideoRate rate, std::int64_t sample, bool dropFrame, bool dated) noexcept
+        : rate_(rate)
+        , sample_(sample)
+        , dropFrame_(dropFrame)
+        , dated_(dated)
+        , empty_(false)
+    {
+    }
 
     VideoRate rate_{50, 1};
     std::int64_t sample_ = 0;

@@ -1,6 +1,6 @@
 #include "TimePoints/TimeCodeBreakdown.h"
 
-#include "TimePoints/SampleUnits.h"
+#include "TimePoints/SampleCounting.h"
 
 #include <chrono>
 
@@ -10,62 +10,72 @@ namespace Talvo::TimePoints
 namespace
 {
 
-/// The units of an enormous rate may have wrapped to zero: nothing is counted in them then.
-constexpr std::int64_t Quotient(std::int64_t dividend, std::int64_t divisor) noexcept
+struct DayAndTime
 {
-    return divisor == 0 ? 0 : dividend / divisor;
+    std::int64_t days;
+    int secondOfDay;
+    std::int64_t frame;
+};
+
+/// Seconds first: what follows divides by constants, and no unit of a rate, however large, has to fit 64 bits.
+DayAndTime SplitNonDrop(std::int64_t sample, std::int64_t numerator) noexcept
+{
+    auto const seconds = sample / numerator;
+    return {seconds / 86400, static_cast<int>(seconds % 86400), sample % numerator};
 }
 
-constexpr std::int64_t Remainder(std::int64_t dividend, std::int64_t divisor) noexcept
+template<int numerator>
+DayAndTime SplitDropFrame(std::int64_t sample) noexcept
 {
-    return divisor == 0 ? 0 : dividend % divisor;
-}
+    constexpr auto units = SampleUnits::Of(numerator, true);
+    constexpr int perMinute = 60 * numerator;
+    constexpr int perTenMinutes = 10 * perMinute;
 
-/// The count of a drop-frame time of day in a counting that drops no number.
-std::int64_t WithDroppedNumbers(std::int64_t count, std::int64_t numerator, std::int64_t addedBack) noexcept
-{
-    auto const perMinute = 60 * numerator;
-    auto const perTenMinutes = 10 * perMinute;
-    std::int64_t total = 0;
-    std::int64_t step = 0;
+    // Puts the dropped numbers of every minute back, until no further minute is reached.
+    int count = static_cast<int>(sample % units.perDay);
+    int total = 0;
+    int step = 0;
     do
     {
         total += step;
         step = count / perMinute - count / perTenMinutes - total;
-        count += addedBack * step;
+        count += static_cast<int>(units.addedBack) * step;
     } while (step != 0);
-    return count;
+
+    return {sample / units.perDay, count / numerator, count % numerator};
+}
+
+DayAndTime Split(TimeCode const& timeCode) noexcept
+{
+    auto const numerator = timeCode.Rate().numerator;
+    if (!timeCode.DropFrame()) return SplitNonDrop(timeCode.Sample(), numerator);
+    // No other rate has drop-frame counting.
+    return numerator == 30 ? SplitDropFrame<30>(timeCode.Sample()) : SplitDropFrame<60>(timeCode.Sample());
 }
 
 } // namespace
 
 TimeCodeBreakdown::TimeCodeBreakdown(TimeCode const& timeCode) noexcept
 {
-    auto const numerator = timeCode.Rate().numerator;
-    if (numerator <= 0) return;
+    if (timeCode.Rate().numerator <= 0) return;
 
-    auto const units = SampleUnits::Of(numerator, timeCode.DropFrame());
-    auto const days = Quotient(timeCode.Sample(), units.perDay);
-    auto x = Remainder(timeCode.Sample(), units.perDay);
-    if (timeCode.DropFrame()) x = WithDroppedNumbers(x, numerator, units.addedBack);
+    auto const [days, secondOfDay, frameOfSecond] = Split(timeCode);
+    hour = secondOfDay / 3600;
+    minute = secondOfDay / 60 % 60;
+    second = secondOfDay % 60;
+    frame = frameOfSecond;
 
-    auto const nominal = SampleUnits::Of(numerator, false);
-    frame = x % numerator;
-    second = Remainder(x, nominal.perMinute) / numerator;
-    minute = Quotient(Remainder(x, nominal.perHour), nominal.perMinute);
-    hour = Quotient(x, nominal.perHour);
-
-    // The calendar repeats every 400 years, so the days of whole cycles are skipped.
-    constexpr std::int64_t daysPerCycle = 146097;
-    constexpr std::chrono::sys_days origin{std::chrono::January / 1 / 1900};
     if (days < 0)
     {
-        // Before the origin, where only a negative count lies, there is no calendar: the day goes below 1.
+        // There is no calendar before the origin, where only a negative count lies: the day goes below 1.
         year = 1900;
         month = 1;
         day = days + 1;
         return;
     }
+    // The calendar repeats every 400 years, so that only the days of one such cycle need a date.
+    constexpr std::int64_t daysPerCycle = 146097;
+    constexpr std::chrono::sys_days origin{std::chrono::January / 1 / 1900};
     std::chrono::year_month_day const date{origin + std::chrono::days{days % daysPerCycle}};
     year = int{date.year()} + days / daysPerCycle * 400;
     month = unsigned{date.month()};

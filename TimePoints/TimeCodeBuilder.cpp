@@ -1,6 +1,7 @@
 #include "TimePoints/TimeCodeBuilder.h"
 
 #include "TimePoints/CalendarTools.h"
+#include "TimePoints/SampleCounting.h"
 
 #include <stdexcept>
 #include <string>
@@ -14,8 +15,9 @@ namespace
 constexpr int FirstYear = 1900;
 constexpr int LastYear = 2261;
 
-/// The days from the origin to 1970-01-01, where undated time codes lie.
-constexpr std::int64_t UndatedDay = 25567;
+/// Where undated time codes lie.
+constexpr std::int64_t UndatedDay = DaysSinceOrigin(1970, 1, 1);
+static_assert(UndatedDay == 25567);
 
 /// Drop-frame counting exists for these nominal rates only.
 constexpr bool HasDropFrame(std::int64_t numerator) noexcept
@@ -88,15 +90,9 @@ TimeCodeBuilder::Fault TimeCodeBuilder::FirstFault() const noexcept
 
 TimeCode TimeCodeBuilder::BuildUnchecked() const noexcept
 {
-    TimeCode timeCode;
-    timeCode.rate_ = {numerator, denominator};
-    timeCode.dropFrame_ = dropFrame;
-    timeCode.dated_ = dated;
-    if (dated)
-        timeCode.DateTimeToSample(year, month, day, hour, minute, second, sample);
-    else
-        timeCode.DaysAndTimeToSample(UndatedDay, hour, minute, second, sample);
-    return timeCode;
+    auto const days = dated ? DaysSinceOrigin(year, month, day) : UndatedDay;
+    auto const count = SamplesSinceOrigin(numerator, dropFrame, days, hour, minute, second, sample);
+    return {{numerator, denominator}, count, dropFrame && HasDropFrame(numerator), dated};
 }
 
 } // namespace Talvo::TimePoints

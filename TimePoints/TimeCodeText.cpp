@@ -4,12 +4,25 @@
 
 #include <charconv>
 #include <cstdint>
+#include <cstring>
 
 namespace Talvo::TimePoints
 {
 
 namespace
 {
+
+/// "00" to "99".
+constexpr auto Pairs = []
+{
+    std::array<char, 200> digits{};
+    for (std::size_t number = 0; number < 100; ++number)
+    {
+        digits[2 * number] = static_cast<char>('0' + number / 10);
+        digits[2 * number + 1] = static_cast<char>('0' + number % 10);
+    }
+    return digits;
+}();
 
 /// Appends to a buffer that is large enough for every time code.
 class Writer
@@ -23,24 +36,41 @@ public:
 
     void Character(char character) noexcept { *next_++ = character; }
 
-    void Number(std::int64_t number) noexcept { next_ = std::to_chars(next_, end_, number).ptr; }
+    /// What an ordinary year and an ordinary rate need is written in pairs.
+    void Number(std::int64_t number) noexcept
+    {
+        if (number >= 10 && number < 100)
+            Pair(number);
+        else if (number >= 1000 && number < 10000)
+        {
+            Pair(number / 100);
+            Pair(number % 100);
+        }
+        else
+            next_ = std::to_chars(next_, end_, number).ptr;
+    }
 
     /// A number with a "0" in front if it is below 10, a negative one too.
     void Padded(std::int64_t number) noexcept
     {
         if (number >= 0 && number < 100)
+            Pair(number);
+        else
         {
-            Character(static_cast<char>('0' + number / 10));
-            Character(static_cast<char>('0' + number % 10));
-            return;
+            if (number < 10) Character('0');
+            Number(number);
         }
-        if (number < 10) Character('0');
-        Number(number);
     }
 
     char const* Next() const noexcept { return next_; }
 
 private:
+    void Pair(std::int64_t number) noexcept
+    {
+        std::memcpy(next_, Pairs.data() + 2 * number, 2);
+        next_ += 2;
+    }
+
     char* next_;
     char* end_;
 };
