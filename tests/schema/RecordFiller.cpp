@@ -1,0 +1,135 @@
+#include "tests/schema/RecordFiller.h"
+
+#include <array>
+#include <utility>
+
+namespace Talvo::Tests
+{
+
+using namespace apache::thrift::protocol;
+
+namespace
+{
+
+constexpr std::array FieldTypes{T_BOOL, T_I16, T_I32, T_I64, T_STRING, T_STRUCT, T_LIST, T_SET, T_MAP};
+constexpr int LargestFieldId = 64;
+constexpr std::uint32_t ContainerSize = 2;
+
+} // namespace
+
+RecordFiller::RecordFiller(Filter offered)
+    : TVirtualProtocol(std::make_shared<apache::thrift::transport::TMemoryBuffer>())
+    , offered_(std::move(offered))
+{
+}
+
+std::uint32_t RecordFiller::readStructBegin(std::string&)
+{
+    open_.emplace_back();
+    return 0;
+}
+
+std::uint32_t RecordFiller::readStructEnd()
+{
+    open_.pop_back();
+    return 0;
+}
+
+std::uint32_t RecordFiller::readFieldBegin(std::string&, TType& type, std::int16_t& id)
+{
+    auto& record = open_.back();
+    do
+    {
+        auto const [index, typeIndex] = std::div(record.offers++, static_cast<int>(FieldTypes.size()));
+        record.id = static_cast<std::int16_t>(index + 1);
+        type = FieldTypes[static_cast<std::size_t>(typeIndex)];
+    } while (open_.size() == 1 && record.id <= LargestFieldId && !offered_(record.id));
+
+    record.skipped = false;
+    id = record.id;
+    if (record.id > LargestFieldId) type = T_STOP;
+    return 0;
+}
+
+std::uint32_t RecordFiller::readFieldEnd()
+{
+    if (open_.size() == 1 && !open_.back().skipped) fieldIds_.insert(open_.back().id);
+    return 0;
+}
+
+std::uint32_t RecordFiller::skip(TType)
+{
+    open_.back().skipped = true;
+    return 0;
+}
+
+std::uint32_t RecordFiller::readListBegin(TType&, std::uint32_t& size)
+{
+    size = ContainerSize;
+    return 0;
+}
+
+std::uint32_t RecordFiller::readListEnd()
+{
+    return 0;
+}
+
+std::uint32_t RecordFiller::readSetBegin(TType&, std::uint32_t& size)
+{
+    size = ContainerSize;
+    return 0;
+}
+
+std::uint32_t RecordFiller::readSetEnd()
+{
+    return 0;
+}
+
+std::uint32_t RecordFiller::readMapBegin(TType&, TType&, std::uint32_t& size)
+{
+    size = ContainerSize;
+    return 0;
+}
+
+std::uint32_t RecordFiller::readMapEnd()
+{
+    return 0;
+}
+
+std::uint32_t RecordFiller::readBool(bool& value)
+{
+    value = true;
+    return 0;
+}
+
+std::uint32_t RecordFiller::readBool(std::vector<bool>::reference value)
+{
+    value = true;
+    return 0;
+}
+
+std::uint32_t RecordFiller::readI16(std::int16_t& value)
+{
+    value = static_cast<std::int16_t>(-++count_);
+    return 0;
+}
+
+std::uint32_t RecordFiller::readI32(std::int32_t& value)
+{
+    value = 0x10001 * ++count_;
+    return 0;
+}
+
+std::uint32_t RecordFiller::readI64(std::int64_t& value)
+{
+    value = -0x100000001 * ++count_;
+    return 0;
+}
+
+std::uint32_t RecordFiller::readString(std::string& value)
+{
+    value = "text " + std::to_string(++count_) + " \"\\\x01\x7F\x80\xFF";
+    return 0;
+}
+
+} // namespace Talvo::Tests

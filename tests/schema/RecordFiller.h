@@ -1,0 +1,68 @@
+#pragma once
+
+#include <thrift/protocol/TVirtualProtocol.h>
+#include <thrift/transport/TBufferTransports.h>
+
+#include <cstdint>
+#include <functional>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace Talvo::Tests
+{
+
+/// A protocol that makes up what a record's read asks for: reading a record from it fills the record.
+///
+/// It needs no description of the schema. It offers each record every field id with every type; the record skips what
+/// is not its own and reads the rest. No value is the default of its type, containers have two elements, and numbers
+/// go on from field to field, so that no two values and no two keys are alike. Enumerations get numbers as well, most
+/// of them outside their lists. Texts hold quotes, a backslash and bytes that are no UTF-8, but no NUL byte.
+class RecordFiller
+    : public apache::thrift::protocol::TVirtualProtocol<RecordFiller, apache::thrift::protocol::TProtocolDefaults>
+{
+public:
+    /// Which field ids of the outermost record are offered. All fields of nested records always are.
+    using Filter = std::function<bool(std::int16_t)>;
+
+    explicit RecordFiller(Filter offered = [](std::int16_t) { return true; });
+
+    /// The field ids of the outermost record that were read.
+    std::set<std::int16_t> const& FieldIds() const { return fieldIds_; }
+
+    std::uint32_t readStructBegin(std::string& name);
+    std::uint32_t readStructEnd();
+    std::uint32_t readFieldBegin(std::string& name, apache::thrift::protocol::TType& type, std::int16_t& id);
+    std::uint32_t readFieldEnd();
+    std::uint32_t skip(apache::thrift::protocol::TType type);
+
+    std::uint32_t readListBegin(apache::thrift::protocol::TType& elements, std::uint32_t& size);
+    std::uint32_t readListEnd();
+    std::uint32_t readSetBegin(apache::thrift::protocol::TType& elements, std::uint32_t& size);
+    std::uint32_t readSetEnd();
+    std::uint32_t readMapBegin(apache::thrift::protocol::TType& keys, apache::thrift::protocol::TType& values,
+                               std::uint32_t& size);
+    std::uint32_t readMapEnd();
+
+    std::uint32_t readBool(bool& value);
+    std::uint32_t readBool(std::vector<bool>::reference value);
+    std::uint32_t readI16(std::int16_t& value);
+    std::uint32_t readI32(std::int32_t& value);
+    std::uint32_t readI64(std::int64_t& value);
+    std::uint32_t readString(std::string& value);
+
+private:
+    struct OpenRecord
+    {
+        int offers = 0;
+        std::int16_t id = 0;
+        bool skipped = false;
+    };
+
+    Filter offered_;
+    std::vector<OpenRecord> open_;
+    std::set<std::int16_t> fieldIds_;
+    std::int16_t count_ = 0;
+};
+
+} // namespace Talvo::Tests
