@@ -10,7 +10,7 @@ install(TARGETS ${package} EXPORT ${package} INCLUDES DESTINATION ${includeRoot}
 install(DIRECTORY Common TimePoints Domain Thrift DESTINATION ${includeRoot}
     FILES_MATCHING PATTERN "*.h"
     PATTERN Thrift/Detail EXCLUDE
-    REGEX "TimePoints/(SampleUnits|TimeCodeBreakdown|TimeCodeText)\\.h$" EXCLUDE)
+    REGEX "TimePoints/(SampleCounting|TimeCodeBreakdown|TimeCodeText)\\.h$" EXCLUDE)
 get_target_property(generatedHeaders WireRecords TALVO_GENERATED_HEADERS)
 install(FILES ${generatedHeaders} DESTINATION ${includeRoot}/generated)
 install(DIRECTORY schema/ DESTINATION ${schemaFolder} FILES_MATCHING PATTERN "*.thrift")
