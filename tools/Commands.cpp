@@ -7,6 +7,7 @@
 
 #include <iomanip>
 #include <iostream>
+#include <utility>
 
 namespace Talvo::Tools
 {
@@ -22,23 +23,33 @@ std::string_view Directions(RecordType const& type)
     return "-";
 }
 
-/// Reads and decodes; a failure names the file.
-std::unique_ptr<WireRecord> Load(Source const& source, RecordType const& type)
+std::string FileName(Source const& source)
+{
+    return source.path == "-" ? "standard input" : source.path;
+}
+
+/// Reads a file and calls `decode` with its bytes; a failure of that names the file.
+template<typename TDecode>
+auto Load(Source const& source, TDecode const& decode)
 {
     auto const bytes = ReadFile(source.path);
-    auto const file = source.path == "-" ? "standard input" : source.path;
     try
     {
-        auto decoded = Decode(bytes, source.protocol, type);
-        if (decoded.skippedFields > 0)
-            std::cerr << "talvo-wire: note: " << file << " holds " << decoded.skippedFields << " fields that a "
-                      << type.name << " does not have; they were skipped\n";
-        return std::move(decoded.record);
+        return decode(bytes);
     }
     catch (Failure const& failure)
     {
-        throw Failure(file + ": " + failure.what());
+        throw Failure(FileName(source) + ": " + failure.what());
     }
+}
+
+Decoded LoadRecord(Source const& source, RecordType const& type)
+{
+    auto decoded = Load(source, [&](std::string const& bytes) { return Decode(bytes, source.protocol, type); });
+    if (decoded.skippedFields > 0)
+        std::cerr << "talvo-wire: note: " << FileName(source) << " holds " << decoded.skippedFields
+                  << " fields that the record does not have; they were skipped\n";
+    return decoded;
 }
 
 /// Prints what one direction said; false if it failed.
@@ -50,14 +61,38 @@ bool Report(RecordType const& type, char const* direction, Common::Serialization
     return result.success;
 }
 
-void PrintChange(FieldChange const& change)
+/// What became of the values of a record on a round trip.
+struct Tally
 {
-    if (!change.after)
-        std::cout << "gone     " << change.path << ": " << *change.before << '\n';
-    else if (!change.before)
-        std::cout << "added    " << change.path << ": " << *change.after << '\n';
-    else
-        std::cout << "changed  " << change.path << ": " << *change.before << " -> " << *change.after << '\n';
+    std::size_t kept = 0;
+    std::size_t changed = 0;
+    std::size_t gone = 0;
+    std::size_t added = 0;
+};
+
+Tally PrintChanges(FieldList const& before, FieldList const& after)
+{
+    Tally tally;
+    for (auto const& change : Compare(before, after))
+    {
+        if (!change.after)
+        {
+            ++tally.gone;
+            std::cout << "gone     " << change.path << ": " << *change.before << '\n';
+        }
+        else if (!change.before)
+        {
+            ++tally.added;
+            std::cout << "added    " << change.path << ": " << *change.after << '\n';
+        }
+        else
+        {
+            ++tally.changed;
+            std::cout << "changed  " << change.path << ": " << *change.before << " -> " << *change.after << '\n';
+        }
+    }
+    tally.kept = before.size() - tally.changed - tally.gone;
+    return tally;
 }
 
 } // namespace
@@ -71,9 +106,9 @@ void List()
 void Print(Source const& source)
 {
     auto const& type = FindRecordType(source.record);
-    auto const record = Load(source, type);
+    auto const decoded = LoadRecord(source, type);
     std::cout << type.name << '\n';
-    for (auto const& field : ListFields(*record)) std::cout << "  " << field.path << " = " << field.value << '\n';
+    for (auto const& field : ListFields(decoded)) std::cout << "  " << field.path << " = " << field.value << '\n';
 }
 
 ExitStatus Convert(Source const& source, Target const& target)
@@ -83,20 +118,14 @@ ExitStatus Convert(Source const& source, Target const& target)
         throw Failure(std::string(type.name) +
                       " has no converters in both directions; talvo-wire list tells which have");
 
-    auto const record = Load(source, type);
-    auto const trip = type.throughDomain(*record);
+    auto const decoded = LoadRecord(source, type);
+    auto const trip = type.throughDomain(*decoded.record);
     if (!Report(type, "wire to domain", trip.toDomain)) return ExitStatus::ConversionFailed;
     if (!Report(type, "domain to wire", *trip.toWire)) return ExitStatus::ConversionFailed;
 
-    auto const before = ListFields(*record);
-    auto const changes = Compare(before, ListFields(*trip.record));
-    std::size_t kept = before.size();
-    for (auto const& change : changes)
-    {
-        PrintChange(change);
-        if (change.before) --kept;
-    }
-    std::cout << kept << " values unchanged, " << changes.size() << " not\n";
+    auto const tally = PrintChanges(ListFields(decoded), ListFields(*trip.record));
+    std::cout << "values: " << tally.kept << " kept, " << tally.changed << " changed, " << tally.gone << " gone, "
+              << tally.added << " added\n";
 
     if (!target.path.empty()) WriteFile(target.path, Encode(*trip.record, target.protocol));
     return ExitStatus::Done;
@@ -105,15 +134,19 @@ ExitStatus Convert(Source const& source, Target const& target)
 void Transcode(Source const& source, Target const& target)
 {
     auto const& type = FindRecordType(source.record);
-    auto const record = Load(source, type);
-    auto const bytes = Encode(*record, target.protocol);
+    auto const [before, bytes] = Load(source,
+                                      [&](std::string const& read)
+                                      {
+                                          return std::pair(ListFields(Decode(read, source.protocol, type)),
+                                                           Transcode(read, source.protocol, type, target.protocol));
+                                      });
     WriteFile(target.path, bytes);
 
-    // Thrift's JSON reader drops zero bytes, so that not every record survives it.
-    auto const lost = Compare(ListFields(*record), ListFields(*Decode(bytes, target.protocol, type).record));
+    // Thrift's JSON reader drops zero bytes, so not every record comes back from it.
+    auto const lost = Compare(before, ListFields(Decode(bytes, target.protocol, type)));
     if (!lost.empty())
-        std::cerr << "talvo-wire: note: " << Name(target.protocol) << " does not keep this record: " << lost.size()
-                  << " values read back different, the first is " << lost.front().path << '\n';
+        std::cerr << "talvo-wire: note: " << Name(target.protocol) << " does not keep this record; " << lost.size()
+                  << " of its values read back different, such as " << lost.front().path << '\n';
 }
 
 } // namespace Talvo::Tools

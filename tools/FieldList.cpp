@@ -1,5 +1,7 @@
 #include "tools/FieldList.h"
 
+#include "tools/FieldPath.h"
+
 #include <thrift/protocol/TVirtualProtocol.h>
 
 #include <cstddef>
@@ -16,135 +18,94 @@ namespace
 
 using apache::thrift::protocol::TType;
 
-std::string Quoted(std::string_view bytes)
-{
-    static constexpr char Digits[] = "0123456789abcdef";
-    std::string text = "\"";
-    for (char const byte : bytes)
-    {
-        if (byte == '"' || byte == '\\')
-            text += {'\\', byte};
-        else if (byte >= ' ' && byte <= '~')
-            text += byte;
-        else
-            text += {'\\', 'x', Digits[(static_cast<unsigned char>(byte) >> 4U)], Digits[byte & 0xF]};
-    }
-    return text + '"';
-}
-
-/// A protocol that keeps what a record writes as a list of paths and values.
+/// A protocol that keeps what a record writes as a list of values.
 class FieldRecorder : public apache::thrift::protocol::TVirtualProtocol<FieldRecorder>
 {
 public:
-    FieldRecorder()
+    /// Keeps only the values at the paths `held`, or all if it is null.
+    explicit FieldRecorder(PathSet const* held)
         : TVirtualProtocol(std::make_shared<apache::thrift::transport::TTransport>())
+        , held_(held)
     {
     }
 
     FieldList Take() { return std::move(fields_); }
 
     // The names are those of Thrift's protocols.
-    std::uint32_t writeStructBegin(char const*) { return Begin(Kind::Struct); }
+    std::uint32_t writeStructBegin(char const*) { return Begin(FieldPath::Kind::Struct); }
     std::uint32_t writeStructEnd() { return End("(no fields)"); }
-    std::uint32_t writeFieldBegin(char const* name, TType, std::int16_t)
+    std::uint32_t writeFieldBegin(char const* name, TType, std::int16_t id)
     {
-        levels_.back().next = name;
+        names_.Field(name);
+        ids_.Field(std::to_string(id));
         return 0;
     }
     std::uint32_t writeFieldEnd() { return 0; }
     std::uint32_t writeFieldStop() { return 0; }
-    std::uint32_t writeMapBegin(TType, TType, std::uint32_t) { return Begin(Kind::MapKey); }
+    std::uint32_t writeMapBegin(TType, TType, std::uint32_t) { return Begin(FieldPath::Kind::Map); }
     std::uint32_t writeMapEnd() { return End("{}"); }
-    std::uint32_t writeListBegin(TType, std::uint32_t) { return Begin(Kind::Elements); }
+    std::uint32_t writeListBegin(TType, std::uint32_t) { return Begin(FieldPath::Kind::Elements); }
     std::uint32_t writeListEnd() { return End("[]"); }
-    std::uint32_t writeSetBegin(TType, std::uint32_t) { return Begin(Kind::Elements); }
+    std::uint32_t writeSetBegin(TType, std::uint32_t) { return Begin(FieldPath::Kind::Elements); }
     std::uint32_t writeSetEnd() { return End("{}"); }
-    std::uint32_t writeBool(bool value) { return Add(value ? "true" : "false"); }
-    std::uint32_t writeI16(std::int16_t value) { return Add(std::to_string(value)); }
-    std::uint32_t writeI32(std::int32_t value) { return Add(std::to_string(value)); }
-    std::uint32_t writeI64(std::int64_t value) { return Add(std::to_string(value)); }
-    std::uint32_t writeString(std::string const& value) { return Add(Quoted(value)); }
+    std::uint32_t writeBool(bool value) { return Value(ValueText(value)); }
+    std::uint32_t writeI16(std::int16_t value) { return Value(ValueText(std::int64_t{value})); }
+    std::uint32_t writeI32(std::int32_t value) { return Value(ValueText(std::int64_t{value})); }
+    std::uint32_t writeI64(std::int64_t value) { return Value(ValueText(value)); }
+    std::uint32_t writeString(std::string const& value) { return Value(ValueText(value)); }
 
 private:
-    enum class Kind
+    /// A record or container that is being written.
+    struct Open
     {
-        Struct,   ///< A record; `next` is the name of its field.
-        Elements, ///< A list or set; `count` is the index of its next element.
-        MapKey,   ///< A map that is about to get a key.
-        MapValue, ///< A map that is about to get the value of the key `next`.
-        Key       ///< A record that is a map's key; `next` gathers its values.
-    };
-
-    struct Level
-    {
-        Kind kind;
-        std::string path;
+        std::optional<std::string> name;
+        std::optional<std::string> id;
         std::size_t fieldsBefore;
-        std::string next = {};
-        std::size_t count = 0;
     };
 
-    /// The path of the value that comes next in the innermost level.
-    std::string NextPath()
+    std::uint32_t Begin(FieldPath::Kind kind)
     {
-        if (levels_.empty()) return {};
-        auto& level = levels_.back();
-        switch (level.kind)
-        {
-        case Kind::Elements:
-            return level.path + '[' + std::to_string(level.count++) + ']';
-        case Kind::MapValue:
-            level.kind = Kind::MapKey;
-            return level.path + '[' + level.next + ']';
-        default:
-            return level.path.empty() ? level.next : level.path + '.' + level.next;
-        }
-    }
-
-    std::uint32_t Begin(Kind kind)
-    {
-        if (InKey())
-            levels_.push_back({Kind::Key, {}, fields_.size()});
-        else
-            levels_.push_back({kind, NextPath(), fields_.size()});
+        auto name = names_.Begin(kind);
+        open_.push_back({std::move(name), ids_.Begin(kind), fields_.size()});
         return 0;
     }
 
     std::uint32_t End(char const* empty)
     {
-        auto const level = std::move(levels_.back());
-        levels_.pop_back();
-        if (level.kind == Kind::Key)
-            Add(level.next);
-        else if (fields_.size() == level.fieldsBefore && !levels_.empty())
-            fields_.push_back({level.path, empty});
+        auto const closed = std::move(open_.back());
+        open_.pop_back();
+        names_.End();
+        ids_.End();
+        if (fields_.size() == closed.fieldsBefore && !open_.empty()) Keep(closed.name, closed.id, empty);
         return 0;
     }
 
-    std::uint32_t Add(std::string value)
+    std::uint32_t Value(std::string text)
     {
-        auto& level = levels_.back();
-        if (level.kind == Kind::MapKey)
-        {
-            level.kind = Kind::MapValue;
-            level.next = std::move(value);
-        }
-        else if (level.kind == Kind::Key)
-            // A field's name stands here until its value takes its place: the only keys are records of one field.
-            level.next = std::move(value);
-        else
-            fields_.push_back({NextPath(), std::move(value)});
+        auto const name = names_.Value(text);
+        auto const id = ids_.Value(text);
+        Keep(name, id, std::move(text));
         return 0;
     }
 
-    bool InKey() const
+    void Keep(std::optional<std::string> const& name, std::optional<std::string> const& id, std::string text)
     {
-        return !levels_.empty() && (levels_.back().kind == Kind::MapKey || levels_.back().kind == Kind::Key);
+        if (name && (held_ == nullptr || held_->contains(*id))) fields_.push_back({*name, std::move(text)});
     }
 
-    std::vector<Level> levels_;
+    PathSet const* held_;
+    FieldPath names_;
+    FieldPath ids_; // the same path by the fields' ids, which are all that a reader sees
+    std::vector<Open> open_;
     FieldList fields_;
 };
+
+FieldList List(WireRecord const& record, PathSet const* held)
+{
+    FieldRecorder recorder(held);
+    record.Write(recorder);
+    return recorder.Take();
+}
 
 std::unordered_set<std::string_view> Paths(FieldList const& fields)
 {
@@ -155,11 +116,40 @@ std::unordered_set<std::string_view> Paths(FieldList const& fields)
 
 } // namespace
 
+std::string ValueText(bool value)
+{
+    return value ? "true" : "false";
+}
+
+std::string ValueText(std::int64_t value)
+{
+    return std::to_string(value);
+}
+
+std::string ValueText(std::string const& value)
+{
+    static constexpr char Digits[] = "0123456789abcdef";
+    std::string text = "\"";
+    for (char const byte : value)
+    {
+        if (byte == '"' || byte == '\\')
+            text += {'\\', byte};
+        else if (byte >= ' ' && byte <= '~')
+            text += byte;
+        else
+            text += {'\\', 'x', Digits[static_cast<unsigned char>(byte) >> 4U], Digits[byte & 0xF]};
+    }
+    return text + '"';
+}
+
 FieldList ListFields(WireRecord const& record)
 {
-    FieldRecorder recorder;
-    record.Write(recorder);
-    return recorder.Take();
+    return List(record, nullptr);
+}
+
+FieldList ListFields(Decoded const& decoded)
+{
+    return List(*decoded.record, &decoded.held);
 }
 
 std::vector<FieldChange> Compare(FieldList const& before, FieldList const& after)

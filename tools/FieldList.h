@@ -1,7 +1,8 @@
 #pragma once
 
-#include "tools/RecordType.h"
+#include "tools/Protocols.h"
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -9,7 +10,7 @@
 namespace Talvo::Tools
 {
 
-/// One value of a record as it goes to the wire. An empty list, map or nested record counts as one value.
+/// One value of a record on the wire. An empty list, map or nested record counts as one value.
 struct Field
 {
     std::string path;  ///< Such as `clips[3].clip.inBoundTodTimecode`; the entries of a map stand under their keys.
@@ -18,8 +19,17 @@ struct Field
 
 using FieldList = std::vector<Field>;
 
-/// All values that `record` writes, in the order of its schema. A field that stays off the wire is not among them.
+/// A value as text.
+std::string ValueText(bool value);
+std::string ValueText(std::int64_t value);
+std::string ValueText(std::string const& value);
+
+/// All values that `record` writes, in the order of its schema.
 FieldList ListFields(WireRecord const& record);
+
+/// The same for a record that was read, without the values that its bytes did not hold: a generated `write` writes every
+/// default field, whether it was there or not.
+FieldList ListFields(Decoded const& decoded);
 
 /// A value that differs between two records of one type.
 struct FieldChange

@@ -1,12 +1,15 @@
 #include "tools/Protocols.h"
 
 #include "tools/Failure.h"
+#include "tools/FieldList.h"
+#include "tools/FieldPath.h"
 
 #include <thrift/TConfiguration.h>
 #include <thrift/protocol/TBinaryProtocol.h>
 #include <thrift/protocol/TCompactProtocol.h>
 #include <thrift/protocol/TJSONProtocol.h>
 #include <thrift/protocol/TProtocolDecorator.h>
+#include <thrift/protocol/TProtocolTap.h>
 #include <thrift/transport/TBufferTransports.h>
 
 #include <array>
@@ -45,8 +48,8 @@ std::shared_ptr<Wire::TProtocol> MakeProtocol(Protocol protocol, std::shared_ptr
     }
 }
 
-/// Watches another protocol read a record: refuses containers that claim more than the bytes can hold, and counts the
-/// fields that the record skips.
+/// Watches another protocol read a record: refuses containers that claim more than the bytes can hold, and keeps what
+/// was there.
 class WatchedProtocol : public Wire::TProtocolDecorator
 {
 public:
@@ -56,64 +59,146 @@ public:
     {
     }
 
-    std::size_t FieldCount() const { return fieldCount_; }
+    PathSet TakeHeld() { return std::move(held_); }
     std::size_t SkippedCount() const { return skippedCount_; }
 
     std::uint32_t readStructBegin_virt(std::string& name) override
     {
-        ++depth_;
-        return TProtocolDecorator::readStructBegin_virt(name);
+        return Begun(FieldPath::Kind::Struct, TProtocolDecorator::readStructBegin_virt(name));
     }
 
-    std::uint32_t readStructEnd_virt() override
-    {
-        --depth_;
-        return TProtocolDecorator::readStructEnd_virt();
-    }
+    std::uint32_t readStructEnd_virt() override { return Ended(TProtocolDecorator::readStructEnd_virt()); }
 
     std::uint32_t readFieldBegin_virt(std::string& name, Wire::TType& type, std::int16_t& id) override
     {
         auto const size = TProtocolDecorator::readFieldBegin_virt(name, type, id);
-        if (depth_ == 1 && type != Wire::T_STOP) ++fieldCount_;
+        if (!skipping_ && type != Wire::T_STOP) path_.Field(std::to_string(id));
         return size;
-    }
-
-    std::uint32_t skip_virt(Wire::TType type) override
-    {
-        if (depth_ == 1) ++skippedCount_;
-        return TProtocolDecorator::skip_virt(type);
     }
 
     std::uint32_t readMapBegin_virt(Wire::TType& keyType, Wire::TType& valueType, std::uint32_t& size) override
     {
-        return Counted(TProtocolDecorator::readMapBegin_virt(keyType, valueType, size), size);
+        auto const result = TProtocolDecorator::readMapBegin_virt(keyType, valueType, size);
+        Count(size);
+        return Begun(FieldPath::Kind::Map, result);
     }
+
+    std::uint32_t readMapEnd_virt() override { return Ended(TProtocolDecorator::readMapEnd_virt()); }
 
     std::uint32_t readListBegin_virt(Wire::TType& elementType, std::uint32_t& size) override
     {
-        return Counted(TProtocolDecorator::readListBegin_virt(elementType, size), size);
+        auto const result = TProtocolDecorator::readListBegin_virt(elementType, size);
+        Count(size);
+        return Begun(FieldPath::Kind::Elements, result);
     }
+
+    std::uint32_t readListEnd_virt() override { return Ended(TProtocolDecorator::readListEnd_virt()); }
 
     std::uint32_t readSetBegin_virt(Wire::TType& elementType, std::uint32_t& size) override
     {
-        return Counted(TProtocolDecorator::readSetBegin_virt(elementType, size), size);
+        auto const result = TProtocolDecorator::readSetBegin_virt(elementType, size);
+        Count(size);
+        return Begun(FieldPath::Kind::Elements, result);
+    }
+
+    std::uint32_t readSetEnd_virt() override { return Ended(TProtocolDecorator::readSetEnd_virt()); }
+
+    std::uint32_t readBool_virt(bool& value) override
+    {
+        auto const size = TProtocolDecorator::readBool_virt(value);
+        return Read(size, value);
+    }
+
+    std::uint32_t readI16_virt(std::int16_t& value) override
+    {
+        auto const size = TProtocolDecorator::readI16_virt(value);
+        return Read(size, std::int64_t{value});
+    }
+
+    std::uint32_t readI32_virt(std::int32_t& value) override
+    {
+        auto const size = TProtocolDecorator::readI32_virt(value);
+        return Read(size, std::int64_t{value});
+    }
+
+    std::uint32_t readI64_virt(std::int64_t& value) override
+    {
+        auto const size = TProtocolDecorator::readI64_virt(value);
+        return Read(size, value);
+    }
+
+    std::uint32_t readString_virt(std::string& value) override
+    {
+        auto const size = TProtocolDecorator::readString_virt(value);
+        return Read(size, value);
+    }
+
+    /// Only skipped fields are read as bytes, which in JSON are no texts; but the schema has nothing else than texts.
+    std::uint32_t readBinary_virt(std::string& value) override { return readString_virt(value); }
+
+    std::uint32_t skip_virt(Wire::TType type) override
+    {
+        ++skippedCount_;
+        skipping_ = true;
+        auto const size = TProtocolDecorator::skip_virt(type);
+        skipping_ = false;
+        return size;
     }
 
 private:
     /// A generated `read` makes room for all elements at once, and Thrift itself takes a record for no byte at all and
     /// multiplies sizes in 32 bits. Every element takes at least one byte.
-    std::uint32_t Counted(std::uint32_t result, std::uint32_t elements)
+    void Count(std::uint32_t elements)
     {
         if (elements > MaxContainerSize || elements > elementsLeft_)
             throw Wire::TProtocolException(Wire::TProtocolException::SIZE_LIMIT);
         elementsLeft_ -= elements;
-        return result;
     }
 
+    std::uint32_t Begun(FieldPath::Kind kind, std::uint32_t size)
+    {
+        if (!skipping_) Keep(path_.Begin(kind));
+        return size;
+    }
+
+    std::uint32_t Ended(std::uint32_t size)
+    {
+        if (!skipping_) path_.End();
+        return size;
+    }
+
+    template<typename T>
+    std::uint32_t Read(std::uint32_t size, T const& value)
+    {
+        if (!skipping_) Keep(path_.Value(ValueText(value)));
+        return size;
+    }
+
+    void Keep(std::optional<std::string> path)
+    {
+        if (path && !path->empty()) held_.insert(std::move(*path));
+    }
+
+    FieldPath path_;
+    PathSet held_;
     std::size_t elementsLeft_;
-    std::size_t depth_ = 0;
-    std::size_t fieldCount_ = 0;
     std::size_t skippedCount_ = 0;
+    bool skipping_ = false;
+};
+
+/// The compact protocol does not carry the types of an empty map, and JSON has no name for none. Any will do: a reader
+/// looks at them only to read entries.
+class TypedEmptyMaps : public Wire::TProtocolDecorator
+{
+public:
+    using TProtocolDecorator::TProtocolDecorator;
+
+    std::uint32_t writeMapBegin_virt(Wire::TType const keyType, Wire::TType const valueType,
+                                     std::uint32_t const size) override
+    {
+        if (size == 0) return TProtocolDecorator::writeMapBegin_virt(Wire::T_STRUCT, Wire::T_STRUCT, 0);
+        return TProtocolDecorator::writeMapBegin_virt(keyType, valueType, size);
+    }
 };
 
 std::string Reason(Wire::TProtocolException const& error)
@@ -137,7 +222,7 @@ std::string Reason(TTransportException const& error)
     switch (error.getType())
     {
     case TTransportException::END_OF_FILE:
-        return "it ends in the middle of the record, or claims to hold more than it does";
+        return "it ends in the middle of the record";
     default:
         return error.what();
     }
@@ -163,11 +248,16 @@ std::string_view Name(Protocol protocol)
     return Protocols.at(static_cast<std::size_t>(protocol)).first;
 }
 
-Decoded Decode(std::string const& bytes, Protocol protocol, RecordType const& type)
+namespace
+{
+
+/// Decodes, and writes all that it reads to `sink` unless that is null.
+Decoded Decode(std::string const& bytes, Protocol protocol, RecordType const& type,
+               std::shared_ptr<Wire::TProtocol> sink)
 {
     auto const refuse = [&](std::string const& reason)
     {
-        return Failure("not a " + std::string(type.name) + " in the " + std::string(Name(protocol)) +
+        return Failure("holds no " + std::string(type.name) + " in the " + std::string(Name(protocol)) +
                        " protocol: " + reason);
     };
 
@@ -181,7 +271,9 @@ Decoded Decode(std::string const& bytes, Protocol protocol, RecordType const& ty
     auto const buffer = std::make_shared<TMemoryBuffer>(reinterpret_cast<std::uint8_t*>(unread.data()),
                                                         static_cast<std::uint32_t>(unread.size()),
                                                         TMemoryBuffer::OBSERVE, configuration);
-    WatchedProtocol watched(MakeProtocol(protocol, buffer, limit), bytes.size());
+    auto reader = MakeProtocol(protocol, buffer, limit);
+    if (sink != nullptr) reader = std::make_shared<Wire::TProtocolTap>(std::move(reader), std::move(sink));
+    WatchedProtocol watched(std::move(reader), bytes.size());
 
     auto record = type.make();
     try
@@ -208,9 +300,24 @@ Decoded Decode(std::string const& bytes, Protocol protocol, RecordType const& ty
     auto const rest = std::string_view(bytes).substr(bytes.size() - buffer->available_read());
     if (!rest.empty() && !(protocol == Protocol::Json && OnlyBlanks(rest)))
         throw refuse(std::to_string(rest.size()) + " more bytes follow the record");
-    if (watched.SkippedCount() > 0 && watched.SkippedCount() == watched.FieldCount())
-        throw refuse("it holds none of that record's fields");
-    return {std::move(record), watched.SkippedCount()};
+
+    Decoded decoded{std::move(record), watched.TakeHeld(), watched.SkippedCount()};
+    if (decoded.skippedFields > 0 && decoded.held.empty()) throw refuse("it holds none of that record's fields");
+    return decoded;
+}
+
+} // namespace
+
+Decoded Decode(std::string const& bytes, Protocol protocol, RecordType const& type)
+{
+    return Decode(bytes, protocol, type, nullptr);
+}
+
+std::string Transcode(std::string const& bytes, Protocol protocol, RecordType const& type, Protocol to)
+{
+    auto const buffer = std::make_shared<TMemoryBuffer>();
+    Decode(bytes, protocol, type, std::make_shared<TypedEmptyMaps>(MakeProtocol(to, buffer)));
+    return buffer->getBufferAsString();
 }
 
 std::string Encode(WireRecord const& record, Protocol protocol)

@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <unordered_set>
 
 namespace Talvo::Tools
 {
@@ -27,11 +28,15 @@ Protocol ParseProtocol(std::string_view name);
 
 std::string_view Name(Protocol protocol);
 
-/// A record and what was odd in its bytes.
+/// Paths of fields by their ids, such as `1[3].2`.
+using PathSet = std::unordered_set<std::string>;
+
+/// A record and what else its bytes tell.
 struct Decoded
 {
     std::unique_ptr<WireRecord> record;
-    std::size_t skippedFields; ///< Fields of an id or type that the record does not have, nested records aside.
+    PathSet held;              ///< Every value, container and nested record that was there.
+    std::size_t skippedFields; ///< Fields of an id or type that the record does not have.
 };
 
 /// Reads one record from all of `bytes`. Throws Failure where they are empty, cut off, followed by more, not of that
@@ -40,6 +45,10 @@ struct Decoded
 /// A claimed size allocates nothing beyond what the bytes could hold: Thrift's limits are set to their number, and the
 /// elements of all containers are counted against it.
 Decoded Decode(std::string const& bytes, Protocol protocol, RecordType const& type);
+
+/// Does the same and returns what was read in another protocol: every field that was there and no other, those that the
+/// record does not have included.
+std::string Transcode(std::string const& bytes, Protocol protocol, RecordType const& type, Protocol to);
 
 /// The record as one message without frame.
 std::string Encode(WireRecord const& record, Protocol protocol);
