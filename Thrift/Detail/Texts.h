@@ -19,19 +19,31 @@ std::string_view UntilNul(std::array<char, Size> const& text) noexcept
     return {text.data(), static_cast<std::size_t>(std::find(text.begin(), text.end(), '\0') - text.begin())};
 }
 
+/// Replaces the first `Size` characters of `destination`: a longer text is cut, a shorter one is filled with zeros.
+template<std::size_t Size>
+void FillFrom(std::string const& source, char* const destination) noexcept
+{
+    if (source.size() >= Size) // most texts: a copy of constant length costs next to nothing
+        std::copy_n(source.data(), Size, destination);
+    else
+        std::fill(std::copy(source.begin(), source.end(), destination), destination + Size, '\0');
+}
+
 /// Replaces a bounded text, which always ends with a zero: a longer one is cut, the rest is filled with zeros.
 template<std::size_t Size>
 void AssignBounded(std::array<char, Size>& destination, std::string const& source) noexcept
 {
-    destination = {};
-    std::copy_n(source.data(), std::min(source.size(), Size - 1), destination.data());
+    FillFrom<Size - 1>(source, destination.data());
+    destination.back() = '\0';
 }
 
 /// Sends a text slot: its whole payload, blanks and zeros included, and the slot's own flag. Never transcoded.
 template<std::size_t Size>
 void SendSlot(Corvane::Data::FixedText<Size> const& source, Data::Clips::Generated::AsciiOrUtf16String& destination)
 {
-    destination.data.assign(source.payload.data(), Size);
+    // Not assign(): a used record has the size already, and then this is a copy of constant length.
+    destination.data.resize(Size);
+    std::copy_n(source.payload.data(), Size, destination.data.data());
     destination.isUtf16 = source.isUtf16;
     destination.__isset.data = true;
     destination.__isset.isUtf16 = true;
@@ -43,9 +55,8 @@ template<std::size_t Size>
 void ReadSlot(Data::Clips::Generated::AsciiOrUtf16String const& source, Corvane::Data::FixedText<Size>& destination)
 {
     destination.isUtf16 = source.isUtf16;
-    destination.payload = {};
+    FillFrom<Size>(source.data, destination.payload.data());
     destination.end = {};
-    std::copy_n(source.data.data(), std::min(source.data.size(), Size), destination.payload.data());
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Detail

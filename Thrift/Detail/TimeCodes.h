@@ -10,8 +10,8 @@
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Detail
 {
 
-// Out: `= TimeCodeText(timeCode)` writes the text straight into the wire's string. Guarded in: `ReadTimeCode(text)` gives
-// nothing for any bad text. Both are the library's time code text without an allocation of its own.
+// Out: `= TimeCodeText(timeCode)` writes the text straight into the wire's string. In, where a bad text has to be noticed:
+// `ReadTimeCode(text)` gives nothing for it. Neither allocates.
 using TimePoints::ReadTimeCode;
 using TimePoints::TimeCodeText;
 
@@ -19,6 +19,12 @@ using TimePoints::TimeCodeText;
 inline TimePoints::TimeCode ParseTimeCode(std::string const& text)
 {
     return TimePoints::TalvoTimeCodeParser().Parse(text);
+}
+
+/// Guarded in: a bad text is skipped, and the destination keeps its value.
+inline void AssignGuarded(TimePoints::TimeCode& destination, std::string const& text) noexcept
+{
+    if (auto const timeCode = ReadTimeCode(text)) destination = *timeCode;
 }
 
 /// Empty time codes and time points stay off the wire in optional fields.

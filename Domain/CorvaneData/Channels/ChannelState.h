@@ -1,0 +1,31 @@
+#pragma once
+
+#include "Domain/CorvaneData/Channels/Guid.h"
+
+#include <array>
+#include <cstdint>
+
+namespace Talvo::Corvane::Data::Channels
+{
+
+/// What the states of player and recorder channels have in common.
+class ChannelState
+{
+public:
+    virtual ~ChannelState() = default;
+
+    virtual Guid::Type ChannelType() const noexcept = 0;
+
+    bool operator==(ChannelState const&) const = default;
+
+    std::int32_t channelIndex = 0; ///< index of the channel on its server
+    std::uint32_t serial = 0;      ///< serial number of the server's machine
+    std::array<char, 25> name{};   ///< up to 24 characters, then zero
+
+protected:
+    ChannelState() = default;
+    ChannelState(ChannelState const&) = default;
+    ChannelState& operator=(ChannelState const&) = default;
+};
+
+} // namespace Talvo::Corvane::Data::Channels

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "Domain/CorvaneData/Optional.h"
+#include "TimePoints/TimePoint.h"
+
+namespace Talvo::Corvane::Multiviewer
+{
+
+/// The in and out points that a clip would be created with, either of which may be missing.
+class ClipCreationBoundaries
+{
+public:
+    Data::Optional<TimePoints::TimePoint> TimePointIn() const { return timePointIn_; }
+    void TimePointIn(TimePoints::TimePoint&& value) { timePointIn_ = value; }
+
+    Data::Optional<TimePoints::TimePoint> TimePointOut() const { return timePointOut_; }
+    void TimePointOut(TimePoints::TimePoint&& value) { timePointOut_ = value; }
+
+    bool operator==(ClipCreationBoundaries const&) const = default;
+
+private:
+    Data::Optional<TimePoints::TimePoint> timePointIn_;
+    Data::Optional<TimePoints::TimePoint> timePointOut_;
+};
+
+} // namespace Talvo::Corvane::Multiviewer

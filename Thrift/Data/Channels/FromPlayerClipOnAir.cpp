@@ -1,0 +1,35 @@
+#include "Thrift/Data/Channels/FromPlayerClipOnAir.h"
+
+#include "Domain/CorvaneData/Channels/PlayerClipOnAir.h"
+#include "Thrift/Data/Clips/FromClip.h"
+#include "Thrift/Detail/Flagged.h"
+#include "Thrift/Detail/Results.h"
+#include "Thrift/Detail/TimeCodes.h"
+#include "generated/PlayerClipOnAir_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Channels
+{
+
+using namespace Detail;
+
+ConversionResult PlayerClipOnAirToThriftConverter::To(Corvane::Data::Channels::PlayerClipOnAir const& source,
+                                                      Generated::PlayerClipOnAir& destination) const noexcept
+{
+    Clips::ClipToThriftConverter const fromClip;
+
+    if (source.hasClipOnAir)
+    {
+        if (auto const result = fromClip.To(source.clipOnAir, destination.clipOnAir); !result.success)
+            return Nested(result);
+        destination.__isset.clipOnAir = true;
+    }
+    if (IsPresent(source.curTimePointOnAir))
+        TALVO_FLAGGED(destination, curTimePointOnAir) = source.curTimePointOnAir.position;
+    if (IsPresent(source.todCurTimecodeOnAir))
+        TALVO_FLAGGED(destination, todCurTimecodeOnAir) = TimeCodeText(source.todCurTimecodeOnAir);
+    if (IsPresent(source.userCurTimecodeOnAir))
+        TALVO_FLAGGED(destination, userCurTimecodeOnAir) = TimeCodeText(source.userCurTimecodeOnAir);
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Channels

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Data::Channels
+{
+struct PlayerClipOnAir;
+} // namespace Talvo::Corvane::Data::Channels
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Channels
+{
+
+namespace Generated
+{
+class PlayerClipOnAir;
+} // namespace Generated
+
+/// Writes a domain `PlayerClipOnAir` into the wire record `PlayerClipOnAir`. It can't fail.
+///
+/// The clip travels only if `hasClipOnAir` says so, the time point and time codes only if they are not empty; what stays off
+/// the wire keeps value and flag.
+class PlayerClipOnAirToThriftConverter
+    : public Converter<Corvane::Data::Channels::PlayerClipOnAir, Generated::PlayerClipOnAir>
+{
+public:
+    ~PlayerClipOnAirToThriftConverter() override = default;
+
+    ConversionResult To(Corvane::Data::Channels::PlayerClipOnAir const& source,
+                        Generated::PlayerClipOnAir& destination) const noexcept override;
+
+    ConversionResult To(Corvane::Data::Channels::PlayerClipOnAir&& source,
+                        Generated::PlayerClipOnAir& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Channels

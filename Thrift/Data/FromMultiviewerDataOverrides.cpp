@@ -1,0 +1,33 @@
+#include "Thrift/Data/FromMultiviewerDataOverrides.h"
+
+#include "Domain/CorvaneData/Multiviewer/MultiviewerDataOverrides.h"
+#include "Thrift/Data/FromPlayerDataOverrides.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/MultiviewerDataOverrides_types.h"
+
+#include <cstdint>
+#include <utility>
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data
+{
+
+using namespace Detail;
+
+ConversionResult
+FromMultiviewerDataOverrides::To(Multiviewer::MultiviewerDataOverrides const& source,
+                                 Corvane::Data::Generated::MultiviewerDataOverrides& destination) const noexcept
+{
+    FromPlayerDataOverrides const fromPlayer;
+
+    destination.playersData.clear();
+    destination.playersData.reserve(source.playerCount);
+    for (std::uint32_t i = 0; i < source.playerCount; ++i)
+    {
+        Corvane::Data::Generated::PlayerDataOverrides player;
+        if (auto const result = fromPlayer.To(source[i], player); !result.success) return Nested(result);
+        destination.playersData.push_back(std::move(player));
+    }
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Multiviewer
+{
+class PlayerDataOverrides;
+} // namespace Talvo::Corvane::Multiviewer
+
+namespace Talvo::Corvane::Data::Generated
+{
+class PlayerDataOverrides;
+} // namespace Talvo::Corvane::Data::Generated
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data
+{
+
+/// Writes a domain `PlayerDataOverrides` into the wire record `PlayerDataOverrides`. It can't fail.
+///
+/// An override that is missing clears the flag of its wire field, so a record that is used again keeps no stale one. A control
+/// or program mode outside its enumeration sets the flag and leaves the wire's value as it was.
+class FromPlayerDataOverrides
+    : public Converter<Multiviewer::PlayerDataOverrides, Corvane::Data::Generated::PlayerDataOverrides>
+{
+public:
+    ~FromPlayerDataOverrides() override = default;
+
+    ConversionResult To(Multiviewer::PlayerDataOverrides const& source,
+                        Corvane::Data::Generated::PlayerDataOverrides& destination) const noexcept override;
+
+    ConversionResult To(Multiviewer::PlayerDataOverrides&& source,
+                        Corvane::Data::Generated::PlayerDataOverrides& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data

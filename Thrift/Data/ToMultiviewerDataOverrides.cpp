@@ -1,0 +1,30 @@
+#include "Thrift/Data/ToMultiviewerDataOverrides.h"
+
+#include "Domain/CorvaneData/Multiviewer/MultiviewerDataOverrides.h"
+#include "Thrift/Data/ToPlayerDataOverrides.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/MultiviewerDataOverrides_types.h"
+
+#include <cstdint>
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data
+{
+
+using namespace Detail;
+
+ConversionResult ToMultiviewerDataOverrides::To(Corvane::Data::Generated::MultiviewerDataOverrides const& source,
+                                                Multiviewer::MultiviewerDataOverrides& destination) const noexcept
+{
+    ToPlayerDataOverrides const toPlayer;
+
+    // The destination decides how many players there are.
+    if (source.playersData.size() != destination.playerCount) return Failure("Unexpected playerData count");
+    for (std::uint32_t i = 0; i < destination.playerCount; ++i)
+    {
+        if (auto const result = toPlayer.To(source.playersData[i], destination[i]); !result.success)
+            return Nested(result);
+    }
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data

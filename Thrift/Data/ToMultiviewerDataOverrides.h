@@ -1,0 +1,38 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Multiviewer
+{
+class MultiviewerDataOverrides;
+} // namespace Talvo::Corvane::Multiviewer
+
+namespace Talvo::Corvane::Data::Generated
+{
+class MultiviewerDataOverrides;
+} // namespace Talvo::Corvane::Data::Generated
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data
+{
+
+/// Applies the players of the wire record `MultiviewerDataOverrides` to those of a domain `MultiviewerDataOverrides`, in their
+/// order, each as ToPlayerDataOverrides does. The destination decides how many there are.
+///
+/// Failure: "Unexpected playerData count" when the wire holds another number; the destination is then unchanged.
+class ToMultiviewerDataOverrides
+    : public Converter<Corvane::Data::Generated::MultiviewerDataOverrides, Multiviewer::MultiviewerDataOverrides>
+{
+public:
+    ~ToMultiviewerDataOverrides() override = default;
+
+    ConversionResult To(Corvane::Data::Generated::MultiviewerDataOverrides const& source,
+                        Multiviewer::MultiviewerDataOverrides& destination) const noexcept override;
+
+    ConversionResult To(Corvane::Data::Generated::MultiviewerDataOverrides&& source,
+                        Multiviewer::MultiviewerDataOverrides& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Multiviewer
+{
+class PlayerDataOverrides;
+} // namespace Talvo::Corvane::Multiviewer
+
+namespace Talvo::Corvane::Data::Generated
+{
+class PlayerDataOverrides;
+} // namespace Talvo::Corvane::Data::Generated
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data
+{
+
+/// Applies the wire record `PlayerDataOverrides` to a domain `PlayerDataOverrides`: the player always, the overrides whose flag
+/// is set. It can't fail. An override whose flag is clear stays as it was, and so does one whose control or program mode is
+/// unknown.
+class ToPlayerDataOverrides
+    : public Converter<Corvane::Data::Generated::PlayerDataOverrides, Multiviewer::PlayerDataOverrides>
+{
+public:
+    ~ToPlayerDataOverrides() override = default;
+
+    ConversionResult To(Corvane::Data::Generated::PlayerDataOverrides const& source,
+                        Multiviewer::PlayerDataOverrides& destination) const noexcept override;
+
+    ConversionResult To(Corvane::Data::Generated::PlayerDataOverrides&& source,
+                        Multiviewer::PlayerDataOverrides& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data
