@@ -1,0 +1,63 @@
+#include "tests/tools/Tool.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sstream>
+
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+Outcome RunTool(std::vector<std::string> arguments, std::string const& input, std::string const& outputPath)
+{
+    auto const in = TemporaryPath("in");
+    auto const out = outputPath.empty() ? TemporaryPath("out") : outputPath;
+    auto const err = TemporaryPath("err");
+    Write(in, input);
+
+    posix_spawn_file_actions_t files;
+    posix_spawn_file_actions_init(&files);
+    posix_spawn_file_actions_addopen(&files, STDIN_FILENO, in.c_str(), O_RDONLY, 0);
+    posix_spawn_file_actions_addopen(&files, STDOUT_FILENO, out.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
+    posix_spawn_file_actions_addopen(&files, STDERR_FILENO, err.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
+
+    arguments.insert(arguments.begin(), TALVO_WIRE);
+    std::vector<char*> argv;
+    for (auto& argument : arguments) argv.push_back(argument.data());
+    argv.push_back(nullptr);
+
+    pid_t child = 0;
+    int status = 0;
+    rusage usage{};
+    int const error = posix_spawn(&child, TALVO_WIRE, &files, nullptr, argv.data(), environ);
+    posix_spawn_file_actions_destroy(&files);
+    if (error != 0 || wait4(child, &status, 0, &usage) != child)
+    {
+        ADD_FAILURE() << "talvo-wire does not start";
+        return {-1, {}, {}, 0};
+    }
+    return {WIFSIGNALED(status) ? -WTERMSIG(status) : WEXITSTATUS(status),
+            outputPath.empty() ? Read(out) : std::string(), Read(err), usage.ru_maxrss};
+}
+
+std::string TemporaryPath(std::string const& name)
+{
+    return testing::TempDir() + "talvo-wire-" + std::to_string(getpid()) + "-" + name;
+}
+
+std::string Read(std::string const& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    EXPECT_TRUE(file) << path;
+    std::ostringstream bytes;
+    bytes << file.rdbuf();
+    return bytes.str();
+}
+
+void Write(std::string const& path, std::string const& bytes)
+{
+    std::ofstream(path, std::ios::binary) << bytes;
+}
