@@ -2,6 +2,9 @@
 
 #include "Common/Serialization/ConversionResult.h"
 
+#include <string>
+#include <utility>
+
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Detail
 {
 
@@ -11,9 +14,9 @@ inline Common::Serialization::ConversionResult Success() noexcept
     return {true, {}};
 }
 
-inline Common::Serialization::ConversionResult Failure(char const* const message)
+inline Common::Serialization::ConversionResult Failure(std::string message) noexcept
 {
-    return {false, message};
+    return {false, std::move(message)};
 }
 
 /// Passes a nested failure up: the same text with no prefix, read as a NUL-terminated one.

@@ -36,7 +36,7 @@ public:
     std::int32_t curVideoSpeedDenominator = 0;
     std::int32_t audioPgmInstruction = 0;
     std::uint16_t audioPgmInstructionDecSpeedD = 0;
-    std::int64_t fieldPgm = 0; ///< in fields, as all to `limitUserOut`
+    std::int64_t fieldPgm = 0;
     std::int64_t fieldPgmAudio = 0;
     std::int64_t fieldPreview = 0;
     std::int64_t curFieldInProtect = 0;

@@ -4,6 +4,7 @@
 #include "Thrift/Data/Clips/FromClip.h"
 #include "Thrift/Data/Clips/FromRecordingRange.h"
 #include "Thrift/Detail/Flagged.h"
+#include "Thrift/Detail/Lists.h"
 #include "Thrift/Detail/Results.h"
 #include "Thrift/Detail/TimeCodes.h"
 #include "generated/Train_types.h"
@@ -29,7 +30,7 @@ ConversionResult TrainToThriftConverter::To(Corvane::Data::Clips::Train const& s
     destination.__isset.trainData = source.trainClip != nullptr;
 
     // Appended: a destination that holds ranges already keeps them in front. That no range fails is not looked at.
-    destination.recordingRanges.reserve(destination.recordingRanges.size() + source.trainRanges.size());
+    ReserveMore(destination.recordingRanges, source.trainRanges.size());
     for (auto const& range : source.trainRanges)
         std::ignore = fromRange.To(range, destination.recordingRanges.emplace_back());
     destination.__isset.recordingRanges = !destination.recordingRanges.empty();

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+namespace Talvo::Corvane::Data::Sequences
+{
+
+/// The elements of a timeline, or only their number where they were not loaded: no elements and a number above 0.
+template<typename T>
+struct Track
+{
+    std::int32_t numberOfElements = 0;
+    std::vector<T> elements;
+
+    bool operator==(Track const&) const = default;
+};
+
+} // namespace Talvo::Corvane::Data::Sequences

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Data::Sequences
+{
+struct AudioVideoElement;
+} // namespace Talvo::Corvane::Data::Sequences
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences
+{
+
+namespace Generated
+{
+class AudioVideoElement;
+} // namespace Generated
+
+/// Writes a domain `AudioVideoElement` into the wire record `AudioVideoElement`: its eight own fields, then its `Element` part,
+/// whatever that conversion reports. It can't fail.
+class AudioVideoElementToThriftConverter
+    : public Converter<Corvane::Data::Sequences::AudioVideoElement, Generated::AudioVideoElement>
+{
+public:
+    ~AudioVideoElementToThriftConverter() override = default;
+
+    ConversionResult To(Corvane::Data::Sequences::AudioVideoElement const& source,
+                        Generated::AudioVideoElement& destination) const noexcept override;
+
+    ConversionResult To(Corvane::Data::Sequences::AudioVideoElement&& source,
+                        Generated::AudioVideoElement& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Data::Sequences
+{
+struct AudioVideoElement;
+
+template<typename T>
+struct Track;
+} // namespace Talvo::Corvane::Data::Sequences
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences
+{
+
+namespace Generated
+{
+class AudioVideoTrack;
+} // namespace Generated
+
+/// Writes a domain `Track<AudioVideoElement>` into the wire record `AudioVideoTrack`, which carries the elements or, where they
+/// are not loaded, their number, never both. It can't fail. Elements are appended to those that the destination holds.
+class AudioVideoTrackToThriftConverter
+    : public Converter<Corvane::Data::Sequences::Track<Corvane::Data::Sequences::AudioVideoElement>,
+                       Generated::AudioVideoTrack>
+{
+public:
+    ~AudioVideoTrackToThriftConverter() override = default;
+
+    ConversionResult To(Corvane::Data::Sequences::Track<Corvane::Data::Sequences::AudioVideoElement> const& source,
+                        Generated::AudioVideoTrack& destination) const noexcept override;
+
+    ConversionResult To(Corvane::Data::Sequences::Track<Corvane::Data::Sequences::AudioVideoElement>&& source,
+                        Generated::AudioVideoTrack& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

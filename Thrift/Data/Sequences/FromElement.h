@@ -1,0 +1,35 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Data::Sequences
+{
+struct Element;
+} // namespace Talvo::Corvane::Data::Sequences
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences
+{
+
+namespace Generated
+{
+class Element;
+} // namespace Generated
+
+/// Writes a domain `Element` into the wire record `Element`: every field. It can't fail. `tags` are appended to those that the
+/// destination holds; the flags inside `speed` stay as they are.
+class ElementToThriftConverter : public Converter<Corvane::Data::Sequences::Element, Generated::Element>
+{
+public:
+    ~ElementToThriftConverter() override = default;
+
+    ConversionResult To(Corvane::Data::Sequences::Element const& source,
+                        Generated::Element& destination) const noexcept override;
+
+    ConversionResult To(Corvane::Data::Sequences::Element&& source,
+                        Generated::Element& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Data::Sequences
+{
+struct Sequence;
+} // namespace Talvo::Corvane::Data::Sequences
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences
+{
+
+namespace Generated
+{
+class Sequence;
+} // namespace Generated
+
+/// Writes a domain `Sequence` into the wire record `Sequence`: every field. It can't fail. Texts go out whole, never trimmed or
+/// transcoded.
+class SequenceToThriftConverter : public Converter<Corvane::Data::Sequences::Sequence, Generated::Sequence>
+{
+public:
+    ~SequenceToThriftConverter() override = default;
+
+    ConversionResult To(Corvane::Data::Sequences::Sequence const& source,
+                        Generated::Sequence& destination) const noexcept override;
+
+    ConversionResult To(Corvane::Data::Sequences::Sequence&& source,
+                        Generated::Sequence& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

@@ -1,0 +1,23 @@
+#include "Thrift/Data/Sequences/FromSequenceId.h"
+
+#include "Domain/CorvaneData/Sequences/SequenceId.h"
+#include "Thrift/Detail/Flagged.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/SequenceId_types.h"
+
+#include <cstdint>
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences
+{
+
+using namespace Detail;
+
+ConversionResult SequenceIdToThriftConverter::To(Corvane::Data::Sequences::SequenceId const& source,
+                                                 Generated::SequenceId& destination) const noexcept
+{
+    TALVO_FLAGGED(destination, serverId) = source.serverId.Value();
+    TALVO_FLAGGED(destination, location) = static_cast<std::int32_t>(source.Location());
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Data::Sequences
+{
+struct Tag;
+} // namespace Talvo::Corvane::Data::Sequences
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences
+{
+
+namespace Generated
+{
+class Tag;
+} // namespace Generated
+
+/// Writes a domain `Tag` into the wire record `Tag`. It can't fail.
+///
+/// Properties are added to those that the destination holds; a key that is there already is skipped. Keys outside their table
+/// all travel as `Value`: the tag's own `Value` goes before them, and of them the lowest.
+class TagToThriftConverter : public Converter<Corvane::Data::Sequences::Tag, Generated::Tag>
+{
+public:
+    ~TagToThriftConverter() override = default;
+
+    ConversionResult To(Corvane::Data::Sequences::Tag const& source,
+                        Generated::Tag& destination) const noexcept override;
+
+    ConversionResult To(Corvane::Data::Sequences::Tag&& source, Generated::Tag& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

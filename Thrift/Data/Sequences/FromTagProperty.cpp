@@ -1,0 +1,24 @@
+#include "Thrift/Data/Sequences/FromTagProperty.h"
+
+#include "Domain/CorvaneData/Sequences/TagProperty.h"
+#include "Thrift/Data/Sequences/EnumConverter.h"
+#include "Thrift/Detail/Flagged.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/TagProperty_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences
+{
+
+using namespace Detail;
+
+ConversionResult TagPropertyToThriftConverter::To(Corvane::Data::Sequences::TagProperty const& source,
+                                                  Generated::TagProperty& destination) const noexcept
+{
+    TALVO_FLAGGED(destination, dataType) = EnumConverter::ToGeneratedEnum(source.type);
+    // Appended: a destination that holds integers already keeps them in front.
+    destination.value.insert(destination.value.end(), source.value.begin(), source.value.end());
+    destination.__isset.value = true;
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Data::Sequences
+{
+struct TagProperty;
+} // namespace Talvo::Corvane::Data::Sequences
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences
+{
+
+namespace Generated
+{
+class TagProperty;
+} // namespace Generated
+
+/// Writes a domain `TagProperty` into the wire record `TagProperty`. It can't fail. The integers are appended to those that the
+/// destination holds.
+class TagPropertyToThriftConverter : public Converter<Corvane::Data::Sequences::TagProperty, Generated::TagProperty>
+{
+public:
+    ~TagPropertyToThriftConverter() override = default;
+
+    ConversionResult To(Corvane::Data::Sequences::TagProperty const& source,
+                        Generated::TagProperty& destination) const noexcept override;
+
+    ConversionResult To(Corvane::Data::Sequences::TagProperty&& source,
+                        Generated::TagProperty& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

@@ -1,0 +1,77 @@
+#include "Thrift/Data/Sequences/ToElement.h"
+
+#include "Domain/CorvaneData/Sequences/Element.h"
+#include "Thrift/Data/Sequences/EnumConverter.h"
+#include "Thrift/Data/Sequences/ToSequenceId.h"
+#include "Thrift/Data/Sequences/ToTag.h"
+#include "Thrift/Detail/Lists.h"
+#include "Thrift/Detail/Results.h"
+#include "Thrift/Detail/SeenFields.h"
+#include "generated/Element_types.h"
+
+#include <vector>
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences
+{
+
+using namespace Detail;
+using Corvane::Data::Sequences::SequenceId;
+using Corvane::Data::Sequences::Tag;
+using EnumConverter::FromGeneratedEnum;
+
+namespace
+{
+
+/// Appends to what the destination holds. A tag that fails is not added, those before it are kept.
+ConversionResult ReadTags(std::vector<Generated::Tag> const& source, std::vector<Tag>& destination)
+{
+    ThriftToTagConverter const toTag;
+
+    ReserveMore(destination, source.size());
+    for (auto const& wireTag : source)
+    {
+        // The type is taken whatever its flag says.
+        auto& tag = destination.emplace_back(FromGeneratedEnum(wireTag.commandType));
+        if (auto const result = toTag.To(wireTag, tag); !result.success)
+        {
+            destination.pop_back();
+            return Nested(result);
+        }
+    }
+    return Success();
+}
+
+} // namespace
+
+ConversionResult ThriftToElementConverter::To(Generated::Element const& source,
+                                              Corvane::Data::Sequences::Element& destination) const noexcept
+{
+    ThriftToSequenceIdConverter const toSequenceId;
+    auto const& isset = source.__isset;
+    SeenFields seen;
+
+    if (seen(isset.id)) destination.id = source.id;
+    if (seen(isset.sequenceId))
+    {
+        SequenceId sequenceId;
+        if (auto const result = toSequenceId.To(source.sequenceId, sequenceId); !result.success) return Nested(result);
+        destination.sequenceId = sequenceId;
+    }
+    if (seen(isset.position)) destination.position = source.position;
+    if (seen(isset.umId)) destination.umId.SetUmId(source.umId.c_str());
+    if (seen(isset.inBoundaryType)) destination.inBoundaryType = FromGeneratedEnum(source.inBoundaryType);
+    if (seen(isset.outBoundaryType)) destination.outBoundaryType = FromGeneratedEnum(source.outBoundaryType);
+    if (seen(isset.effectPosition)) destination.effectPosition = FromGeneratedEnum(source.effectPosition);
+    if (seen(isset.stillMode)) destination.stillMode = FromGeneratedEnum(source.stillMode);
+    if (seen(isset.transitionTimer)) destination.transitionTimer = source.transitionTimer;
+    if (seen(isset.tags))
+    {
+        if (auto const result = ReadTags(source.tags, destination.tags); !result.success) return Nested(result);
+    }
+    if (seen(isset.internalLoopId)) destination.internalLoopId = source.internalLoopId;
+    if (seen(isset.internalLoopRunNb)) destination.internalLoopRunNb = source.internalLoopRunNb;
+    if (seen(isset.speed)) destination.speed = {source.speed.numerator, source.speed.denominator};
+    return seen.None() ? Failure("Element is empty") : Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Data::Sequences
+{
+struct Element;
+} // namespace Talvo::Corvane::Data::Sequences
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences
+{
+
+namespace Generated
+{
+class Element;
+} // namespace Generated
+
+/// Applies the fields of the wire record `Element` whose flag is set to a domain `Element`, as it stands. `tags` are appended to
+/// those that the destination holds; the flags inside `speed` are not looked at.
+///
+/// Failures, with what was applied before them left in the destination:
+/// - "SequenceId is empty": `sequenceId` has no flag set.
+/// - any of ThriftToTagConverter, from a tag; the tags before it are kept.
+/// - "Element is empty": no field was there.
+///
+/// Ends the process: a location below 0 or above 109.
+///
+/// Lost on the way: `umId` above 8 bytes is cut; unknown enumeration numbers read as 0.
+class ThriftToElementConverter : public Converter<Generated::Element, Corvane::Data::Sequences::Element>
+{
+public:
+    ~ThriftToElementConverter() override = default;
+
+    ConversionResult To(Generated::Element const& source,
+                        Corvane::Data::Sequences::Element& destination) const noexcept override;
+
+    ConversionResult To(Generated::Element&& source,
+                        Corvane::Data::Sequences::Element& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

@@ -1,0 +1,41 @@
+#include "Thrift/Data/Sequences/ToPlaylist.h"
+
+#include "Domain/CorvaneData/Sequences/Playlist.h"
+#include "Thrift/Data/Sequences/ToAudioVideoTrack.h"
+#include "Thrift/Data/Sequences/ToSequence.h"
+#include "Thrift/Detail/Results.h"
+#include "Thrift/Detail/SeenFields.h"
+#include "generated/Playlist_types.h"
+
+#include <tuple>
+#include <utility>
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences
+{
+
+using namespace Detail;
+using Corvane::Data::Sequences::AudioVideoElement;
+using Corvane::Data::Sequences::Track;
+
+ConversionResult ThriftToPlaylistConverter::To(Generated::Playlist const& source,
+                                               Corvane::Data::Sequences::Playlist& destination) const noexcept
+{
+    ThriftToAudioVideoTrackConverter const toTrack;
+    ThriftToSequenceConverter const toSequence;
+    auto const& isset = source.__isset;
+    SeenFields seen;
+
+    // What the parts report is not looked at: a track that fails half-way is stored with the elements it reached, and the
+    // header takes what comes before its failure.
+    if (seen(isset.audioVideoTrack))
+    {
+        Track<AudioVideoElement> track;
+        std::ignore = toTrack.To(source.audioVideoTrack, track);
+        destination.audioVideoTrack = std::move(track);
+    }
+    if (seen(isset.auxTrackClipUmId)) destination.auxTrackClipUmId.SetUmId(source.auxTrackClipUmId.c_str());
+    if (seen(isset.sequence)) std::ignore = toSequence.To(source.sequence, destination);
+    return seen.None() ? Failure("Playlist is empty") : Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

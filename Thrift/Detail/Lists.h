@@ -1,0 +1,39 @@
+#pragma once
+
+#include "Thrift/Detail/Results.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <vector>
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Detail
+{
+
+/// Makes room for `count` more elements at once, growing as push_back would, so that lists that are appended to again and
+/// again stay linear.
+template<typename T>
+void ReserveMore(std::vector<T>& list, std::size_t const count)
+{
+    auto const size = list.size() + count;
+    if (size > list.capacity()) list.reserve(std::max(size, 2 * list.capacity()));
+}
+
+/// Converts every element of `source` into a new one behind those that `destination` holds. The first that fails ends it
+/// with its failure: it is not added, those before it are kept.
+template<typename TConverter, typename TSource, typename TDestination>
+Common::Serialization::ConversionResult AppendEach(TConverter const& converter, std::vector<TSource> const& source,
+                                                   std::vector<TDestination>& destination)
+{
+    ReserveMore(destination, source.size());
+    for (auto const& element : source)
+    {
+        if (auto const result = converter.To(element, destination.emplace_back()); !result.success)
+        {
+            destination.pop_back();
+            return Nested(result);
+        }
+    }
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Detail
