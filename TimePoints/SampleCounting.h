@@ -33,8 +33,8 @@ struct SampleUnits
     }
 };
 
-/// The leap years from the year 1 to `year`, which is positive.
-constexpr std::int64_t LeapYearsUpTo(std::int64_t year) noexcept
+/// The leap years from the year 1 to `year`.
+constexpr unsigned LeapYearsUpTo(unsigned year) noexcept
 {
     return year / 4 - year / 100 + year / 400;
 }
@@ -42,8 +42,8 @@ constexpr std::int64_t LeapYearsUpTo(std::int64_t year) noexcept
 /// The days from 1900-01-01 to the first of January of `year`; 0 for an earlier year.
 constexpr std::int64_t DaysBeforeYear(int year) noexcept
 {
-    std::int64_t const lastYear = std::max(year, 1900) - 1;
-    return 365 * (lastYear - 1899) + LeapYearsUpTo(lastYear) - LeapYearsUpTo(1899);
+    auto const lastYear = static_cast<unsigned>(std::max(year, 1900) - 1);
+    return 365 * std::int64_t{lastYear - 1899} + (LeapYearsUpTo(lastYear) - LeapYearsUpTo(1899));
 }
 
 /// The days before each month from 1 on, 13 for the whole year, in an ordinary and in a leap year.
