@@ -1,3 +1,4 @@
+#include "Thrift/Data/Channels/EnumConverter.h"
 #include "Thrift/Data/Clips/EnumConverter.h"
 #include "Thrift/Data/OperationResultConverter.h"
 #include "Thrift/Data/OperationStatusConverter.h"
@@ -20,6 +21,7 @@ namespace
 namespace Domain = Corvane::Data;
 namespace Thrift = Corvane::Zelmar::Serialization::Thrift;
 namespace Wire = Corvane::Data::Generated;
+namespace WireChannels = Thrift::Data::Channels::Generated;
 namespace WireClips = Thrift::Data::Clips::Generated;
 
 /// One table: its lookups on plain numbers, and the domain number of each wire number.
@@ -39,8 +41,9 @@ std::vector<std::int32_t> EqualNumbers(std::int32_t const count)
 }
 
 template<typename TDomain, typename TWire>
-Table ClipTable(std::string name, std::vector<std::int32_t> domainNumbers)
+Table EnumTable(std::string name, std::vector<std::int32_t> domainNumbers)
 {
+    using namespace Thrift::Data::Channels::EnumConverter;
     using namespace Thrift::Data::Clips::EnumConverter;
     return {std::move(name),
             [](std::int32_t number) { return std::int32_t{ToGeneratedEnum(static_cast<TDomain>(number))}; },
@@ -51,39 +54,45 @@ Table ClipTable(std::string name, std::vector<std::int32_t> domainNumbers)
 
 std::vector<Table> Tables()
 {
+    using namespace Domain::Channels;
     using namespace Domain::Clips;
     return {
-        ClipTable<TrainStatus, WireClips::TrainStatus::type>("trainStatus", EqualNumbers(3)),
-        ClipTable<SourceEngine, WireClips::SourceEngine::type>("sourceEngine", EqualNumbers(4)),
-        ClipTable<UhdDivisionMode, WireClips::UhdDivisionMode::type>("uhdDivisionMode", EqualNumbers(3)),
-        ClipTable<HdrProfile, WireClips::HdrProfile::type>("hdrProfile", EqualNumbers(6)),
-        ClipTable<AlphaArchiveStatus, WireClips::AlphaArchiveStatus::type>("alphaArchiveStatus", EqualNumbers(3)),
-        ClipTable<ArchiveStatus, WireClips::ArchiveStatus::type>("archiveStatus", EqualNumbers(3)),
-        ClipTable<FillAndKeyStatus, WireClips::FillAndKeyStatus::type>("fillAndKeyStatus", EqualNumbers(3)),
-        ClipTable<Camera, WireClips::Camera::type>("camera", EqualNumbers(16)),
-        ClipTable<AfdAspectRatio, WireClips::AfdAspectRatio::type>("afdAspectRatio", EqualNumbers(4)),
-        ClipTable<CodedFrameAspectRatio, WireClips::CodedFrameAspectRatio::type>("codedFrameAspectRatio",
+        EnumTable<TrainStatus, WireClips::TrainStatus::type>("trainStatus", EqualNumbers(3)),
+        EnumTable<SourceEngine, WireClips::SourceEngine::type>("sourceEngine", EqualNumbers(4)),
+        EnumTable<UhdDivisionMode, WireClips::UhdDivisionMode::type>("uhdDivisionMode", EqualNumbers(3)),
+        EnumTable<HdrProfile, WireClips::HdrProfile::type>("hdrProfile", EqualNumbers(6)),
+        EnumTable<AlphaArchiveStatus, WireClips::AlphaArchiveStatus::type>("alphaArchiveStatus", EqualNumbers(3)),
+        EnumTable<ArchiveStatus, WireClips::ArchiveStatus::type>("archiveStatus", EqualNumbers(3)),
+        EnumTable<FillAndKeyStatus, WireClips::FillAndKeyStatus::type>("fillAndKeyStatus", EqualNumbers(3)),
+        EnumTable<Camera, WireClips::Camera::type>("camera", EqualNumbers(16)),
+        EnumTable<AfdAspectRatio, WireClips::AfdAspectRatio::type>("afdAspectRatio", EqualNumbers(4)),
+        EnumTable<CodedFrameAspectRatio, WireClips::CodedFrameAspectRatio::type>("codedFrameAspectRatio",
                                                                                  EqualNumbers(3)),
-        ClipTable<VideoFormat, WireClips::VideoFormat::type>("videoFormat", EqualNumbers(6)),
-        ClipTable<VideoStandard, WireClips::VideoStandard::type>("videoStandard", EqualNumbers(2)),
-        ClipTable<TimecodeType, WireClips::TimecodeType::type>("timecodeType", EqualNumbers(3)),
-        ClipTable<PrimaryTimecode, WireClips::PrimaryTimecode::type>("primaryTimecode", EqualNumbers(3)),
-        ClipTable<Rating, WireClips::Rating::type>("rating", EqualNumbers(4)),
-        ClipTable<PreferentialCamera, WireClips::PreferentialCamera::type>("preferentialCamera", EqualNumbers(3)),
-        ClipTable<Essences::Type, WireClips::Type::type>("essType", EqualNumbers(3)),
-        ClipTable<Essences::RecordingStatus, WireClips::RecordingStatus::type>("recordingStatus", EqualNumbers(5)),
-        ClipTable<Essences::ArchiveStatus, WireClips::EssenceArchiveStatus::type>("essenceArchiveStatus",
+        EnumTable<VideoFormat, WireClips::VideoFormat::type>("videoFormat", EqualNumbers(6)),
+        EnumTable<VideoStandard, WireClips::VideoStandard::type>("videoStandard", EqualNumbers(2)),
+        EnumTable<TimecodeType, WireClips::TimecodeType::type>("timecodeType", EqualNumbers(3)),
+        EnumTable<PrimaryTimecode, WireClips::PrimaryTimecode::type>("primaryTimecode", EqualNumbers(3)),
+        EnumTable<Rating, WireClips::Rating::type>("rating", EqualNumbers(4)),
+        EnumTable<PreferentialCamera, WireClips::PreferentialCamera::type>("preferentialCamera", EqualNumbers(3)),
+        EnumTable<Essences::Type, WireClips::Type::type>("essType", EqualNumbers(3)),
+        EnumTable<Essences::RecordingStatus, WireClips::RecordingStatus::type>("recordingStatus", EqualNumbers(5)),
+        EnumTable<Essences::ArchiveStatus, WireClips::EssenceArchiveStatus::type>("essenceArchiveStatus",
                                                                                   EqualNumbers(2)),
-        ClipTable<Essences::Metadata, WireClips::Metadata::type>("metadata", EqualNumbers(5)),
-        ClipTable<Essences::BlockSize, WireClips::BlockSize::type>("blockSize", {0, 2, 4, 5}),
-        ClipTable<Essences::VideoCompressionType, WireClips::VideoCompressionType::type>("videoCompressionType",
+        EnumTable<Essences::Metadata, WireClips::Metadata::type>("metadata", EqualNumbers(5)),
+        EnumTable<Essences::BlockSize, WireClips::BlockSize::type>("blockSize", {0, 2, 4, 5}),
+        EnumTable<Essences::VideoCompressionType, WireClips::VideoCompressionType::type>("videoCompressionType",
                                                                                          EqualNumbers(26)),
-        ClipTable<Essences::AudioCompressionType, WireClips::AudioCompressionType::type>("audioCompressionType",
+        EnumTable<Essences::AudioCompressionType, WireClips::AudioCompressionType::type>("audioCompressionType",
                                                                                          EqualNumbers(3)),
-        ClipTable<Essences::VideoCompressionInfo, WireClips::VideoCompressionInfo::type>("videoCompressionInfo",
+        EnumTable<Essences::VideoCompressionInfo, WireClips::VideoCompressionInfo::type>("videoCompressionInfo",
                                                                                          EqualNumbers(11)),
-        ClipTable<Essences::AudioConfiguration, WireClips::AudioConfiguration::type>("audioConfiguration",
+        EnumTable<Essences::AudioConfiguration, WireClips::AudioConfiguration::type>("audioConfiguration",
                                                                                      EqualNumbers(8)),
+        EnumTable<PlayerModeStatus, WireChannels::PlayerModeStatus::type>("playerModeStatus", EqualNumbers(6)),
+        EnumTable<PlayerModeType, WireChannels::PlayerModeType::type>("playerModeType", EqualNumbers(14)),
+        EnumTable<PlayingLoopMode, WireChannels::PlayingLoopMode::type>("playingLoopMode", EqualNumbers(4)),
+        EnumTable<PlayoutConfig, WireChannels::PlayoutConfig::type>("playoutConfig", EqualNumbers(8)),
+        EnumTable<RecorderModeStatus, WireChannels::RecorderModeStatus::type>("recorderModeStatus", EqualNumbers(3)),
         {"operationResult",
          [](std::int32_t number) {
              return std::int32_t{

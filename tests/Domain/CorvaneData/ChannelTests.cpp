@@ -1,0 +1,87 @@
+#include "Domain/CorvaneData/Channels/Boundary.h"
+#include "Domain/CorvaneData/Channels/PlayerState.h"
+#include "Domain/CorvaneData/Channels/RecorderState.h"
+#include "Domain/CorvaneData/Multiviewer/MultiviewerDataOverrides.h"
+#include "Domain/CorvaneData/Multiviewer/PlayerDataOverrides.h"
+
+#include <gtest/gtest.h>
+
+namespace Talvo::Corvane
+{
+namespace
+{
+
+using namespace Data::Channels;
+using Multiviewer::MultiviewerDataOverrides;
+using Multiviewer::PlayerDataOverrides;
+using TimePoints::TimePoint;
+
+TEST(Boundary, IsAbsoluteOrRelativeAndNeverBoth)
+{
+    Boundary const fresh;
+    EXPECT_TRUE(fresh.IsAbsolute());
+    EXPECT_EQ(fresh.Timepoint(), TimePoint::Empty());
+    EXPECT_EQ(fresh, Boundary::AbsoluteBoundary(TimePoint::Empty()));
+
+    auto const absolute = Boundary::AbsoluteBoundary({7});
+    EXPECT_TRUE(absolute.IsAbsolute());
+    EXPECT_EQ(absolute.Timepoint().position, 7);
+
+    // The first reference and no field are not the same as a new boundary.
+    auto const relative = Boundary::RelativeBoundary(Boundary::RelativeTo::RelativeToCorrespondingClipBoundary, 0);
+    EXPECT_FALSE(relative.IsAbsolute());
+    EXPECT_NE(relative, fresh);
+    auto const opposite = Boundary::RelativeBoundary(Boundary::RelativeTo::RelativeToOppositeLoadBoundary, 0xFFFFFFFF);
+    EXPECT_EQ(opposite.GetRelativeTo(), Boundary::RelativeTo::RelativeToOppositeLoadBoundary);
+    EXPECT_EQ(opposite.FieldCount(), 0xFFFFFFFF);
+}
+
+// Every comparison of states rests on this, also that of the round trips.
+template<typename TState>
+void ExpectComparesItsBase()
+{
+    TState const state;
+    auto other = state;
+    EXPECT_EQ(state, other);
+    other.name.back() = 'x';
+    EXPECT_NE(state, other);
+    other = state;
+    other.serial = 1;
+    EXPECT_NE(state, other);
+}
+
+TEST(ChannelState, ComparesItsBaseAndTellsItsType)
+{
+    ExpectComparesItsBase<PlayerState>();
+    ExpectComparesItsBase<RecorderState>();
+    EXPECT_EQ(PlayerState().ChannelType(), Guid::Type::ChannelGuidTypePlayer);
+    EXPECT_EQ(RecorderState().ChannelType(), Guid::Type::ChannelGuidTypeRecorder);
+}
+
+TEST(PlayerDataOverrides, CopiesCarryTheReservedValues)
+{
+    PlayerDataOverrides overrides;
+    overrides.reservedValueA = 1;
+    overrides.reservedValueB = 0;
+    overrides.Message("a text too long to be held in place");
+    auto const copy = overrides;
+    EXPECT_EQ(copy.reservedValueA.Value(), 1);
+    EXPECT_EQ(copy.reservedValueB.Value(), 0);
+    EXPECT_EQ(copy, overrides);
+    overrides.reservedValueB.Delete();
+    EXPECT_NE(copy, overrides);
+}
+
+TEST(MultiviewerDataOverrides, HoldsOneEntryAPlayer)
+{
+    MultiviewerDataOverrides multiviewer(2);
+    EXPECT_EQ(multiviewer.playerCount, 2u);
+    multiviewer[1].Message("second");
+    auto const copy = multiviewer;
+    EXPECT_EQ(copy[0], PlayerDataOverrides());
+    EXPECT_EQ(copy[1].Message().Value(), "second");
+    EXPECT_EQ(MultiviewerDataOverrides(0).playerCount, 0u);
+}
+
+} // namespace
+} // namespace Talvo::Corvane

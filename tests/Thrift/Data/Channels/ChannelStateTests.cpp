@@ -1,0 +1,437 @@
+#include "tests/Thrift/Data/Channels/Values.h"
+
+#include "Thrift/Data/Channels/FromPlayerClipOnAir.h"
+#include "Thrift/Data/Channels/FromPlayerState.h"
+#include "Thrift/Data/Channels/FromRecorderState.h"
+#include "Thrift/Data/Channels/ToPlayerClipOnAir.h"
+#include "Thrift/Data/Channels/ToPlayerState.h"
+#include "Thrift/Data/Channels/ToRecorderState.h"
+#include "generated/PlayerClipOnAir_types.h"
+#include "generated/PlayerState_types.h"
+#include "generated/RecorderState_types.h"
+#include "tests/Thrift/RoundTrip.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <sstream>
+#include <string>
+#include <tuple>
+
+namespace Talvo::Tests
+{
+namespace
+{
+
+using namespace Corvane::Zelmar::Serialization::Thrift::Data::Channels;
+using namespace Corvane::Data::Channels;
+using TimePoints::TimeCode;
+using TimePoints::TimePoint;
+
+template<typename TConverter, typename TDestination>
+TDestination Converted(auto const& source, TDestination destination = TDestination())
+{
+    EXPECT_TRUE(TConverter().To(source, destination).success);
+    return destination;
+}
+
+std::string Printed(auto const& record)
+{
+    std::ostringstream text;
+    text << record;
+    return text.str();
+}
+
+// The same states without all that may stay off the wire.
+
+PlayerClipOnAir Bare(PlayerClipOnAir clip)
+{
+    clip.hasClipOnAir = false;
+    clip.curTimePointOnAir = TimePoint::Empty();
+    clip.todCurTimecodeOnAir = clip.userCurTimecodeOnAir = TimeCode::Empty();
+    return clip;
+}
+
+PlayerState Bare(PlayerState state)
+{
+    state.playoutConfig = PlayoutConfig::Undefined;
+    state.commonSpeedDenominator = 0; // half a speed is none
+    state.curVideoSpeedNumerator = 0;
+    state.pgmOnAir = Bare(state.pgmOnAir);
+    state.previewOnAir = Bare(state.previewOnAir);
+    state.pgmInTimePointOnAir = state.pgmShortInTimePointOnAir = TimePoint::Empty();
+    state.pgmShortOutTimePointOnAir = state.pgmOutTimePointOnAir = TimePoint::Empty();
+    state.todPgmInTimecodeOnAir = state.todPgmShortInTimecodeOnAir = TimeCode::Empty();
+    state.todPgmShortOutTimecodeOnAir = state.todPgmOutTimecodeOnAir = TimeCode::Empty();
+    state.userPgmInTimecodeOnAir = state.userPgmShortInTimecodeOnAir = TimeCode::Empty();
+    state.userPgmShortOutTimecodeOnAir = state.userPgmOutTimecodeOnAir = TimeCode::Empty();
+    state.globalLoopMode = PlayingLoopMode::Unknown;
+    return state;
+}
+
+RecorderState Bare(RecorderState state)
+{
+    state.firstTimePoint = state.lastTimePoint = TimePoint::Empty();
+    state.lastTodTimecode = state.lastUserTimecode = TimeCode::Empty();
+    state.primaryTimecodeType = Corvane::Data::Clips::PrimaryTimecode::NotSet;
+    state.hasRecorderTrain = false;
+    return state;
+}
+
+/// What stays off the wire keeps value and flag of a wire record that is used again, and the value of the domain object
+/// that such a record is read into.
+template<typename TToWire, typename TToDomain, typename TWire, typename TDomain>
+void ExpectAbsentIsKept(TDomain const& full)
+{
+    auto const wire = Converted<TToWire, TWire>(full);
+    EXPECT_EQ((Converted<TToWire, TWire>(Bare(full), wire)), wire);
+    EXPECT_EQ((Converted<TToDomain, TDomain>(Converted<TToWire, TWire>(Bare(full)), full)), full);
+}
+
+TEST(PlayerClipOnAirConversion, RoundTrip)
+{
+    ExpectRoundTrip<PlayerClipOnAirToThriftConverter, ThriftToPlayerClipOnAirConverter, Generated::PlayerClipOnAir>(
+        FullClipOnAir());
+    ExpectRoundTrip<PlayerClipOnAirToThriftConverter, ThriftToPlayerClipOnAirConverter, Generated::PlayerClipOnAir>(
+        PlayerClipOnAir());
+    ExpectFieldByField<PlayerClipOnAirToThriftConverter, ThriftToPlayerClipOnAirConverter, Generated::PlayerClipOnAir>(
+        FullClipOnAir());
+    ExpectAbsentIsKept<PlayerClipOnAirToThriftConverter, ThriftToPlayerClipOnAirConverter, Generated::PlayerClipOnAir>(
+        FullClipOnAir());
+    EXPECT_EQ(Printed(Converted<PlayerClipOnAirToThriftConverter, Generated::PlayerClipOnAir>(Bare(FullClipOnAir()))),
+              "PlayerClipOnAir(clipOnAir=<null>, curTimePointOnAir=<null>, todCurTimecodeOnAir=<null>, "
+              "userCurTimecodeOnAir=<null>)");
+}
+
+TEST(PlayerClipOnAirConversion, ClipReplacesAndABadOneLeavesTheDestination)
+{
+    Generated::PlayerClipOnAir wire;
+    wire.__isset.clipOnAir = true;
+    wire.__set_curTimePointOnAir(99);
+    auto clip = FullClipOnAir();
+    EXPECT_EQ(ThriftToPlayerClipOnAirConverter().To(wire, clip).message, "Clip is empty");
+    EXPECT_EQ(clip, FullClipOnAir());
+
+    wire.clipOnAir.kviIndex = 5;
+    wire.clipOnAir.__isset.kviIndex = true;
+    PlayerClipOnAir expected = FullClipOnAir();
+    expected.clipOnAir = {};
+    expected.clipOnAir.kviIndex = 5;
+    expected.curTimePointOnAir = {99};
+    EXPECT_TRUE(ThriftToPlayerClipOnAirConverter().To(wire, clip).success);
+    EXPECT_EQ(clip, expected);
+}
+
+TEST(PlayerClipOnAirConversionDeathTest, TimeCodeTextsAreReadUnguarded)
+{
+    Generated::PlayerState tod, user;
+    tod.__isset.pgmOnAir = user.__isset.previewOnAir = true;
+    tod.pgmOnAir.__set_todCurTimecodeOnAir("2023-02-29T00:00:00:00@50");
+    user.previewOnAir.__set_userCurTimecodeOnAir("00:00:00:00@99999999999");
+    PlayerClipOnAir clip;
+    EXPECT_DEATH(std::ignore = ThriftToPlayerClipOnAirConverter().To(tod.pgmOnAir, clip), "terminate");
+    EXPECT_DEATH(std::ignore = ThriftToPlayerClipOnAirConverter().To(user.previewOnAir, clip), "terminate");
+    PlayerState state; // nor is there a guard around it
+    EXPECT_DEATH(std::ignore = ThriftToPlayerStateConverter().To(tod, state), "terminate");
+    EXPECT_DEATH(std::ignore = ThriftToPlayerStateConverter().To(user, state), "terminate");
+}
+
+TEST(PlayerStateConversion, RoundTrip)
+{
+    ExpectRoundTrip<PlayerStateToThriftConverter, ThriftToPlayerStateConverter, Generated::PlayerState>(
+        FullPlayerState());
+    ExpectRoundTrip<PlayerStateToThriftConverter, ThriftToPlayerStateConverter, Generated::PlayerState>(PlayerState());
+    ExpectAbsentIsKept<PlayerStateToThriftConverter, ThriftToPlayerStateConverter, Generated::PlayerState>(
+        FullPlayerState());
+}
+
+TEST(PlayerStateConversion, EachFieldOfTheWireHoldsItsOwn)
+{
+    auto state = FullPlayerState();
+    state.pgmOnAir = state.previewOnAir = {};
+    state.pgmOnAir.curTimePointOnAir = {9};
+    EXPECT_EQ(
+        Printed(Converted<PlayerStateToThriftConverter, Generated::PlayerState>(state)),
+        "PlayerState(serial=4294967294, channelIndex=-2, name=A name of 24 bytes, full, status=5, mode=13, "
+        "infoOnAir=PlayerInfoOnAir(playoutConfig=7, status=3, mode=2, commonSpeedNumerator=-1, "
+        "commonSpeedDenominator=2, curVideoSpeedNumerator=3, curVideoSpeedDenominator=4, audioPgmInstruction=-17, "
+        "audioPgmInstructionDecSpeedD=65534, fieldPgm=9223372036854775807, fieldPgmAudio=-1, fieldPreview=2, "
+        "curFieldInProtect=3, curFieldOutProtect=4, limitIn=5, limitOut=6, limitUserIn=7, limitUserOut=8), "
+        "pgmOnAir=PlayerClipOnAir(clipOnAir=<null>, curTimePointOnAir=9, todCurTimecodeOnAir=<null>, "
+        "userCurTimecodeOnAir=<null>), "
+        "previewOnAir=PlayerClipOnAir(clipOnAir=<null>, curTimePointOnAir=<null>, todCurTimecodeOnAir=<null>, "
+        "userCurTimecodeOnAir=<null>), "
+        "pgmInTimePointOnAir=11, pgmShortInTimePointOnAir=12, pgmShortOutTimePointOnAir=13, pgmOutTimePointOnAir=14, "
+        "todPgmInTimecodeOnAir=2024-06-15T18:00:00:01@50, todPgmShortInTimecodeOnAir=2024-06-15T18:00:00:02@50, "
+        "todPgmShortOutTimecodeOnAir=2024-06-15T18:00:00:03@50, todPgmOutTimecodeOnAir=2024-06-15T18:00:00:04@50, "
+        "userPgmInTimecodeOnAir=2024-06-15T18:00:00:05@25, userPgmShortInTimecodeOnAir=2024-06-15T18:00:00:06@25, "
+        "userPgmShortOutTimecodeOnAir=2024-06-15T18:00:00:07@25, userPgmOutTimecodeOnAir=2024-06-15T18:00:00:08@25, "
+        "globalLoopMode=3, "
+        "inBoundary=LoadBoundary(type=0, specializedLoadBoundary=SpecializedLoadBoundary("
+        "absoluteLoadBoundary=AbsoluteLoadBoundary(timepoint=-21), relativeLoadBoundary=<null>)), "
+        "outBoundary=LoadBoundary(type=3, specializedLoadBoundary=SpecializedLoadBoundary("
+        "absoluteLoadBoundary=<null>, relativeLoadBoundary=RelativeLoadBoundary(fieldCount=4294967293))))");
+
+    auto const& isset = Converted<PlayerStateToThriftConverter, Generated::PlayerState>(state).infoOnAir.__isset;
+    EXPECT_TRUE(isset.status && isset.mode && isset.audioPgmInstruction && isset.audioPgmInstructionDecSpeedD &&
+                isset.fieldPgm && isset.fieldPgmAudio && isset.fieldPreview && isset.curFieldInProtect &&
+                isset.curFieldOutProtect && isset.limitIn && isset.limitOut && isset.limitUserIn && isset.limitUserOut);
+}
+
+TEST(PlayerStateConversion, AppliesFieldByFieldAndCountsAllButTheBoundaries)
+{
+    auto const wire = Converted<PlayerStateToThriftConverter, Generated::PlayerState>(FullPlayerState());
+    PlayerState assembled;
+    for (auto const& bytes : FieldByField(wire))
+    {
+        auto const field = Read<Generated::PlayerState>(bytes);
+        bool const isBoundary = field.__isset.inBoundary || field.__isset.outBoundary;
+        EXPECT_EQ(ThriftToPlayerStateConverter().To(field, assembled).message,
+                  isBoundary ? "PlayerState is empty" : "");
+    }
+    EXPECT_EQ(assembled, FullPlayerState()); // the boundaries too
+
+    auto state = FullPlayerState();
+    EXPECT_EQ(ThriftToPlayerStateConverter().To(Generated::PlayerState(), state).message, "PlayerState is empty");
+    EXPECT_EQ(state, FullPlayerState());
+}
+
+TEST(PlayerStateConversion, ASpeedTravelsAsAPair)
+{
+    struct Row
+    {
+        std::int32_t numerator, denominator;
+        bool travels;
+    };
+    for (auto const& [numerator, denominator, travels] :
+         {Row{5, 0, false}, Row{0, 5, false}, Row{0, 0, false}, Row{-5, 1, true}})
+    {
+        PlayerState common, current;
+        common.commonSpeedNumerator = current.curVideoSpeedNumerator = numerator;
+        common.commonSpeedDenominator = current.curVideoSpeedDenominator = denominator;
+        auto const first = Converted<PlayerStateToThriftConverter, Generated::PlayerState>(common).infoOnAir.__isset;
+        auto const second = Converted<PlayerStateToThriftConverter, Generated::PlayerState>(current).infoOnAir.__isset;
+        EXPECT_EQ(first.commonSpeedNumerator, travels);
+        EXPECT_EQ(first.commonSpeedDenominator, travels);
+        EXPECT_EQ(second.curVideoSpeedNumerator, travels);
+        EXPECT_EQ(second.curVideoSpeedDenominator, travels);
+        EXPECT_FALSE(first.curVideoSpeedNumerator || first.curVideoSpeedDenominator || second.commonSpeedNumerator ||
+                     second.commonSpeedDenominator);
+    }
+}
+
+TEST(PlayerStateConversion, InfoOnAirOverwritesWhateverItsFlagsSay)
+{
+    Generated::PlayerState wire;
+    wire.__isset.infoOnAir = true;
+    auto& info = wire.infoOnAir;
+    info.playoutConfig = Generated::PlayoutConfig::Mix;
+    info.mode = Generated::PlayerModeType::Idle;
+    info.commonSpeedNumerator = info.curVideoSpeedDenominator = 9;
+    info.audioPgmInstructionDecSpeedD = -0x10003;
+    info.limitUserOut = 77;
+    info.__isset.commonSpeedDenominator = info.__isset.curVideoSpeedNumerator = true; // half a speed is none
+
+    auto expected = FullPlayerState();
+    expected.onAirStatus = PlayerModeStatus::Idle;
+    expected.onAirMode = PlayerModeType::Idle;
+    expected.audioPgmInstruction = 0;
+    expected.audioPgmInstructionDecSpeedD = 0xFFFD;
+    expected.fieldPgm = expected.fieldPgmAudio = expected.fieldPreview = 0;
+    expected.curFieldInProtect = expected.curFieldOutProtect = 0;
+    expected.limitIn = expected.limitOut = expected.limitUserIn = 0;
+    expected.limitUserOut = 77;
+    EXPECT_EQ((Converted<ThriftToPlayerStateConverter>(wire, FullPlayerState())), expected);
+
+    info.__isset = {};
+    info.__isset.commonSpeedNumerator = info.__isset.curVideoSpeedDenominator = true; // nor is the other half
+    EXPECT_EQ((Converted<ThriftToPlayerStateConverter>(wire, FullPlayerState())), expected);
+
+    info.__isset.commonSpeedDenominator = info.__isset.playoutConfig = true;
+    expected.commonSpeedNumerator = 9;
+    expected.commonSpeedDenominator = 0; // a 0 on the wire is taken
+    expected.playoutConfig = PlayoutConfig::Mix;
+    EXPECT_EQ((Converted<ThriftToPlayerStateConverter>(wire, FullPlayerState())), expected);
+}
+
+TEST(PlayerStateConversion, BadTimeCodesAreSkippedYetSeen)
+{
+    for (auto const set : {
+             &Generated::PlayerState::__set_todPgmInTimecodeOnAir,
+             &Generated::PlayerState::__set_todPgmShortInTimecodeOnAir,
+             &Generated::PlayerState::__set_todPgmShortOutTimecodeOnAir,
+             &Generated::PlayerState::__set_todPgmOutTimecodeOnAir,
+             &Generated::PlayerState::__set_userPgmInTimecodeOnAir,
+             &Generated::PlayerState::__set_userPgmShortInTimecodeOnAir,
+             &Generated::PlayerState::__set_userPgmShortOutTimecodeOnAir,
+             &Generated::PlayerState::__set_userPgmOutTimecodeOnAir,
+         })
+        for (auto const* const bad : {"", "noon", "2023-02-29T00:00:00:00@50", "00:00:00:00@99999999999"})
+        {
+            Generated::PlayerState wire;
+            (wire.*set)(bad);
+            EXPECT_EQ((Converted<ThriftToPlayerStateConverter>(wire, FullPlayerState())), FullPlayerState()) << bad;
+        }
+}
+
+TEST(PlayerStateConversion, ARefusedBoundaryReplacesByANewOne)
+{
+    Generated::PlayerState wire;
+    wire.__isset.inBoundary = wire.__isset.outBoundary = true;
+    wire.inBoundary.__isset.type = wire.inBoundary.__isset.specializedLoadBoundary = true; // without its member
+    auto expected = FullPlayerState();
+    expected.inBoundary = expected.outBoundary = Boundary();
+    auto state = FullPlayerState();
+    EXPECT_EQ(ThriftToPlayerStateConverter().To(wire, state).message, "PlayerState is empty");
+    EXPECT_EQ(state, expected);
+
+    wire.__isset.globalLoopMode = true; // something that counts, of an unknown number
+    wire.globalLoopMode = static_cast<Generated::PlayingLoopMode::type>(4);
+    expected.globalLoopMode = PlayingLoopMode::Unknown;
+    EXPECT_EQ((Converted<ThriftToPlayerStateConverter>(wire, FullPlayerState())), expected);
+}
+
+TEST(PlayerStateConversion, ABadClipStopsTheConversion)
+{
+    auto wire = Converted<PlayerStateToThriftConverter, Generated::PlayerState>(FullPlayerState());
+    auto const before = Bare(FullPlayerState()); // all before the clips equals what is sent, but for the two speeds
+    for (bool const inPreview : {false, true})
+    {
+        auto expected = before;
+        expected.playoutConfig = FullPlayerState().playoutConfig;
+        expected.commonSpeedDenominator = FullPlayerState().commonSpeedDenominator;
+        expected.curVideoSpeedNumerator = FullPlayerState().curVideoSpeedNumerator;
+        if (inPreview) expected.pgmOnAir = FullPlayerState().pgmOnAir;
+        auto bad = wire;
+        (inPreview ? bad.previewOnAir : bad.pgmOnAir).clipOnAir.__set_inBoundTodTimecode("2024-01-01T00:00:00:00@25");
+        auto state = before;
+        EXPECT_EQ(ThriftToPlayerStateConverter().To(bad, state).message,
+                  "In Bound TOD Timecode Rate inconsistent with Clip Rate");
+        EXPECT_EQ(state, expected);
+    }
+}
+
+TEST(RecorderStateConversion, RoundTrip)
+{
+    ExpectRoundTrip<RecorderStateToThriftConverter, ThriftToRecorderStateConverter, Generated::RecorderState>(
+        FullRecorderState());
+    ExpectRoundTrip<RecorderStateToThriftConverter, ThriftToRecorderStateConverter, Generated::RecorderState>(
+        RecorderState());
+    ExpectFieldByField<RecorderStateToThriftConverter, ThriftToRecorderStateConverter, Generated::RecorderState>(
+        FullRecorderState());
+    ExpectAbsentIsKept<RecorderStateToThriftConverter, ThriftToRecorderStateConverter, Generated::RecorderState>(
+        FullRecorderState());
+
+    auto state = FullRecorderState();
+    state.hasRecorderTrain = false;
+    EXPECT_EQ(Printed(Converted<RecorderStateToThriftConverter, Generated::RecorderState>(state)),
+              "RecorderState(serial=4294967294, channelIndex=-2, name=A name of 24 bytes, full, status=2, "
+              "isFirstTimePointRunning=1, firstTimePoint=-1, lastTimePoint=2, "
+              "lastTodTimecode=2024-06-15T18:00:00:01@50, lastUserTimecode=2024-06-15T18:00:00;02@30, "
+              "primaryTimecodeType=2, remainingCapacity=2147483648, totalCapacity=4294967295, recorderTrain=<null>)");
+    EXPECT_EQ(Printed(Converted<RecorderStateToThriftConverter, Generated::RecorderState>(RecorderState())),
+              "RecorderState(serial=0, channelIndex=0, name=, status=0, isFirstTimePointRunning=0, "
+              "firstTimePoint=<null>, lastTimePoint=<null>, lastTodTimecode=<null>, lastUserTimecode=<null>, "
+              "primaryTimecodeType=<null>, remainingCapacity=0, totalCapacity=0, recorderTrain=<null>)");
+}
+
+TEST(RecorderStateConversion, RemainingNeverEndsAboveTotal)
+{
+    constexpr std::int64_t Absent = -99;
+    struct Row
+    {
+        char const* rule;
+        std::int64_t remaining, total;
+        std::uint32_t remainingAfter, totalAfter;
+    };
+    Row const rows[] = {
+        {"remaining raises total", 150, Absent, 150, 150},
+        {"remaining below total leaves it", 30, Absent, 30, 100},
+        {"total lowers remaining", Absent, 30, 30, 30},
+        {"total above remaining leaves it", Absent, 50, 40, 50},
+        {"of both, total decides", 150, 100, 100, 100},
+        {"also upwards", 20, 300, 20, 300},
+        {"high word of remaining is lost before the clamp", 0x100000000, Absent, 0, 100},
+        {"high word of total is lost before the clamp", Absent, 0x100000000, 0, 0},
+        {"remaining is unsigned", -1, Absent, 0xFFFFFFFF, 0xFFFFFFFF},
+        {"total is unsigned", Absent, 0x80000000, 40, 0x80000000},
+        {"both are unsigned", 0x80000000, 0x7FFFFFFF, 0x7FFFFFFF, 0x7FFFFFFF},
+    };
+    for (auto const& row : rows)
+    {
+        Generated::RecorderState wire;
+        wire.remainingCapacity = row.remaining;
+        wire.totalCapacity = row.total;
+        wire.__isset.remainingCapacity = row.remaining != Absent;
+        wire.__isset.totalCapacity = row.total != Absent;
+        RecorderState expected, state;
+        state.remainingCapacity = 40;
+        state.totalCapacity = 100;
+        expected.remainingCapacity = row.remainingAfter;
+        expected.totalCapacity = row.totalAfter;
+        EXPECT_EQ((Converted<ThriftToRecorderStateConverter>(wire, state)), expected) << row.rule;
+    }
+}
+
+TEST(RecorderStateConversion, BadTimeCodesAreSkippedYetSeen)
+{
+    for (auto const* const bad : {"", "noon", "2023-02-29T00:00:00:00@50", "00:00:00:00@99999999999"})
+    {
+        Generated::RecorderState tod, user;
+        tod.__set_lastTodTimecode(bad);
+        user.__set_lastUserTimecode(bad);
+        for (auto const& wire : {tod, user})
+            EXPECT_EQ((Converted<ThriftToRecorderStateConverter>(wire, FullRecorderState())), FullRecorderState());
+    }
+}
+
+TEST(RecorderStateConversion, TrainReplacesAndABadOneLeavesTheDestinationsTrain)
+{
+    Generated::RecorderState wire;
+    auto state = FullRecorderState();
+    EXPECT_EQ(ThriftToRecorderStateConverter().To(wire, state).message, "RecorderState is empty");
+    EXPECT_EQ(state, FullRecorderState());
+
+    wire.channelIndex = 5;
+    wire.__isset.channelIndex = wire.__isset.recorderTrain = true;
+    auto expected = FullRecorderState();
+    expected.channelIndex = 5;
+    EXPECT_EQ(ThriftToRecorderStateConverter().To(wire, state).message, "Clip is empty");
+    EXPECT_EQ(state, expected);
+
+    wire.__isset.channelIndex = false;
+    wire.recorderTrain.kviIndex = 5;
+    wire.recorderTrain.__isset.kviIndex = true;
+    expected.recorderTrain = {};
+    expected.recorderTrain.kviIndex = 5;
+    EXPECT_TRUE(ThriftToRecorderStateConverter().To(wire, state).success);
+    EXPECT_EQ(state, expected);
+}
+
+TEST(ChannelStateConversion, NamesAreCutAndHighWordsAreLost)
+{
+    auto const expect = [](auto const toDomain, auto const toWire, auto wire, auto const& fresh)
+    {
+        wire.serial = -1;
+        wire.name = "A name of more than 24 bytes";
+        wire.__isset.serial = wire.__isset.name = true;
+        auto state = fresh;
+        EXPECT_TRUE(toDomain.To(wire, state).success);
+        EXPECT_EQ(state.serial, 0xFFFFFFFF);
+        EXPECT_EQ(std::string(state.name.begin(), state.name.end()), std::string("A name of more than 24 b\0", 25));
+
+        wire.serial = 0x1'0000'0007;
+        wire.name = std::string("Up to\0here", 10);
+        EXPECT_TRUE(toDomain.To(wire, state).success);
+        EXPECT_EQ(state.serial, 7u);
+        EXPECT_EQ(std::string(state.name.begin(), state.name.end()), wire.name + std::string(15, '\0'));
+        EXPECT_TRUE(toWire.To(state, wire).success);
+        EXPECT_EQ(wire.name, "Up to");
+    };
+    expect(ThriftToPlayerStateConverter(), PlayerStateToThriftConverter(), Generated::PlayerState(), PlayerState());
+    expect(ThriftToRecorderStateConverter(), RecorderStateToThriftConverter(), Generated::RecorderState(),
+           RecorderState());
+}
+
+} // namespace
+} // namespace Talvo::Tests

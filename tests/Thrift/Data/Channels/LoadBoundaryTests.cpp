@@ -1,0 +1,134 @@
+#include "Domain/CorvaneData/Channels/Boundary.h"
+#include "Thrift/Data/Channels/FromLoadBoundary.h"
+#include "Thrift/Data/Channels/ToLoadBoundary.h"
+#include "generated/LoadBoundary_types.h"
+#include "tests/Thrift/RoundTrip.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <limits>
+
+namespace Talvo::Tests
+{
+namespace
+{
+
+using namespace Corvane::Zelmar::Serialization::Thrift::Data::Channels;
+using Corvane::Data::Channels::Boundary;
+using Generated::LoadBoundaryType;
+using enum Boundary::RelativeTo;
+
+Boundary const Before = Boundary::RelativeBoundary(RelativeToOppositeClipBoundary, 77);
+
+TEST(LoadBoundaryConversion, RoundTrip)
+{
+    struct Row
+    {
+        Boundary boundary;
+        LoadBoundaryType::type type;
+    };
+    for (auto const& [boundary, type] : {
+             Row{Boundary(), LoadBoundaryType::Absolute},
+             Row{Boundary::AbsoluteBoundary({-5}), LoadBoundaryType::Absolute},
+             Row{Boundary::RelativeBoundary(RelativeToCorrespondingClipBoundary, 0),
+                 LoadBoundaryType::RelativeToCorrespondingClipBoundary},
+             Row{Boundary::RelativeBoundary(RelativeToOppositeClipBoundary, 9),
+                 LoadBoundaryType::RelativeToOppositeClipBoundary},
+             Row{Boundary::RelativeBoundary(RelativeToOppositeLoadBoundary, 0xFFFFFFFF),
+                 LoadBoundaryType::RelativeToOppositeLoadBoundary},
+         })
+    {
+        SCOPED_TRACE(type);
+        ExpectRoundTrip<LoadBoundaryToThriftConverter, ThriftToLoadBoundaryConverter, Generated::LoadBoundary>(boundary,
+                                                                                                               Before);
+        Generated::LoadBoundary wire;
+        EXPECT_TRUE(LoadBoundaryToThriftConverter().To(boundary, wire).success);
+        EXPECT_EQ(wire.type, type);
+        auto const& specialized = wire.specializedLoadBoundary;
+        EXPECT_EQ(specialized.__isset.absoluteLoadBoundary, boundary.IsAbsolute());
+        EXPECT_EQ(specialized.__isset.relativeLoadBoundary, !boundary.IsAbsolute());
+        EXPECT_EQ(specialized.absoluteLoadBoundary.__isset.timepoint, boundary.IsAbsolute());
+        EXPECT_EQ(specialized.relativeLoadBoundary.__isset.fieldCount, !boundary.IsAbsolute());
+        EXPECT_EQ(specialized.relativeLoadBoundary.fieldCount, std::int64_t{boundary.FieldCount()}); // never negative
+    }
+}
+
+TEST(LoadBoundaryConversion, ReusedWireRecordKeepsTheOtherMember)
+{
+    Generated::LoadBoundary wire;
+    EXPECT_TRUE(LoadBoundaryToThriftConverter().To(Boundary::AbsoluteBoundary({5}), wire).success);
+    auto const unknown = Boundary::RelativeBoundary(static_cast<Boundary::RelativeTo>(3), 6);
+    EXPECT_TRUE(LoadBoundaryToThriftConverter().To(unknown, wire).success);
+    auto const& specialized = wire.specializedLoadBoundary;
+    EXPECT_TRUE(specialized.__isset.absoluteLoadBoundary && specialized.__isset.relativeLoadBoundary);
+    EXPECT_EQ(specialized.relativeLoadBoundary.fieldCount, 6);
+    EXPECT_EQ(wire.type, LoadBoundaryType::Absolute); // an unknown reference leaves it
+
+    auto boundary = Before;
+    EXPECT_TRUE(ThriftToLoadBoundaryConverter().To(wire, boundary).success);
+    EXPECT_EQ(boundary, Boundary::AbsoluteBoundary({5}));
+    EXPECT_TRUE(LoadBoundaryToThriftConverter().To(Before, wire).success);
+    EXPECT_EQ(specialized.absoluteLoadBoundary.timepoint, 5);
+    EXPECT_TRUE(ThriftToLoadBoundaryConverter().To(wire, boundary).success);
+    EXPECT_EQ(boundary, Before);
+}
+
+TEST(LoadBoundaryConversion, TypeDecidesWhichMemberIsNeeded)
+{
+    constexpr auto Least = std::numeric_limits<std::int32_t>::min();
+    struct Row
+    {
+        char const* rule;
+        std::int32_t type;
+        bool hasAbsolute;
+        bool hasRelative;
+        std::int64_t fieldCount;
+        Boundary expected; ///< `Before` where it is refused.
+    };
+    Row const rows[] = {
+        {"absolute without its member", 0, false, true, 4, Before},
+        {"relative without its member", 1, true, false, 4, Before},
+        {"unknown without its member", 7, true, false, 4, Before},
+        {"neither member", 0, false, false, 4, Before},
+        {"both members: absolute", 0, true, true, 4, Boundary::AbsoluteBoundary({3})},
+        {"both members: relative", 1, true, true, 4,
+         Boundary::RelativeBoundary(RelativeToCorrespondingClipBoundary, 4)},
+        {"type 2", 2, false, true, 4, Boundary::RelativeBoundary(RelativeToOppositeClipBoundary, 4)},
+        {"unknown type", 7, false, true, 4, Boundary::RelativeBoundary(RelativeToOppositeLoadBoundary, 4)},
+        {"negative type", -1, false, true, 4, Boundary::RelativeBoundary(RelativeToOppositeLoadBoundary, 4)},
+        {"least type", Least, false, true, 4, Boundary::RelativeBoundary(RelativeToOppositeLoadBoundary, 4)},
+        {"high word is lost", 1, false, true, 0x100000005,
+         Boundary::RelativeBoundary(RelativeToCorrespondingClipBoundary, 5)},
+        {"a negative count is a large one", 1, false, true, -1,
+         Boundary::RelativeBoundary(RelativeToCorrespondingClipBoundary, 0xFFFFFFFF)},
+    };
+    for (auto const& row : rows)
+    {
+        SCOPED_TRACE(row.rule);
+        Generated::LoadBoundary wire;
+        wire.type = static_cast<LoadBoundaryType::type>(row.type);
+        wire.__isset.type = wire.__isset.specializedLoadBoundary = true;
+        auto& specialized = wire.specializedLoadBoundary;
+        specialized.absoluteLoadBoundary.timepoint = 3; // the flags inside the members are clear, and not looked at
+        specialized.relativeLoadBoundary.fieldCount = row.fieldCount;
+        specialized.__isset.absoluteLoadBoundary = row.hasAbsolute;
+        specialized.__isset.relativeLoadBoundary = row.hasRelative;
+
+        auto const read = [&wire](Boundary& boundary) { return ThriftToLoadBoundaryConverter().To(wire, boundary); };
+        auto boundary = Before;
+        EXPECT_EQ(read(boundary).message, row.expected == Before ? "LoadBoundary is empty" : "");
+        EXPECT_EQ(boundary, row.expected);
+
+        boundary = Before;
+        wire.__isset.type = false;
+        EXPECT_EQ(read(boundary).message, "LoadBoundary is empty");
+        wire.__isset.type = true;
+        wire.__isset.specializedLoadBoundary = false;
+        EXPECT_FALSE(read(boundary).success);
+        EXPECT_EQ(boundary, Before);
+    }
+}
+
+} // namespace
+} // namespace Talvo::Tests

@@ -1,0 +1,193 @@
+#include "tests/Thrift/Data/Servers/Values.h"
+
+#include "Thrift/Data/Servers/FromServerInfo.h"
+#include "Thrift/Data/Servers/ToServerInfo.h"
+#include "generated/ServerInfo_types.h"
+#include "tests/Thrift/RoundTrip.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <limits>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace Talvo::Tests
+{
+namespace
+{
+
+using namespace Corvane::Zelmar::Serialization::Thrift::Data::Servers;
+using Corvane::Data::Servers::IpAddress;
+using Corvane::Data::Servers::ServerChassis;
+using Corvane::Data::Servers::ServerId;
+using Corvane::Data::Servers::ServerInfo;
+using testing::ElementsAre;
+
+Generated::ServerInfo Sent(ServerInfo const& info)
+{
+    Generated::ServerInfo wire;
+    EXPECT_TRUE(ServerInfoToThriftConverter().To(info, wire).success);
+    return wire;
+}
+
+/// What becomes of a full destination, which holds nothing afterwards that was not on the wire.
+ServerInfo Received(Generated::ServerInfo const& wire, std::string const& failure = {})
+{
+    auto info = FullServerInfo();
+    EXPECT_EQ(ThriftToServerInfoConverter().To(wire, info).message, failure);
+    return info;
+}
+
+TEST(ServerInfoConversion, RoundTrip)
+{
+    ExpectRoundTrip<ServerInfoToThriftConverter, ThriftToServerInfoConverter, Generated::ServerInfo>(FullServerInfo());
+    ExpectRoundTrip<ServerInfoToThriftConverter, ThriftToServerInfoConverter, Generated::ServerInfo>(ServerInfo(),
+                                                                                                     FullServerInfo());
+    std::ostringstream text;
+    text << Sent(FullServerInfo());
+    EXPECT_EQ(text.str(), "ServerInfo(serverId=-7, userNumber=-8, corvaneVersion=A version text of 32 bytes, full, "
+                          "serverChassis=18, hardwareRevision=16 bytes of text, hostName=" +
+                              std::string(254, 'h') +
+                              ", kronoIpAddress=-1062731518, gbeIpAddresses=[167772161, -66052], isLocal=1)");
+}
+
+TEST(ServerInfoConversion, ANewOneIsNoServer)
+{
+    ServerInfo const info;
+    EXPECT_EQ(info.serverId, ServerId(-1));
+    EXPECT_TRUE(info.hasNoGbeAddresses);
+    EXPECT_FALSE(info.isLocal);
+    EXPECT_EQ(info.userNumber, 0);
+    EXPECT_THAT(info.kronoIpAddress, testing::Each(0));
+    auto const wire = Sent(info);
+    EXPECT_FALSE(wire.__isset.corvaneVersion || wire.__isset.hardwareRevision || wire.__isset.hostName ||
+                 wire.__isset.gbeIpAddresses);
+}
+
+TEST(ServerInfoConversion, ReusedWireRecordKeepsTextsAndAppendsAddresses)
+{
+    auto wire = Sent(FullServerInfo());
+    EXPECT_TRUE(ServerInfoToThriftConverter().To(ServerInfo(), wire).success);
+    EXPECT_EQ(wire.hostName, std::string(254, 'h'));
+    EXPECT_EQ(wire.corvaneVersion, "A version text of 32 bytes, full");
+    EXPECT_EQ(wire.hardwareRevision, "16 bytes of text");
+    EXPECT_EQ(wire.serverId, -1);
+    EXPECT_THAT(wire.gbeIpAddresses, ElementsAre(0x0A000001, -66052));
+    EXPECT_TRUE(ServerInfoToThriftConverter().To(FullServerInfo(), wire).success);
+    EXPECT_THAT(wire.gbeIpAddresses, ElementsAre(0x0A000001, -66052, 0x0A000001, -66052));
+}
+
+TEST(ServerInfoConversion, AddressesAreFourOctetsMostSignificantFirst)
+{
+    struct Row
+    {
+        IpAddress octets;
+        std::int32_t number;
+    };
+    for (auto const& [octets, number] : {
+             Row{{192, 168, 1, 2}, static_cast<std::int32_t>(0xC0A80102)},
+             Row{{255, 255, 255, 255}, -1},
+             Row{{128, 0, 0, 0}, std::numeric_limits<std::int32_t>::min()},
+             Row{{127, 255, 255, 255}, std::numeric_limits<std::int32_t>::max()},
+             Row{{0, 0, 0, 1}, 1},
+         })
+    {
+        ServerInfo info;
+        info.kronoIpAddress = octets;
+        info.gbeIpAddressPair = {octets, {1, 2, 3, 4}};
+        info.hasNoGbeAddresses = false;
+        auto const wire = Sent(info);
+        EXPECT_EQ(wire.kronoIpAddress, number);
+        EXPECT_THAT(wire.gbeIpAddresses, ElementsAre(number, 0x01020304));
+        EXPECT_EQ(Received(wire), info);
+    }
+}
+
+TEST(ServerInfoConversion, ChassisOutsideOneToEighteenIsNone)
+{
+    for (auto const number : {1, 2, 17, 18, 0, -1, 19, 65537, std::numeric_limits<std::int32_t>::min(),
+                              std::numeric_limits<std::int32_t>::max()})
+    {
+        auto const expected = number >= 1 && number <= 18 ? number : 0;
+        ServerInfo info;
+        info.serverChassis = static_cast<ServerChassis>(number);
+        auto wire = Sent(info);
+        EXPECT_EQ(wire.serverChassis, expected);
+        wire.serverChassis = static_cast<Generated::ServerChassis::type>(number);
+        EXPECT_EQ(Received(wire).serverChassis, static_cast<ServerChassis>(expected));
+    }
+}
+
+TEST(ServerInfoConversion, TextsAreCutAndEnded)
+{
+    Generated::ServerInfo wire;
+    wire.corvaneVersion = std::string(40, 'v');
+    wire.hardwareRevision = std::string(17, 'r');
+    wire.hostName = std::string(1'000'000, 'h');
+    wire.__isset.corvaneVersion = wire.__isset.hardwareRevision = wire.__isset.hostName = true;
+    ServerInfo expected;
+    SetText(expected.corvaneVersion, std::string(32, 'v'));
+    SetText(expected.hardwareRevision, std::string(16, 'r'));
+    SetText(expected.hostName, std::string(254, 'h'));
+    EXPECT_EQ(Received(wire), expected);
+
+    wire.corvaneVersion = std::string("1\0"
+                                      "2",
+                                      3);
+    wire.hardwareRevision = wire.hostName = "";
+    expected = {};
+    SetText(expected.corvaneVersion, wire.corvaneVersion);
+    EXPECT_EQ(Received(wire), expected);
+    EXPECT_EQ(Sent(expected).corvaneVersion, "1");
+}
+
+TEST(ServerInfoConversion, AddressesComeInTwosOrNotAtAll)
+{
+    for (auto const count : {1u, 3u, 4u, 1'000'000u})
+    {
+        auto wire = Sent(FullServerInfo());
+        wire.gbeIpAddresses.assign(count, 0x01020304);
+        auto expected = FullServerInfo(); // all before the addresses, nothing from there on
+        expected.gbeIpAddressPair = {};
+        expected.hasNoGbeAddresses = true;
+        expected.isLocal = false;
+        EXPECT_EQ(Received(wire, "Invalid GBE IP address count."), expected) << count;
+    }
+
+    Generated::ServerInfo wire;
+    wire.__isset.gbeIpAddresses = true;
+    EXPECT_EQ(Received(wire, "ServerInfo is empty"), ServerInfo());
+    wire.__isset.isLocal = wire.isLocal = true;
+    ServerInfo expected;
+    expected.isLocal = true;
+    EXPECT_EQ(Received(wire), expected);
+    wire.__isset.isLocal = false;
+    wire.gbeIpAddresses = {1, 2};
+    expected.isLocal = false;
+    expected.gbeIpAddressPair = {{{0, 0, 0, 1}, {0, 0, 0, 2}}};
+    expected.hasNoGbeAddresses = false;
+    EXPECT_EQ(Received(wire), expected); // they are enough
+    wire.__isset.gbeIpAddresses = false; // the flag decides
+    EXPECT_EQ(Received(wire, "ServerInfo is empty"), ServerInfo());
+}
+
+TEST(ServerInfoConversion, EachFieldAloneIsEnoughAndNoOtherIsKept)
+{
+    for (auto const& bytes : FieldByField(Sent(FullServerInfo())))
+    {
+        auto const info = Received(Read<Generated::ServerInfo>(bytes));
+        auto const full = FullServerInfo();
+        int const kept = (info.serverId == full.serverId) + (info.userNumber == full.userNumber) +
+                         (info.corvaneVersion == full.corvaneVersion) + (info.serverChassis == full.serverChassis) +
+                         (info.hardwareRevision == full.hardwareRevision) + (info.hostName == full.hostName) +
+                         (info.kronoIpAddress == full.kronoIpAddress) +
+                         (info.gbeIpAddressPair == full.gbeIpAddressPair) + (info.isLocal == full.isLocal);
+        EXPECT_EQ(kept, 1);
+    }
+}
+
+} // namespace
+} // namespace Talvo::Tests
