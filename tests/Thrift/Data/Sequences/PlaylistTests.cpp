@@ -1,0 +1,328 @@
+#include "tests/Thrift/Data/Sequences/Values.h"
+
+#include "Thrift/Data/Sequences/FromAudioVideoElement.h"
+#include "Thrift/Data/Sequences/FromAudioVideoTrack.h"
+#include "Thrift/Data/Sequences/FromElement.h"
+#include "Thrift/Data/Sequences/FromPlaylist.h"
+#include "Thrift/Data/Sequences/ToAudioVideoElement.h"
+#include "Thrift/Data/Sequences/ToAudioVideoTrack.h"
+#include "Thrift/Data/Sequences/ToElement.h"
+#include "Thrift/Data/Sequences/ToPlaylist.h"
+#include "generated/AudioVideoElement_types.h"
+#include "generated/AudioVideoTrack_types.h"
+#include "generated/Element_types.h"
+#include "generated/Playlist_types.h"
+#include "tests/Thrift/RoundTrip.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace Talvo::Tests
+{
+namespace
+{
+
+using namespace Corvane::Zelmar::Serialization::Thrift::Data::Sequences;
+using namespace Corvane::Data::Sequences;
+using Corvane::Data::Servers::ServerId;
+using testing::ElementsAre;
+using testing::SizeIs;
+
+using AudioVideoTrack = Track<AudioVideoElement>;
+
+template<typename TToWire, typename TWire>
+TWire Sent(auto const& value)
+{
+    TWire wire;
+    EXPECT_EQ(Told<TToWire>(value, wire), "");
+    return wire;
+}
+
+Generated::Element WireElement()
+{
+    return Sent<ElementToThriftConverter, Generated::Element>(FullElement());
+}
+
+Generated::AudioVideoElement WireAudioVideoElement()
+{
+    return Sent<AudioVideoElementToThriftConverter, Generated::AudioVideoElement>(FullElement());
+}
+
+/// What of FullElement() is applied before its tags, and these tags.
+Element UpToTags(std::vector<Tag> tags)
+{
+    Element element = FullElement();
+    element.tags = std::move(tags);
+    element.internalLoopId = Element().internalLoopId;
+    element.internalLoopRunNb = Element().internalLoopRunNb;
+    element.speed = Element().speed;
+    return element;
+}
+
+TEST(ElementConversion, RoundTrip)
+{
+    ExpectRoundTrip<ElementToThriftConverter, ThriftToElementConverter, Generated::Element, Element>(FullElement());
+    ExpectRoundTrip<ElementToThriftConverter, ThriftToElementConverter, Generated::Element>(Element());
+    ExpectFieldByField<ElementToThriftConverter, ThriftToElementConverter, Generated::Element, Element>(FullElement());
+    EXPECT_THAT(FieldByField(WireElement()), SizeIs(13));
+}
+
+TEST(ElementConversion, AnyFieldIsEnough)
+{
+    Generated::Element wire;
+    wire.speed.numerator = 3; // its inner flags are clear, and not looked at
+    wire.id = 5;
+    Element element = FullElement();
+    EXPECT_EQ(Told<ThriftToElementConverter>(wire, element), "Element is empty");
+    EXPECT_EQ(element, FullElement());
+
+    wire.__isset.tags = true; // an empty list
+    EXPECT_EQ(Told<ThriftToElementConverter>(wire, element), "");
+    EXPECT_EQ(element, FullElement());
+
+    wire.__isset.tags = false;
+    wire.__isset.speed = true;
+    EXPECT_EQ(Told<ThriftToElementConverter>(wire, element), "");
+    EXPECT_EQ(element.speed, (Speed{3, 0}));
+    EXPECT_FALSE(WireElement().speed.__isset.numerator || WireElement().speed.__isset.denominator);
+}
+
+TEST(ElementConversion, SequenceIdIsReplaced)
+{
+    Generated::Element wire;
+    wire.id = 5;
+    wire.position = 6;
+    wire.__isset.id = wire.__isset.sequenceId = wire.__isset.position = true;
+    Element element = FullElement();
+    EXPECT_EQ(Told<ThriftToElementConverter>(wire, element), "SequenceId is empty");
+    Element expected = FullElement();
+    expected.id = 5;
+    EXPECT_EQ(element, expected);
+
+    wire.sequenceId.location = 7;
+    wire.sequenceId.__isset.location = true;
+    EXPECT_EQ(Told<ThriftToElementConverter>(wire, element), "");
+    EXPECT_EQ(element.sequenceId, SequenceId(ServerId::None(), 7));
+}
+
+TEST(ElementConversion, TagsAreAppendedBothWays)
+{
+    auto wire = WireElement();
+    wire.tags[1].__isset.commandType = false; // the type is taken all the same
+    Element element = FullElement();
+    EXPECT_EQ(Told<ThriftToElementConverter>(wire, element), "");
+    EXPECT_THAT(element.tags,
+                ElementsAre(FullTag(), Tag(Tag::CommandType::GpiOut), FullTag(), Tag(Tag::CommandType::GpiOut)));
+    EXPECT_EQ(Told<ElementToThriftConverter>(element, wire), "");
+    EXPECT_THAT(wire.tags, SizeIs(6));
+    EXPECT_EQ(wire.tags[5].commandType, Generated::CommandType::GpiOut);
+}
+
+TEST(ElementConversion, BadTagStopsTheConversion)
+{
+    for (auto const* const told : {"Tag is empty", "TagProperty is empty"})
+    {
+        auto wire = WireElement();
+        wire.tags.insert(wire.tags.begin() + 1, wire.tags[0]);
+        if (told == std::string("Tag is empty"))
+            wire.tags[1].__isset = {};
+        else
+            wire.tags[1].properties.begin()->second.__isset = {};
+        Element element;
+        EXPECT_EQ(Told<ThriftToElementConverter>(wire, element), told);
+        EXPECT_EQ(element, UpToTags({FullTag()}));
+    }
+}
+
+TEST(ElementConversion, MillionTagsGrowTheListsByFactors)
+{
+    Element thousand;
+    for (auto id = 0; id < 1000; ++id) thousand.tags.emplace_back(Tag::CommandType::GpiOut).id = id;
+    auto const wireThousand = Sent<ElementToThriftConverter, Generated::Element>(thousand);
+    Element element;
+    Generated::Element wire;
+    auto growths = 0;
+    for (auto i = 0; i < 1000; ++i)
+    {
+        auto const capacities = element.tags.capacity() + wire.tags.capacity();
+        ASSERT_EQ(Told<ThriftToElementConverter>(wireThousand, element), "");
+        ASSERT_EQ(Told<ElementToThriftConverter>(thousand, wire), "");
+        growths += element.tags.capacity() + wire.tags.capacity() != capacities;
+    }
+    EXPECT_LE(growths, 25);
+    EXPECT_EQ(element.tags.size(), 1'000'000u);
+
+    element = {};
+    EXPECT_EQ(Told<ThriftToElementConverter>(wire, element), "");
+    EXPECT_EQ(element.tags.size(), 1'000'000u);
+    EXPECT_EQ(element.tags.back(), thousand.tags.back());
+}
+
+TEST(AudioVideoElementConversion, RoundTrip)
+{
+    ExpectRoundTrip<AudioVideoElementToThriftConverter, ThriftToAudioVideoElementConverter,
+                    Generated::AudioVideoElement>(FullElement());
+    ExpectRoundTrip<AudioVideoElementToThriftConverter, ThriftToAudioVideoElementConverter,
+                    Generated::AudioVideoElement>(AudioVideoElement());
+}
+
+TEST(AudioVideoElementConversion, EveryFieldIsAppliedByItsOwnFlagAndAllButTheElementCount)
+{
+    AudioVideoElement assembled;
+    std::string counted;
+    for (auto const& field : FieldByField(WireAudioVideoElement()))
+    {
+        auto const told =
+            Told<ThriftToAudioVideoElementConverter>(Read<Generated::AudioVideoElement>(field), assembled);
+        if (told.empty())
+            counted += std::to_string(field[2]) + ' '; // its id, behind the type
+        else
+            EXPECT_EQ(told, "AudioVideoElement is empty");
+    }
+    EXPECT_EQ(counted, "1 2 3 4 5 6 7 8 ");
+    EXPECT_EQ(assembled, FullElement());
+}
+
+TEST(AudioVideoElementConversion, FailureOfTheElementIsSwallowed)
+{
+    auto wire = WireAudioVideoElement();
+    wire.element.tags[1].__isset = {};
+    AudioVideoElement element;
+    EXPECT_EQ(Told<ThriftToAudioVideoElementConverter>(wire, element), "");
+    auto expected = FullElement();
+    static_cast<Element&>(expected) = UpToTags({FullTag()});
+    EXPECT_EQ(element, expected);
+
+    Generated::AudioVideoElement onlyElement;
+    onlyElement.element = wire.element;
+    onlyElement.__isset.element = true;
+    AudioVideoElement other;
+    EXPECT_EQ(Told<ThriftToAudioVideoElementConverter>(onlyElement, other), "AudioVideoElement is empty");
+    EXPECT_EQ(static_cast<Element const&>(other), UpToTags({FullTag()}));
+
+    onlyElement.element = {};
+    EXPECT_EQ(Told<ThriftToAudioVideoElementConverter>(onlyElement, other), "AudioVideoElement is empty");
+    EXPECT_EQ(Told<ThriftToAudioVideoElementConverter>(Generated::AudioVideoElement(), other),
+              "AudioVideoElement is empty");
+}
+
+TEST(AudioVideoElementConversion, WireElementIsReplaced)
+{
+    auto wire = WireAudioVideoElement();
+    wire.element.speed.__isset.numerator = true;
+    EXPECT_EQ(Told<AudioVideoElementToThriftConverter>(FullElement(), wire), "");
+    EXPECT_THAT(wire.element.tags, SizeIs(2));
+    EXPECT_FALSE(wire.element.speed.__isset.numerator);
+}
+
+TEST(TrackConversion, RoundTrip)
+{
+    for (auto const& track : {AudioVideoTrack{0, {FullElement(), AudioVideoElement()}}, AudioVideoTrack{250, {}},
+                              AudioVideoTrack{-1, {}}, AudioVideoTrack()})
+        ExpectRoundTrip<AudioVideoTrackToThriftConverter, ThriftToAudioVideoTrackConverter, Generated::AudioVideoTrack>(
+            track);
+}
+
+TEST(TrackConversion, ElementsTravelOrTheirNumber)
+{
+    Generated::AudioVideoTrack wire;
+    auto const expectSent = [&wire](AudioVideoTrack const& track, bool const isNumber, std::size_t const size)
+    {
+        EXPECT_EQ(Told<AudioVideoTrackToThriftConverter>(track, wire), "");
+        EXPECT_EQ(wire.__isset.numberOfElements, isNumber);
+        EXPECT_EQ(wire.__isset.elements, !isNumber);
+        EXPECT_THAT(wire.elements, SizeIs(size));
+    };
+    expectSent({0, {}}, false, 0);
+    expectSent({5, {AudioVideoElement(), FullElement()}}, false, 2); // the number stays in the process
+    EXPECT_EQ(wire.numberOfElements, 0);
+    expectSent({7, {}}, true, 2); // a used record keeps what does not travel, and is appended to
+    EXPECT_EQ(wire.numberOfElements, 7);
+    expectSent({0, {FullElement()}}, false, 3);
+    EXPECT_EQ(wire.elements[1], wire.elements[2]);
+}
+
+TEST(TrackConversion, ReadingAppendsElementsOrTakesTheNumber)
+{
+    Generated::AudioVideoTrack wire;
+    wire.elements = {WireAudioVideoElement()};
+    wire.numberOfElements = 5;
+    AudioVideoTrack const held{9, {AudioVideoElement()}};
+    auto const expectRead = [&](AudioVideoTrack const& expected)
+    {
+        auto track = held;
+        EXPECT_EQ(Told<ThriftToAudioVideoTrackConverter>(wire, track), "");
+        EXPECT_EQ(track, expected);
+    };
+    expectRead(held); // neither flag
+    wire.__isset.numberOfElements = true;
+    expectRead({5, {}});
+    wire.__isset.elements = true;
+    expectRead({9, {AudioVideoElement(), FullElement()}});
+    wire.elements.clear();
+    expectRead(held);
+}
+
+TEST(TrackConversion, BadElementStopsTheConversion)
+{
+    Generated::AudioVideoTrack wire;
+    wire.elements = {WireAudioVideoElement(), Generated::AudioVideoElement(), WireAudioVideoElement()};
+    wire.__isset.elements = true;
+    AudioVideoTrack track{9, {AudioVideoElement()}};
+    EXPECT_EQ(Told<ThriftToAudioVideoTrackConverter>(wire, track), "AudioVideoElement is empty");
+    EXPECT_EQ(track, (AudioVideoTrack{9, {AudioVideoElement(), FullElement()}}));
+}
+
+TEST(PlaylistConversion, RoundTrip)
+{
+    ExpectRoundTrip<PlaylistToThriftConverter, ThriftToPlaylistConverter, Generated::Playlist>(FullPlaylist());
+    ExpectRoundTrip<PlaylistToThriftConverter, ThriftToPlaylistConverter, Generated::Playlist>(Playlist::Empty(),
+                                                                                               FullPlaylist());
+    ExpectFieldByField<PlaylistToThriftConverter, ThriftToPlaylistConverter, Generated::Playlist>(FullPlaylist());
+}
+
+TEST(PlaylistConversion, WireTrackIsReplaced)
+{
+    auto wire = Sent<PlaylistToThriftConverter, Generated::Playlist>(FullPlaylist());
+    EXPECT_EQ(Told<PlaylistToThriftConverter>(FullPlaylist(), wire), "");
+    EXPECT_THAT(wire.audioVideoTrack.elements, SizeIs(2));
+    EXPECT_TRUE(wire.__isset.audioVideoTrack && wire.__isset.auxTrackClipUmId && wire.__isset.sequence);
+}
+
+TEST(PlaylistConversion, EmptyWhenNoFieldIsThere)
+{
+    auto playlist = FullPlaylist();
+    EXPECT_EQ(Told<ThriftToPlaylistConverter>(Generated::Playlist(), playlist), "Playlist is empty");
+    EXPECT_EQ(playlist, FullPlaylist());
+}
+
+TEST(PlaylistConversion, FailuresOfThePartsAreSwallowed)
+{
+    auto wire = Sent<PlaylistToThriftConverter, Generated::Playlist>(FullPlaylist());
+    wire.audioVideoTrack.elements.insert(wire.audioVideoTrack.elements.begin() + 1, Generated::AudioVideoElement());
+    wire.sequence.playRateDenominator = 2;
+    wire.sequence.playRateNumerator = 25;
+    auto playlist = Playlist::Empty();
+    playlist.audioVideoTrack = {5, {AudioVideoElement(), AudioVideoElement()}};
+    EXPECT_EQ(Told<ThriftToPlaylistConverter>(wire, playlist), "");
+    auto expected = FullPlaylist();
+    expected.audioVideoTrack = {0, {FullElement()}}; // replaced by what it reached
+    expected.playRate = Playlist().playRate;
+    expected.isFixedDuration = Playlist().isFixedDuration;
+    expected.archiveStatus = Playlist().archiveStatus;
+    EXPECT_EQ(playlist, expected);
+
+    Generated::Playlist onlyEmptyParts;
+    onlyEmptyParts.__isset.audioVideoTrack = onlyEmptyParts.__isset.sequence = true;
+    EXPECT_EQ(Told<ThriftToPlaylistConverter>(onlyEmptyParts, playlist), "");
+    expected.audioVideoTrack = {};
+    EXPECT_EQ(playlist, expected);
+}
+
+} // namespace
+} // namespace Talvo::Tests

@@ -1,0 +1,284 @@
+#include "tests/Thrift/Data/Sequences/Values.h"
+
+#include "Thrift/Data/Sequences/FromSequence.h"
+#include "Thrift/Data/Sequences/FromSequenceId.h"
+#include "Thrift/Data/Sequences/ToElement.h"
+#include "Thrift/Data/Sequences/ToPlaylist.h"
+#include "Thrift/Data/Sequences/ToSequence.h"
+#include "Thrift/Data/Sequences/ToSequenceId.h"
+#include "generated/Element_types.h"
+#include "generated/Playlist_types.h"
+#include "generated/SequenceId_types.h"
+#include "generated/Sequence_types.h"
+#include "tests/Thrift/RoundTrip.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <limits>
+#include <string>
+#include <tuple>
+#include <vector>
+
+namespace Talvo::Tests
+{
+namespace
+{
+
+using namespace Corvane::Zelmar::Serialization::Thrift::Data::Sequences;
+using Corvane::Data::Sequences::Element;
+using Corvane::Data::Sequences::Playlist;
+using Corvane::Data::Sequences::Sequence;
+using Corvane::Data::Sequences::SequenceId;
+using Corvane::Data::Servers::ServerId;
+using TimePoints::VideoRate;
+
+using WireArchiveStatus = Corvane::Zelmar::Serialization::Thrift::Data::Clips::Generated::ArchiveStatus;
+
+constexpr auto Min64 = std::numeric_limits<std::int64_t>::min();
+constexpr auto Max64 = std::numeric_limits<std::int64_t>::max();
+
+Generated::Sequence Sent(Sequence const& sequence)
+{
+    Generated::Sequence wire;
+    EXPECT_EQ(Told<SequenceToThriftConverter>(sequence, wire), "");
+    return wire;
+}
+
+std::string Text(auto const& payload)
+{
+    return {payload.begin(), payload.end()};
+}
+
+TEST(SequenceIdConversion, RoundTripAndPatch)
+{
+    SequenceId const full(ServerId(0x7FFFFFFF), SequenceId::MaxLocation);
+    ExpectRoundTrip<SequenceIdToThriftConverter, ThriftToSequenceIdConverter, Generated::SequenceId>(full);
+    ExpectRoundTrip<SequenceIdToThriftConverter, ThriftToSequenceIdConverter, Generated::SequenceId>(SequenceId());
+    ExpectFieldByField<SequenceIdToThriftConverter, ThriftToSequenceIdConverter, Generated::SequenceId>(full);
+
+    Generated::SequenceId wire;
+    wire.serverId = 5;
+    wire.location = 110; // its flag is clear
+    auto id = full;
+    EXPECT_EQ(Told<ThriftToSequenceIdConverter>(wire, id), "SequenceId is empty");
+    EXPECT_EQ(id, full);
+    wire.__isset.serverId = true;
+    EXPECT_EQ(Told<ThriftToSequenceIdConverter>(wire, id), "");
+    EXPECT_EQ(id, SequenceId(ServerId(5), SequenceId::MaxLocation));
+}
+
+TEST(SequenceIdConversionDeathTest, LocationOutOfRangeEndsTheProcess)
+{
+    for (auto const location : {110, -1, std::numeric_limits<std::int32_t>::min()})
+    {
+        Generated::SequenceId wireId;
+        wireId.location = location;
+        wireId.__isset.location = true;
+        Generated::Element wireElement;
+        wireElement.sequenceId = wireId;
+        wireElement.__isset.sequenceId = true;
+        Generated::Sequence wireSequence;
+        wireSequence.id.location = location; // its flag is clear, and not looked at
+        wireSequence.__isset.id = true;
+        Generated::Playlist wirePlaylist; // looks at no failure of its header
+        wirePlaylist.sequence = wireSequence;
+        wirePlaylist.__isset.sequence = true;
+
+        SequenceId id;
+        Sequence sequence;
+        Element element;
+        Playlist playlist;
+        EXPECT_DEATH(std::ignore = ThriftToSequenceIdConverter().To(wireId, id), "terminate");
+        EXPECT_DEATH(std::ignore = ThriftToSequenceConverter().To(wireSequence, sequence), "terminate");
+        EXPECT_DEATH(std::ignore = ThriftToElementConverter().To(wireElement, element), "terminate");
+        EXPECT_DEATH(std::ignore = ThriftToPlaylistConverter().To(wirePlaylist, playlist), "terminate");
+    }
+}
+
+TEST(SequenceConversion, RoundTrip)
+{
+    ExpectRoundTrip<SequenceToThriftConverter, ThriftToSequenceConverter, Generated::Sequence>(FullSequence());
+    ExpectRoundTrip<SequenceToThriftConverter, ThriftToSequenceConverter, Generated::Sequence>(Sequence());
+    ExpectRoundTrip<SequenceToThriftConverter, ThriftToSequenceConverter, Generated::Sequence>(Sequence(),
+                                                                                               FullSequence());
+}
+
+TEST(SequenceConversion, EveryFieldIsAppliedByItsOwnFlagAndSixCount)
+{
+    Sequence assembled;
+    std::string counted;
+    auto const fields = FieldByField(Sent(FullSequence()));
+    EXPECT_EQ(fields.size(), 16u);
+    for (auto const& field : fields)
+    {
+        auto const told = Told<ThriftToSequenceConverter>(Read<Generated::Sequence>(field), assembled);
+        if (told.empty())
+            counted += std::to_string(field[2]) + ' '; // its id, behind the type
+        else
+            EXPECT_EQ(told, "Sequence is empty");
+    }
+    EXPECT_EQ(counted, "1 2 3 4 6 17 ");
+    auto expected = FullSequence();
+    expected.playRate = {1, 1}; // takes both of its fields at once
+    EXPECT_EQ(assembled, expected);
+
+    Generated::Sequence wire;
+    EXPECT_EQ(Told<ThriftToSequenceConverter>(wire, assembled), "Sequence is empty");
+    wire.playRateNumerator = 60000;
+    wire.playRateDenominator = 1001;
+    wire.__isset.playRateNumerator = wire.__isset.playRateDenominator = true;
+    EXPECT_EQ(assembled, expected);
+    EXPECT_EQ(Told<ThriftToSequenceConverter>(wire, assembled), "Sequence is empty"); // applied, yet it does not count
+    EXPECT_EQ(assembled, FullSequence());
+}
+
+TEST(SequenceConversion, PlayRateGoesByItsNumeratorAlone)
+{
+    struct Row
+    {
+        std::int64_t numerator;
+        std::int64_t denominator;
+        VideoRate taken; // {0, 0}: refused
+    };
+    constexpr VideoRate refused{0, 0};
+    for (auto const& [numerator, denominator, taken] : {
+             Row{25, 1, {25, 1}}, // over 1: no check at all
+             Row{0, 1, {0, 1}},
+             Row{-50, 1, {-50, 1}},
+             Row{Max64, 1, {Max64, 1}},
+             Row{Min64, 1, {Min64, 1}},
+             Row{30000, 1, {30000, 1}},
+             Row{24000, 7, {24000, 1001}}, // a standard rate: over 1001 whatever was sent
+             Row{30000, 1002, {30000, 1001}},
+             Row{48000, 0, {48000, 1001}},
+             Row{60000, -1001, {60000, 1001}},
+             Row{120000, Max64, {120000, 1001}},
+             Row{25, 2, refused},
+             Row{25000, 3, refused},
+             Row{0, 0, refused},
+             Row{-30000, 1001, refused},
+             Row{30000 + (std::int64_t{1} << 32), 1001, refused}, // no low word
+             Row{Min64, -1, refused},
+             Row{Max64, Min64, refused},
+         })
+    {
+        auto wire = Sent(FullSequence());
+        wire.playRateNumerator = numerator;
+        wire.playRateDenominator = denominator;
+        Sequence sequence;
+        auto const told = Told<ThriftToSequenceConverter>(wire, sequence);
+        auto expected = FullSequence();
+        if (taken != refused)
+        {
+            EXPECT_EQ(told, "");
+            expected.playRate = taken;
+        }
+        else // what stands before it is applied, what stands behind it is not
+        {
+            EXPECT_EQ(told, "Invalid sequence rate " + std::to_string(numerator) + ":" + std::to_string(denominator));
+            expected.playRate = Sequence().playRate;
+            expected.isFixedDuration = Sequence().isFixedDuration;
+            expected.archiveStatus = Sequence().archiveStatus;
+        }
+        EXPECT_EQ(sequence, expected) << numerator << ":" << denominator;
+    }
+}
+
+TEST(SequenceConversion, TextThatIsNoTimeCodeStopsTheConversion)
+{
+    auto const expected = [] // what stands before the time code
+    {
+        auto sequence = Sequence();
+        auto const full = FullSequence();
+        sequence.id = full.id;
+        sequence.umId = full.umId;
+        sequence.varId = full.varId;
+        sequence.name = full.name;
+        sequence.isTimeCodeRegen = true;
+        return sequence;
+    }();
+    for (auto const* const text :
+         {"", "noon", "2024-02-29T12:00:00:00", "0999-01-01T00:00:00:00@25", "2024-02-29 12:00:00:00@25",
+          "30:00:00:00@25", "00:60:00:00@25", "00:00:00:00@", "00:00:00:00@25 ", "00:00:00.00@25", "00:00:00:00@-25"})
+    {
+        auto wire = Sent(FullSequence());
+        wire.timeCodeRegenReference = text;
+        Sequence sequence;
+        EXPECT_EQ(Told<ThriftToSequenceConverter>(wire, sequence),
+                  std::string("Invalid TimeCode format (TalvoTimeCodeParser the string '") + text +
+                      "' has not the expected format.)");
+        EXPECT_EQ(sequence, expected);
+    }
+
+    // An undated time code goes out as a text that can't be read again.
+    auto undated = FullSequence();
+    undated.timeCodeRegenReference = ParsedTimeCode("10:11:12:13@25");
+    Sequence sequence;
+    EXPECT_EQ(
+        Told<ThriftToSequenceConverter>(Sent(undated), sequence),
+        "Invalid TimeCode format (TalvoTimeCodeParser the string '-1-0-1-0-1T10:11:12:13@25' has not the expected "
+        "format.)");
+    EXPECT_EQ(sequence, expected);
+}
+
+TEST(SequenceConversionDeathTest, TimeCodeWithABadValueEndsTheProcess)
+{
+    for (auto const* const text : {"2023-02-29T00:00:00:00@50", "24:00:00:00@25", "00:00:00:25@25", "00:00:00:00@0",
+                                   "00:01:00;00@30", "00:00:00;00@25", "2024-01-01T00:00:00:00@99999999999"})
+    {
+        auto wire = Sent(FullSequence());
+        wire.timeCodeRegenReference = text;
+        Sequence sequence;
+        EXPECT_DEATH(std::ignore = ThriftToSequenceConverter().To(wire, sequence), "terminate") << text;
+    }
+}
+
+TEST(SequenceConversion, ArchiveStatusComesBeforeTheEmptyTest)
+{
+    Generated::Sequence wire;
+    wire.archiveStatus = static_cast<WireArchiveStatus::type>(99);
+    wire.__isset.archiveStatus = true;
+    auto sequence = FullSequence();
+    EXPECT_EQ(Told<ThriftToSequenceConverter>(wire, sequence), "");
+    auto expected = FullSequence();
+    expected.archiveStatus = Corvane::Data::Clips::ArchiveStatus::NoStore;
+    EXPECT_EQ(sequence, expected);
+}
+
+TEST(SequenceConversion, TextsAreCutAndFilledWithZeros)
+{
+    using namespace std::string_literals;
+    Generated::Sequence wire;
+    wire.__isset.id = wire.__isset.umId = wire.__isset.varId = wire.__isset.name = true; // all inner flags are clear
+    wire.umId = "TWELVE CHARS";
+    wire.varId.data = "\x3D\xD8\x00"s; // a UTF-16 unit and a half
+    wire.varId.isUtf16 = true;
+    wire.name.data = "a\0b\0c\0d\0e\0f\0g\0h\0i\0j\0k\0\x3D\xD8\x00\xDE"s; // the last two units are one character
+    auto sequence = FullSequence();
+    EXPECT_EQ(Told<ThriftToSequenceConverter>(wire, sequence), "");
+    EXPECT_EQ(sequence.id, SequenceId(ServerId(0), 0));
+    EXPECT_STREQ(sequence.umId.GetUmId(), "TWELVE C");
+    EXPECT_TRUE(sequence.varId.isUtf16);
+    EXPECT_FALSE(sequence.name.isUtf16);
+
+    auto const again = Sent(sequence);
+    EXPECT_EQ(again.umId, "TWELVE C");
+    EXPECT_EQ(again.varId.data, wire.varId.data + std::string(29, '\0'));
+    EXPECT_EQ(again.name.data, wire.name.data.substr(0, 24));
+    EXPECT_TRUE(again.varId.isUtf16 && again.varId.__isset.data && again.varId.__isset.isUtf16);
+
+    wire.varId.data = std::string(31, 'v') + "wx"; // an odd start: the cut falls inside a unit
+    wire.name.data = "";
+    wire.umId = "A\0B"s;
+    EXPECT_EQ(Told<ThriftToSequenceConverter>(wire, sequence), "");
+    EXPECT_EQ(Text(sequence.varId.payload), std::string(31, 'v') + 'w');
+    EXPECT_EQ(Text(sequence.name.payload), std::string(24, '\0'));
+    EXPECT_THAT(sequence.varId.end, testing::Each('\0'));
+    EXPECT_EQ(sequence.umId, SomeUmId("A"));
+    EXPECT_EQ(Sent(Sequence()).varId.data, std::string(32, ' '));
+}
+
+} // namespace
+} // namespace Talvo::Tests

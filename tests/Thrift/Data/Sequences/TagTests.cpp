@@ -1,0 +1,212 @@
+#include "tests/Thrift/Data/Sequences/Values.h"
+
+#include "Thrift/Data/Sequences/FromTag.h"
+#include "Thrift/Data/Sequences/FromTagProperty.h"
+#include "Thrift/Data/Sequences/ToTag.h"
+#include "Thrift/Data/Sequences/ToTagProperty.h"
+#include "generated/TagProperty_types.h"
+#include "generated/Tag_types.h"
+#include "tests/Thrift/RoundTrip.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <map>
+#include <vector>
+
+namespace Talvo::Tests
+{
+namespace
+{
+
+using namespace Corvane::Zelmar::Serialization::Thrift::Data::Sequences;
+using Corvane::Data::Sequences::Tag;
+using Corvane::Data::Sequences::TagProperty;
+using testing::ElementsAre;
+using testing::Pair;
+
+Generated::TagProperty WireProperty(std::vector<int> const& value)
+{
+    Generated::TagProperty property;
+    property.dataType = Generated::TagPropertyType::Integer;
+    property.value.assign(value.begin(), value.end());
+    property.__isset.dataType = property.__isset.value = true;
+    return property;
+}
+
+/// The properties of a tag that are under a key each, by key.
+auto ByKey(auto const& properties)
+{
+    std::map<int, std::vector<int>> values;
+    for (auto const& [key, property] : properties)
+        values[static_cast<int>(key)].assign(property.value.begin(), property.value.end());
+    return values;
+}
+
+TEST(TagPropertyConversion, RoundTripReplacesTheDestination)
+{
+    TagProperty const fresh(9);
+    EXPECT_EQ(fresh, Property(TagProperty::Type::Integer, {9}));
+    for (auto const& property : {Property(TagProperty::Type::String, {72, 105}),
+                                 Property(TagProperty::Type::Vector, {-2147483647 - 1, 0, 2147483647}),
+                                 Property(TagProperty::Type::Boolean, {})})
+        ExpectRoundTrip<TagPropertyToThriftConverter, ThriftToTagPropertyConverter, Generated::TagProperty>(property,
+                                                                                                            fresh);
+}
+
+TEST(TagPropertyConversion, BothFieldsAreNeeded)
+{
+    for (auto const missing : {0, 1, 2})
+    {
+        auto wire = WireProperty({1});
+        if (missing != 1) wire.__isset.dataType = false;
+        if (missing != 0) wire.__isset.value = false;
+        auto property = Property(TagProperty::Type::Vector, {7});
+        EXPECT_EQ(Told<ThriftToTagPropertyConverter>(wire, property), "TagProperty is empty");
+        EXPECT_EQ(property, Property(TagProperty::Type::Vector, {7}));
+    }
+}
+
+TEST(TagPropertyConversion, WireIntegersAreAppendedTo)
+{
+    auto wire = WireProperty({1, 2});
+    wire.__isset = {};
+    EXPECT_EQ(Told<TagPropertyToThriftConverter>(Property(TagProperty::Type::Vector, {3}), wire), "");
+    EXPECT_THAT(wire.value, ElementsAre(1, 2, 3));
+    EXPECT_EQ(wire.dataType, Generated::TagPropertyType::Vector);
+    EXPECT_TRUE(wire.__isset.dataType && wire.__isset.value);
+
+    Generated::TagProperty empty;
+    EXPECT_EQ(Told<TagPropertyToThriftConverter>(Property(TagProperty::Type::Vector, {}), empty), "");
+    EXPECT_TRUE(empty.__isset.value);
+}
+
+TEST(TagConversion, RoundTripResetsTheDestination)
+{
+    Tag const custom(Tag::CommandType::Custom);
+    for (auto const& [value, fresh] : {std::pair(FullTag(), custom), {custom, custom}, {custom, FullTag()}})
+        ExpectRoundTrip<TagToThriftConverter, ThriftToTagConverter, Generated::Tag>(value, fresh);
+
+    Generated::Tag wire;
+    EXPECT_EQ(Told<TagToThriftConverter>(custom, wire), "");
+    EXPECT_EQ(FieldByField(wire).size(), 4u);
+    EXPECT_TRUE(wire.__isset.id && wire.__isset.commandType && wire.__isset.field && wire.__isset.properties);
+}
+
+TEST(TagConversion, CommandTypeResetsBeforeTheOtherFieldsPatch)
+{
+    struct Row
+    {
+        char const* flags; // of id, command type, field and properties, with one entry if the P is large
+        char const* told;
+    };
+    for (auto const& [flags, told] : {Row{"", "Tag is empty"}, Row{"c", "Tag is empty"}, Row{"p", "Tag is empty"},
+                                      Row{"cp", "Tag is empty"}, Row{"i", ""}, Row{"f", ""}, Row{"P", ""},
+                                      Row{"ip", ""}, Row{"ci", ""}, Row{"cf", ""}, Row{"cP", ""}, Row{"icfP", ""}})
+    {
+        auto const has = [flags = std::string_view(flags)](char const flag)
+        { return flags.find(flag) != std::string_view::npos; };
+        Generated::Tag wire;
+        wire.id = 1;
+        wire.commandType = Generated::CommandType::Mute;
+        wire.field = 2;
+        if (has('P')) wire.properties[Generated::TagPropertyKey::Duration] = WireProperty({3});
+        wire.__isset.id = has('i');
+        wire.__isset.commandType = has('c');
+        wire.__isset.field = has('f');
+        wire.__isset.properties = has('p') || has('P');
+
+        auto expected = has('c') ? Tag(Tag::CommandType::Mute) : FullTag();
+        if (has('i')) expected.id = 1;
+        if (has('f')) expected.field = 2;
+        if (has('P')) expected.properties.emplace(TagProperty::Key::Duration, TagProperty(3));
+        auto tag = FullTag();
+        EXPECT_EQ(Told<ThriftToTagConverter>(wire, tag), told) << flags;
+        EXPECT_EQ(tag, expected) << flags;
+    }
+}
+
+TEST(TagConversion, BadPropertyStopsTheConversion)
+{
+    Generated::Tag wire;
+    ASSERT_EQ(Told<TagToThriftConverter>(FullTag(), wire), "");
+    wire.properties[Generated::TagPropertyKey::Levels].__isset.value = false;
+    Tag tag(Tag::CommandType::Custom);
+    EXPECT_EQ(Told<ThriftToTagConverter>(wire, tag), "TagProperty is empty");
+    auto expected = FullTag(); // what stands before it, in the order of the keys
+    expected.properties.erase(TagProperty::Key::Levels);
+    expected.properties.erase(TagProperty::Key::TriggerType);
+    EXPECT_EQ(tag, expected);
+}
+
+TEST(TagConversion, KeysThatAreThereKeepTheirValues)
+{
+    Generated::Tag wire;
+    wire.properties[Generated::TagPropertyKey::Name] = WireProperty({1});
+    wire.properties[Generated::TagPropertyKey::Width] = WireProperty({2});
+    wire.__isset.properties = true;
+    auto tag = FullTag();
+    EXPECT_EQ(Told<ThriftToTagConverter>(wire, tag), "");
+    auto expected = FullTag();
+    expected.properties.emplace(TagProperty::Key::Width, TagProperty(2));
+    EXPECT_EQ(tag, expected);
+
+    EXPECT_EQ(Told<TagToThriftConverter>(FullTag(), wire), "");
+    EXPECT_THAT(ByKey(wire.properties),
+                ElementsAre(Pair(0, ElementsAre(1)), Pair(6, ElementsAre(1)), Pair(13, ElementsAre(2)),
+                            Pair(15, ElementsAre(-2147483647 - 1, 0, 2147483647)), Pair(17, ElementsAre())));
+}
+
+TEST(TagConversion, UnknownWireKeysCollapseToTheFirst)
+{
+    struct Row
+    {
+        std::vector<int> keys;
+        int kept;
+    };
+    for (auto const& [keys, kept] : {Row{{18, 99}, 18}, Row{{0, 18}, 0}, Row{{99, -5, 0, 18, -1}, -5}})
+    {
+        Generated::Tag wire;
+        wire.__isset.properties = true;
+        for (auto const key : keys)
+            wire.properties[static_cast<Generated::TagPropertyKey::type>(key)] = WireProperty({key});
+        Tag tag(Tag::CommandType::Custom);
+        EXPECT_EQ(Told<ThriftToTagConverter>(wire, tag), "");
+        EXPECT_THAT(ByKey(tag.properties), ElementsAre(Pair(0, ElementsAre(kept))));
+    }
+}
+
+// The order of a hash map hangs on how it was filled and on its buckets; what is sent must not.
+TEST(TagConversion, UnknownDomainKeysCollapseWhateverTheirOrder)
+{
+    struct Row
+    {
+        std::vector<int> keys;
+        int kept;
+    };
+    for (auto const& [keys, kept] :
+         {Row{{-1, 0, 18, 1000}, 0}, Row{{-2147483647, -1, 18, 1000}, -2147483647}, Row{{18, 31, 64, 2147483647}, 18}})
+    {
+        for (auto const buckets : {1u, 2u, 13u, 1000u})
+        {
+            auto order = keys;
+            do
+            {
+                Tag tag(Tag::CommandType::Custom);
+                tag.properties.max_load_factor(100);
+                tag.properties.rehash(buckets);
+                for (auto const key : order)
+                    tag.properties.emplace(static_cast<TagProperty::Key>(key), TagProperty(key));
+                tag.properties.emplace(TagProperty::Key::Name, TagProperty(6));
+                Generated::Tag wire;
+                EXPECT_EQ(Told<TagToThriftConverter>(tag, wire), "");
+                EXPECT_THAT(ByKey(wire.properties), ElementsAre(Pair(0, ElementsAre(kept)), Pair(6, ElementsAre(6))));
+            } while (std::next_permutation(order.begin(), order.end()));
+        }
+    }
+}
+
+} // namespace
+} // namespace Talvo::Tests
