@@ -1,0 +1,27 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace Talvo::Benchmarks
+{
+
+/// One row of the printed table: how long a benchmark takes, in itself and against another one of the same run.
+struct Comparison
+{
+    std::string measured;         ///< name of the benchmark
+    std::string against;          ///< name of the other one
+    std::optional<double> target; ///< the ratio of their times should be at most this
+};
+
+using Comparisons = std::vector<Comparison>;
+
+// Each registers its benchmarks and adds the rows that show them.
+void AddTimeCodes(Comparisons& rows);
+void AddClips(Comparisons& rows);
+
+/// Prints what memory 100,000 clips take on their way to a wire list, at the highest.
+void PrintPeakMemory();
+
+} // namespace Talvo::Benchmarks
