@@ -7,6 +7,11 @@ function(talvo_add_layer name)
     target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
     target_compile_options(${name} PRIVATE ${TALVO_WARNINGS})
     target_link_libraries(${name} PUBLIC ${ARG_LINK})
+    # A conversion calls many small functions of other files (enumeration lookups, time codes): inlined when the library
+    # is linked, which saves a sixth of its time. Not with clang, which needs a linker of its own for that.
+    if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+        set_target_properties(${name} PROPERTIES INTERPROCEDURAL_OPTIMIZATION_RELEASE ON)
+    endif()
 endfunction()
 
 # talvo_add_test(NAME SOURCES... [LINK TARGETS...]): a GoogleTest program, known to CTest.
