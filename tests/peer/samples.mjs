@@ -176,18 +176,30 @@ export const samples = [
             clips: [shortClip('A1B2C3D4', 'First'), { ...shortClip('A1B2C3D5', 'Second'), lowResEssence }] },
         shows: 'two clips and a revision that a double cannot hold' },
     { name: 'player-state', record: 'PlayerState', value: playerState,
-        shows: 'a playing channel; a malformed time code and a speed without its numerator are skipped' },
+        shows: 'a playing channel; a malformed time code and a speed without its numerator are skipped, and a negative '
+            + 'field count becomes a large one' },
     { name: 'recorder-state', record: 'RecorderState',
         value: { serial: 310042n, channelIndex: 0, name: 'A recorder name of more than 24 bytes', status: 'Recording',
             isFirstTimePointRunning: true, firstTimePoint: 9007199254740993n,
             lastTodTimecode: '2024-06-15T18:30:00:00@50', primaryTimecodeType: 'User',
             remainingCapacity: 150n, totalCapacity: 100n, recorderTrain: shortClip('TRAIN001', 'Camera A') },
-        shows: 'a recording channel whose remaining capacity is clamped to the total' },
+        shows: 'a recording channel whose name is cut and whose remaining capacity is clamped to the total' },
     { name: 'server-info', record: 'ServerInfo',
         value: { serverId: 3, userNumber: 12, corvaneVersion: '4.01.28, built from the release branch of June',
             serverChassis: 'WessaPro', hardwareRevision: 'B2', hostName: 'replay-3.example',
             kronoIpAddress: 0xc0a80102 | 0, gbeIpAddresses: [0x0a000001, 0x0a000002], isLocal: true },
         shows: 'a version text that is cut, and addresses with the top bit set and clear' },
+    { name: 'load-boundary', record: 'LoadBoundary',
+        value: { type: 7, specializedLoadBoundary: {
+            absoluteLoadBoundary: { timepoint: -1n }, relativeLoadBoundary: { fieldCount: 0x1_0000_0032n } } },
+        shows: 'both members and a type that is not known: the relative one counts, and its high word is lost' },
+    { name: 'multiviewer-overrides', record: 'MultiviewerDataOverrides',
+        value: { playersData: [
+            { playerGuid: guid(61), clipCreationIn: 9007199254740993n, clipCreationOut: emptyTimepoint,
+                isFirstControlledMediaOutput: true, controlMode: 'Full', programMode: 'Preview',
+                isPostRollEnabled: false, message: 'Camera 3, slow motion' },
+            { playerGuid: guid(62), controlMode: 3, message: '' }] },
+        shows: 'a player with all overrides, and one whose control mode is not known and gets lost' },
     { name: 'playlist', record: 'Playlist',
         value: {
             audioVideoTrack: {

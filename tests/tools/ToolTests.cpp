@@ -75,8 +75,9 @@ TEST(Tool, ListsEveryRecordOnceWithItsDirections)
     std::set<std::string> both;
     for (auto const& [name, directions] : listed)
         if (directions == "both") both.insert(name);
-    for (auto const* name :
-         {"Angle", "AnglesGroup", "Clip", "Essence", "Guid", "OperationStatus", "RecordingRange", "Train"})
+    for (auto const* name : {"Angle", "AnglesGroup", "Clip", "Essence", "Guid", "LoadBoundary",
+                             "MultiviewerDataOverrides", "OperationStatus", "PlayerClipOnAir", "PlayerDataOverrides",
+                             "PlayerState", "RecorderState", "RecordingRange", "ServerInfo", "Train"})
         EXPECT_TRUE(both.contains(name)) << name;
     EXPECT_EQ(listed.at("AsciiOrUtf16String"), "-");
     EXPECT_EQ(listed.at("ClipCommandEventArgs"), "-");
