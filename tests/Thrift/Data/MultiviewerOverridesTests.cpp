@@ -126,8 +126,8 @@ TEST(PlayerDataOverridesConversion, PlayerIsReplacedEvenByNoneAndReservedValuesS
     EXPECT_EQ(Received(Sent(NoOverrides('p')), overrides), overrides);
 
     Wire::PlayerDataOverrides wire;
-    auto const& guid = Received(wire, overrides).PlayerGuid();
-    EXPECT_EQ(static_cast<Corvane::Data::Guid const&>(guid), Corvane::Data::Guid::Empty());
+    Corvane::Data::Guid const guid = Received(wire, overrides).PlayerGuid();
+    EXPECT_EQ(guid, Corvane::Data::Guid::Empty());
 }
 
 MultiviewerDataOverrides ThreePlayers()

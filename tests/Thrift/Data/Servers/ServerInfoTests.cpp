@@ -60,8 +60,6 @@ TEST(ServerInfoConversion, ANewOneIsNoServer)
     EXPECT_EQ(info.serverId, ServerId(-1));
     EXPECT_TRUE(info.hasNoGbeAddresses);
     EXPECT_FALSE(info.isLocal);
-    EXPECT_EQ(info.userNumber, 0);
-    EXPECT_THAT(info.kronoIpAddress, testing::Each(0));
     auto const wire = Sent(info);
     EXPECT_FALSE(wire.__isset.corvaneVersion || wire.__isset.hardwareRevision || wire.__isset.hostName ||
                  wire.__isset.gbeIpAddresses);
