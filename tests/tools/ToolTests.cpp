@@ -211,6 +211,7 @@ TEST(Tool, KeepsFieldsThatTheRecordDoesNotHave)
     EXPECT_THAT(printed.errors, OneLine("2 fields that the record does not have"));
     for (auto const& protocol : Protocols)
         EXPECT_EQ(Transcoded("Guid", Transcoded("Guid", bytes, "binary", protocol), protocol, "binary"), bytes);
+    EXPECT_THAT(Transcoded("Guid", bytes, "binary", "json"), HasSubstr(R"("99":{"str":"new"})"));
 
     ExpectRefused(RunTool({"print", "Train", SamplePath("clip-minimal.binary")}),
                   "it holds none of that record's fields");
@@ -323,12 +324,12 @@ TEST(Tool, BelievesNoSizeBeyondTheFile)
         for (int level = 0; level < depth; ++level) bytes += open;
         return bytes;
     };
-    // Of three megabytes that are there, a list claims two million records.
+    // In three megabytes, a list claims two million clips.
     auto const padding = std::string(3'000'000, 'x');
     Row const rows[] = {
         {"Train", "binary", "\x0f\0\x02\x0c\x7f\xff\xff\xff\0"s},
         {"Train", "binary", "\x0f\0\x02\x0c\xff\xff\xff\xff\0"s},
-        {"Train", "binary", "\x0f\0\x02\x0c\0\x1e\x84\x80\0"s + padding},
+        {"GetClipsCommandReply", "binary", "\x0f\0\x03\x0c\0\x1e\x84\x80\0"s + padding},
         {"Train", "binary", "\x0b\0\x05\x7f\xff\xff\xff\0"s},
         {"GoIdleCommandParams", "binary", "\x0e\0\x02\x0c\x7f\xff\xff\xff\0"s},
         {"ChainCommandParams", "binary", "\x0d\0\x02\x0c\x0c\x7f\xff\xff\xff\0"s},
@@ -336,11 +337,12 @@ TEST(Tool, BelievesNoSizeBeyondTheFile)
         {"Guid", "binary", nested("\x0c\0\x63"s, 100'000)},
         {"Train", "compact", "\x29\xfc\xff\xff\xff\xff\x07\0"s},
         {"Train", "compact", "\x29\xfc\xff\xff\xff\xff\x0f\0"s},
-        {"Train", "compact", "\x29\xfc\x80\x89\x7a\0"s + padding},
+        {"GetClipsCommandReply", "compact", "\x39\xfc\x80\x89\x7a\0"s + padding},
         {"Train", "compact", "\x58\xff\xff\xff\xff\x07\0"s},
         {"ChainCommandParams", "compact", "\x2b\xff\xff\xff\xff\x07\xcc\0"s},
         {"Guid", "compact", nested("\x2c"s, 100'000)},
         {"Train", "json", R"({"2":{"lst":["rec",2147483647,{}]}})"},
+        {"GetClipsCommandReply", "json", R"({"3":{"lst":["rec",1000000,{}]}})"},
         {"Train", "json", R"({"2":{"lst":["rec",-1,{}]}})"},
         {"Train", "json", R"({"2":{"lst":["rec",99999999999999999999,{}]}})"},
         {"ChainCommandParams", "json", R"({"2":{"map":["rec","rec",2147483647,{}]}})"},
