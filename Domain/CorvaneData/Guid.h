@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <compare>
 
 namespace Talvo::Corvane::Data
 {
@@ -32,6 +33,7 @@ public:
     unsigned char const* Bytes() const noexcept { return bytes_.data(); }
 
     bool operator==(Guid const&) const = default;
+    std::strong_ordering operator<=>(Guid const&) const = default; ///< of the bytes, as unsigned numbers
 
 private:
     std::array<unsigned char, Size> bytes_{};

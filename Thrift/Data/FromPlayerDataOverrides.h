@@ -17,8 +17,8 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data
 
 /// Writes a domain `PlayerDataOverrides` into the wire record `PlayerDataOverrides`. It can't fail.
 ///
-/// An override that is missing clears the flag of its wire field, so a record that is used again keeps no stale one. A control
-/// or program mode outside its enumeration sets the flag and leaves the wire's value as it was.
+/// An override that is missing clears the flag of its wire field, so a record that is used again keeps no stale one. A
+/// control or program mode outside its enumeration sets the flag and leaves the wire's value as it was.
 class FromPlayerDataOverrides
     : public Converter<Multiviewer::PlayerDataOverrides, Corvane::Data::Generated::PlayerDataOverrides>
 {

@@ -15,8 +15,8 @@ class MultiviewerDataOverrides;
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data
 {
 
-/// Applies the players of the wire record `MultiviewerDataOverrides` to those of a domain `MultiviewerDataOverrides`, in their
-/// order, each as ToPlayerDataOverrides does. The destination decides how many there are.
+/// Applies the players of the wire record `MultiviewerDataOverrides` to those of a domain `MultiviewerDataOverrides`,
+/// in their order, each as ToPlayerDataOverrides does. The destination decides how many there are.
 ///
 /// Failure: "Unexpected playerData count" when the wire holds another number; the destination is then unchanged.
 class ToMultiviewerDataOverrides

@@ -4,13 +4,14 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <tuple>
 #include <vector>
 
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Detail
 {
 
-/// Makes room for `count` more elements at once, growing as push_back would, so that lists that are appended to again and
-/// again stay linear.
+/// Makes room for `count` more elements at once, growing as push_back would, so that lists that are appended to again
+/// and again stay linear.
 template<typename T>
 void ReserveMore(std::vector<T>& list, std::size_t const count)
 {
@@ -18,8 +19,8 @@ void ReserveMore(std::vector<T>& list, std::size_t const count)
     if (size > list.capacity()) list.reserve(std::max(size, 2 * list.capacity()));
 }
 
-/// Converts every element of `source` into a new one behind those that `destination` holds. The first that fails ends it
-/// with its failure: it is not added, those before it are kept.
+/// Converts every element of `source` into a new one behind those that `destination` holds. The first that fails ends
+/// it with its failure: it is not added, those before it are kept.
 template<typename TConverter, typename TSource, typename TDestination>
 Common::Serialization::ConversionResult AppendEach(TConverter const& converter, std::vector<TSource> const& source,
                                                    std::vector<TDestination>& destination)
@@ -34,6 +35,14 @@ Common::Serialization::ConversionResult AppendEach(TConverter const& converter, 
         }
     }
     return Success();
+}
+
+/// The same, but what an element reports is not looked at: one that fails is added with what was converted of it.
+template<typename TConverter, typename TSource, typename TDestination>
+void AppendAll(TConverter const& converter, std::vector<TSource> const& source, std::vector<TDestination>& destination)
+{
+    ReserveMore(destination, source.size());
+    for (auto const& element : source) std::ignore = converter.To(element, destination.emplace_back());
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Detail

@@ -10,8 +10,8 @@
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Detail
 {
 
-// Out: `= TimeCodeText(timeCode)` writes the text straight into the wire's string. In, where a bad text has to be noticed:
-// `ReadTimeCode(text)` gives nothing for it. Neither allocates.
+// Out: `= TimeCodeText(timeCode)` writes the text straight into the wire's string. In, where a bad text has to be
+// noticed: `ReadTimeCode(text)` gives nothing for it. Neither allocates.
 using TimePoints::ReadTimeCode;
 using TimePoints::TimeCodeText;
 

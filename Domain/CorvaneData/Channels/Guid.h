@@ -2,6 +2,7 @@
 
 #include "Domain/CorvaneData/Guid.h"
 
+#include <compare>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -36,6 +37,7 @@ public:
     unsigned int MachineSerial() const noexcept;
 
     bool operator==(Guid const&) const = default;
+    std::strong_ordering operator<=>(Guid const&) const = default; ///< of the bytes, as unsigned numbers
 };
 
 } // namespace Talvo::Corvane::Data::Channels

@@ -2,16 +2,14 @@
 
 #include "Domain/CorvaneData/Channels/PlayerState.h"
 #include "Thrift/Data/Channels/EnumConverter.h"
-#include "Thrift/Data/Channels/FromLoadBoundary.h"
 #include "Thrift/Data/Channels/FromPlayerClipOnAir.h"
+#include "Thrift/Detail/Boundaries.h"
 #include "Thrift/Detail/Flagged.h"
 #include "Thrift/Detail/Results.h"
 #include "Thrift/Detail/Texts.h"
 #include "Thrift/Detail/TimeCodes.h"
 #include "Thrift/Detail/Widths.h"
 #include "generated/PlayerState_types.h"
-
-#include <tuple>
 
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Channels
 {
@@ -58,7 +56,6 @@ ConversionResult PlayerStateToThriftConverter::To(Corvane::Data::Channels::Playe
                                                   Generated::PlayerState& destination) const noexcept
 {
     PlayerClipOnAirToThriftConverter const fromClipOnAir;
-    LoadBoundaryToThriftConverter const fromBoundary;
 
     TALVO_FLAGGED(destination, serial) = Widened(source.serial);
     TALVO_FLAGGED(destination, channelIndex) = source.channelIndex;
@@ -98,9 +95,8 @@ ConversionResult PlayerStateToThriftConverter::To(Corvane::Data::Channels::Playe
         TALVO_FLAGGED(destination, userPgmOutTimecodeOnAir) = TimeCodeText(source.userPgmOutTimecodeOnAir);
     if (IsNonZero(source.globalLoopMode))
         TALVO_FLAGGED(destination, globalLoopMode) = ToGeneratedEnum(source.globalLoopMode);
-    // A boundary can't fail on its way out.
-    std::ignore = fromBoundary.To(source.inBoundary, TALVO_FLAGGED(destination, inBoundary));
-    std::ignore = fromBoundary.To(source.outBoundary, TALVO_FLAGGED(destination, outBoundary));
+    SendBoundary(source.inBoundary, TALVO_FLAGGED(destination, inBoundary));
+    SendBoundary(source.outBoundary, TALVO_FLAGGED(destination, outBoundary));
     return Success();
 }
 

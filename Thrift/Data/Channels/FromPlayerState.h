@@ -17,9 +17,9 @@ class PlayerState;
 
 /// Writes a domain `PlayerState` into the wire record `PlayerState`. It can't fail.
 ///
-/// The destination is expected to be new and is not reset. These stay off the wire, with value and flag as they were: empty
-/// time points and time codes, a `globalLoopMode` or `playoutConfig` of 0, and a speed of which numerator or denominator is 0,
-/// which is lost as a pair.
+/// The destination is expected to be new and is not reset. These stay off the wire, with value and flag as they were:
+/// empty time points and time codes, a `globalLoopMode` or `playoutConfig` of 0, and a speed of which numerator or
+/// denominator is 0, which is lost as a pair.
 class PlayerStateToThriftConverter : public Converter<Corvane::Data::Channels::PlayerState, Generated::PlayerState>
 {
 public:

@@ -17,8 +17,9 @@ class RecorderState;
 
 /// Writes a domain `RecorderState` into the wire record `RecorderState`. It can't fail.
 ///
-/// The destination is expected to be new and is not reset. These stay off the wire, with value and flag as they were: empty
-/// time points and time codes, a `primaryTimecodeType` of 0, and the clip unless `hasRecorderTrain` says that there is one.
+/// The destination is expected to be new and is not reset. These stay off the wire, with value and flag as they were:
+/// empty time points and time codes, a `primaryTimecodeType` of 0, and the clip unless `hasRecorderTrain` says that
+/// there is one.
 class RecorderStateToThriftConverter
     : public Converter<Corvane::Data::Channels::RecorderState, Generated::RecorderState>
 {

@@ -17,8 +17,8 @@ class LoadBoundary;
 
 /// Replaces a domain `Boundary` by the wire record `LoadBoundary`.
 ///
-/// Failure: "LoadBoundary is empty" when the flag of `type`, of `specializedLoadBoundary` or of the member that `type` asks
-/// for is clear; the destination is then unchanged.
+/// Failure: "LoadBoundary is empty" when the flag of `type`, of `specializedLoadBoundary` or of the member that `type`
+/// asks for is clear; the destination is then unchanged.
 ///
 /// Lost on the way: the high word of a field count; an unknown type reads as RelativeToOppositeLoadBoundary.
 class ThriftToLoadBoundaryConverter : public Converter<Generated::LoadBoundary, Corvane::Data::Channels::Boundary>

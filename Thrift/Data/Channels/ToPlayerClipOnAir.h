@@ -15,8 +15,8 @@ namespace Generated
 class PlayerClipOnAir;
 } // namespace Generated
 
-/// Applies the fields of the wire record `PlayerClipOnAir` whose flag is set to a domain `PlayerClipOnAir`, as it stands. None
-/// at all is no failure.
+/// Applies the fields of the wire record `PlayerClipOnAir` whose flag is set to a domain `PlayerClipOnAir`, as it
+/// stands. None at all is no failure.
 ///
 /// A clip replaces the one of the destination and sets `hasClipOnAir`, which nothing clears.
 ///

@@ -2,8 +2,8 @@
 
 #include "Domain/CorvaneData/Channels/PlayerState.h"
 #include "Thrift/Data/Channels/EnumConverter.h"
-#include "Thrift/Data/Channels/ToLoadBoundary.h"
 #include "Thrift/Data/Channels/ToPlayerClipOnAir.h"
+#include "Thrift/Detail/Boundaries.h"
 #include "Thrift/Detail/Results.h"
 #include "Thrift/Detail/SeenFields.h"
 #include "Thrift/Detail/Texts.h"
@@ -12,13 +12,11 @@
 #include "generated/PlayerState_types.h"
 
 #include <cstdint>
-#include <tuple>
 
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Channels
 {
 
 using namespace Detail;
-using Corvane::Data::Channels::Boundary;
 using EnumConverter::FromGeneratedEnum;
 
 namespace
@@ -53,14 +51,6 @@ void ReadInfoOnAir(Generated::PlayerInfoOnAir const& source, Corvane::Data::Chan
     destination.limitOut = source.limitOut;
     destination.limitUserIn = source.limitUserIn;
     destination.limitUserOut = source.limitUserOut;
-}
-
-/// A boundary that is refused replaces the destination's all the same, by a new one.
-Boundary ReadBoundary(Generated::LoadBoundary const& source) noexcept
-{
-    Boundary boundary;
-    std::ignore = ThriftToLoadBoundaryConverter().To(source, boundary);
-    return boundary;
 }
 
 } // namespace
@@ -110,7 +100,8 @@ ConversionResult ThriftToPlayerStateConverter::To(Generated::PlayerState const& 
     if (seen(isset.userPgmOutTimecodeOnAir))
         AssignGuarded(destination.userPgmOutTimecodeOnAir, source.userPgmOutTimecodeOnAir);
     if (seen(isset.globalLoopMode)) destination.globalLoopMode = FromGeneratedEnum(source.globalLoopMode);
-    // The boundaries don't count as seen, though they are applied: a record that holds nothing else fails.
+    // The boundaries don't count as seen, though they are applied: a record that holds nothing else fails. One that is
+    // refused replaces the destination's all the same, by a new one.
     if (isset.inBoundary) destination.inBoundary = ReadBoundary(source.inBoundary);
     if (isset.outBoundary) destination.outBoundary = ReadBoundary(source.outBoundary);
 

@@ -17,8 +17,8 @@ class RecorderState;
 
 /// Applies the fields of the wire record `RecorderState` whose flag is set to a domain `RecorderState`, as it stands.
 ///
-/// The remaining capacity never ends above the total one: a new remaining capacity raises the total, then a new total lowers
-/// what remains. A clip replaces the one of the destination and sets `hasRecorderTrain`, which nothing clears.
+/// The remaining capacity never ends above the total one: a new remaining capacity raises the total, then a new total
+/// lowers what remains. A clip replaces the one of the destination and sets `hasRecorderTrain`, which nothing clears.
 ///
 /// Failures, with what was applied before them left in the destination:
 /// - any of ThriftToClipConverter, from `recorderTrain`.
@@ -26,8 +26,8 @@ class RecorderState;
 ///
 /// Ends the process: what ends it in ThriftToClipConverter.
 ///
-/// Lost on the way: a time code that is no time code text is skipped; a name above 24 bytes is cut; the high words of `serial`
-/// and of the capacities; unknown enumeration numbers read as 0.
+/// Lost on the way: a time code that is no time code text is skipped; a name above 24 bytes is cut; the high words of
+/// `serial` and of the capacities; unknown enumeration numbers read as 0.
 class ThriftToRecorderStateConverter
     : public Converter<Generated::RecorderState, Corvane::Data::Channels::RecorderState>
 {

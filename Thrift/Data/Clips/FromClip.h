@@ -22,10 +22,9 @@ class Clip;
 ///   flag that says whether they hold UTF-16.
 /// - `keywords` always has five elements. `userBits` are appended to what the destination holds, each 0 to 255.
 /// - The 32-bit `legacyTimecodeOffset`, `userLock`, `thumbnailOffset`, `sequence` and `machineSerial` are
-/// zero-extended.
+///   zero-extended.
 /// - These stay off the wire: an optional enumeration that holds 0 (so `HdrProfile::Unknown`), a time code or time
-/// point
-///   that is empty, an essence that is `NotPresent`.
+///   point that is empty, an essence that is `NotPresent`.
 /// - Lost on the way: the reserved fields, and domain enumerators outside their table, which travel as 0.
 class ClipToThriftConverter : public Converter<Corvane::Data::Clips::Clip, Generated::Clip>
 {

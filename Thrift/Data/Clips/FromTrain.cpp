@@ -9,8 +9,6 @@
 #include "Thrift/Detail/TimeCodes.h"
 #include "generated/Train_types.h"
 
-#include <tuple>
-
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips
 {
 
@@ -30,9 +28,7 @@ ConversionResult TrainToThriftConverter::To(Corvane::Data::Clips::Train const& s
     destination.__isset.trainData = source.trainClip != nullptr;
 
     // Appended: a destination that holds ranges already keeps them in front. That no range fails is not looked at.
-    ReserveMore(destination.recordingRanges, source.trainRanges.size());
-    for (auto const& range : source.trainRanges)
-        std::ignore = fromRange.To(range, destination.recordingRanges.emplace_back());
+    AppendAll(fromRange, source.trainRanges, destination.recordingRanges);
     destination.__isset.recordingRanges = !destination.recordingRanges.empty();
 
     TALVO_FLAGGED(destination, isInMoving) = source.isInMoving;

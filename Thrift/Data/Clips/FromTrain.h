@@ -19,7 +19,7 @@ class Train;
 ///
 /// - Without a clip the flag of `trainData` is cleared.
 /// - Ranges are appended to those that the destination holds, and the flag of `recordingRanges` says whether there is
-/// any.
+///   any.
 /// - `lastKnownTimeCode` stays off the wire when it is empty.
 class TrainToThriftConverter : public Converter<Corvane::Data::Clips::Train, Generated::Train>
 {

@@ -3,14 +3,13 @@
 #include "Domain/CorvaneData/Clips/Train.h"
 #include "Thrift/Data/Clips/ToClip.h"
 #include "Thrift/Data/Clips/ToRecordingRange.h"
+#include "Thrift/Detail/Lists.h"
 #include "Thrift/Detail/Results.h"
 #include "Thrift/Detail/SeenFields.h"
 #include "Thrift/Detail/TimeCodes.h"
 #include "generated/Train_types.h"
 
-#include <cstddef>
 #include <memory>
-#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -41,9 +40,7 @@ ConversionResult ThriftToTrainConverter::To(Generated::Train const& source,
     if (seen(isset.recordingRanges))
     {
         // A range that fails stays in the list as an empty one, so that both sides count the same number of ranges.
-        trainRanges.resize(source.recordingRanges.size());
-        for (std::size_t i = 0; i < trainRanges.size(); ++i)
-            std::ignore = toRange.To(source.recordingRanges[i], trainRanges[i]);
+        AppendAll(toRange, source.recordingRanges, trainRanges);
     }
 
     bool const isInMoving = seen(isset.isInMoving) && source.isInMoving;

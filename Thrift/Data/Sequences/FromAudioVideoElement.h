@@ -15,8 +15,8 @@ namespace Generated
 class AudioVideoElement;
 } // namespace Generated
 
-/// Writes a domain `AudioVideoElement` into the wire record `AudioVideoElement`: its eight own fields, then its `Element` part,
-/// whatever that conversion reports. It can't fail.
+/// Writes a domain `AudioVideoElement` into the wire record `AudioVideoElement`: its eight own fields, then its
+/// `Element` part, whatever that conversion reports. It can't fail.
 class AudioVideoElementToThriftConverter
     : public Converter<Corvane::Data::Sequences::AudioVideoElement, Generated::AudioVideoElement>
 {

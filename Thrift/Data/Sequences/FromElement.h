@@ -15,8 +15,8 @@ namespace Generated
 class Element;
 } // namespace Generated
 
-/// Writes a domain `Element` into the wire record `Element`: every field. It can't fail. `tags` are appended to those that the
-/// destination holds; the flags inside `speed` stay as they are.
+/// Writes a domain `Element` into the wire record `Element`: every field. It can't fail. `tags` are appended to those
+/// that the destination holds; the flags inside `speed` stay as they are.
 class ElementToThriftConverter : public Converter<Corvane::Data::Sequences::Element, Generated::Element>
 {
 public:

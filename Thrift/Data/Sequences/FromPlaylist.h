@@ -15,8 +15,8 @@ namespace Generated
 class Playlist;
 } // namespace Generated
 
-/// Writes a domain `Playlist` into the wire record `Playlist`: its track, the clip of its auxiliary track and its `Sequence` part.
-/// It can't fail.
+/// Writes a domain `Playlist` into the wire record `Playlist`: its track, the clip of its auxiliary track and its
+/// `Sequence` part. It can't fail.
 class PlaylistToThriftConverter : public Converter<Corvane::Data::Sequences::Playlist, Generated::Playlist>
 {
 public:

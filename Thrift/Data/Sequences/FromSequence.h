@@ -15,8 +15,8 @@ namespace Generated
 class Sequence;
 } // namespace Generated
 
-/// Writes a domain `Sequence` into the wire record `Sequence`: every field. It can't fail. Texts go out whole, never trimmed or
-/// transcoded.
+/// Writes a domain `Sequence` into the wire record `Sequence`: every field. It can't fail. Texts go out whole, never
+/// trimmed or transcoded.
 class SequenceToThriftConverter : public Converter<Corvane::Data::Sequences::Sequence, Generated::Sequence>
 {
 public:

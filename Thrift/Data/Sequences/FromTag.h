@@ -17,8 +17,8 @@ class Tag;
 
 /// Writes a domain `Tag` into the wire record `Tag`. It can't fail.
 ///
-/// Properties are added to those that the destination holds; a key that is there already is skipped. Keys outside their table
-/// all travel as `Value`: the tag's own `Value` goes before them, and of them the lowest.
+/// Properties are added to those that the destination holds; a key that is there already is skipped. Keys outside their
+/// table all travel as `Value`: the tag's own `Value` goes before them, and of them the lowest.
 class TagToThriftConverter : public Converter<Corvane::Data::Sequences::Tag, Generated::Tag>
 {
 public:

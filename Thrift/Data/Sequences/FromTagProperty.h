@@ -15,8 +15,8 @@ namespace Generated
 class TagProperty;
 } // namespace Generated
 
-/// Writes a domain `TagProperty` into the wire record `TagProperty`. It can't fail. The integers are appended to those that the
-/// destination holds.
+/// Writes a domain `TagProperty` into the wire record `TagProperty`. It can't fail. The integers are appended to those
+/// that the destination holds.
 class TagPropertyToThriftConverter : public Converter<Corvane::Data::Sequences::TagProperty, Generated::TagProperty>
 {
 public:

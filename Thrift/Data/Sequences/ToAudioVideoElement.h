@@ -15,8 +15,8 @@ namespace Generated
 class AudioVideoElement;
 } // namespace Generated
 
-/// Applies the wire record `AudioVideoElement` to a domain `AudioVideoElement`, as it stands: its `element`, whatever that
-/// conversion reports, then those of its eight own fields whose flag is set.
+/// Applies the wire record `AudioVideoElement` to a domain `AudioVideoElement`, as it stands: its `element`, whatever
+/// that conversion reports, then those of its eight own fields whose flag is set.
 ///
 /// Failure: "AudioVideoElement is empty" when none of the eight was there, though `element` may have been applied.
 ///

@@ -20,8 +20,9 @@ class AudioVideoTrack;
 
 /// Applies the wire record `AudioVideoTrack` to a domain `Track<AudioVideoElement>`.
 ///
-/// With `elements` set, they are appended to those that the destination holds and the number is neither read nor changed; else
-/// with `numberOfElements` set, it replaces the number and all elements are gone. Neither at all is no failure.
+/// With `elements` set, they are appended to those that the destination holds and the number is neither read nor
+/// changed; else with `numberOfElements` set, it replaces the number and all elements are gone. Neither at all is no
+/// failure.
 ///
 /// Failures: any of ThriftToAudioVideoElementConverter, from an element; those before it are kept.
 ///

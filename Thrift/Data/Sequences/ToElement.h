@@ -15,8 +15,8 @@ namespace Generated
 class Element;
 } // namespace Generated
 
-/// Applies the fields of the wire record `Element` whose flag is set to a domain `Element`, as it stands. `tags` are appended to
-/// those that the destination holds; the flags inside `speed` are not looked at.
+/// Applies the fields of the wire record `Element` whose flag is set to a domain `Element`, as it stands. `tags` are
+/// appended to those that the destination holds; the flags inside `speed` are not looked at.
 ///
 /// Failures, with what was applied before them left in the destination:
 /// - "SequenceId is empty": `sequenceId` has no flag set.

@@ -15,8 +15,8 @@ namespace Generated
 class Playlist;
 } // namespace Generated
 
-/// Applies the wire record `Playlist` to a domain `Playlist`, as it stands. The track is replaced by what could be read of it, and
-/// the header takes what could be read of it: what they report is not looked at.
+/// Applies the wire record `Playlist` to a domain `Playlist`, as it stands. The track is replaced by what could be read
+/// of it, and the header takes what could be read of it: what they report is not looked at.
 ///
 /// Failure: "Playlist is empty" when no flag is set; the destination is then unchanged.
 ///

@@ -18,12 +18,13 @@ class Tag;
 /// Applies the wire record `Tag` to a domain `Tag`.
 ///
 /// A `commandType` first resets the whole destination to a new tag of that type; without one the other fields patch the
-/// destination as it stands. Properties are added in ascending order of their keys; a key that is there already keeps its value.
+/// destination as it stands. Properties are added in ascending order of their keys; a key that is there already keeps
+/// its value.
 ///
 /// Failures, with what was applied before them left in the destination:
 /// - "TagProperty is empty", from a property; those before it are kept.
-/// - "Tag is empty": neither `id` nor `field` nor a property was there. A `commandType` does not count, though it has reset the
-///   destination.
+/// - "Tag is empty": neither `id` nor `field` nor a property was there. A `commandType` does not count, though it has
+///   reset the destination.
 ///
 /// Lost on the way: unknown keys, which all read as `Value`, but for the first; unknown enumeration numbers read as 0.
 class ThriftToTagConverter : public Converter<Generated::Tag, Corvane::Data::Sequences::Tag>

@@ -17,9 +17,9 @@ class ServerInfo;
 
 /// Writes a domain `ServerInfo` into the wire record `ServerInfo`. It can't fail.
 ///
-/// The destination is expected to be new and is not reset. Empty texts stay off the wire, with value and flag as they were, and
-/// so do the GBE addresses when `hasNoGbeAddresses`; else they are appended to what the destination holds. An address is one
-/// number, its first octet in the most significant byte. A chassis outside 1 to 18 travels as 0.
+/// The destination is expected to be new and is not reset. Empty texts stay off the wire, with value and flag as they
+/// were, and so do the GBE addresses when `hasNoGbeAddresses`; else they are appended to what the destination holds. An
+/// address is one number, its first octet in the most significant byte. A chassis outside 1 to 18 travels as 0.
 class ServerInfoToThriftConverter : public Converter<Corvane::Data::Servers::ServerInfo, Generated::ServerInfo>
 {
 public:

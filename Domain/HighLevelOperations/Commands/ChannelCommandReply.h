@@ -1,0 +1,32 @@
+#pragma once
+
+#include "Domain/HighLevelOperations/Commands/ChannelResult.h"
+#include "Domain/HighLevelOperations/Commands/CommandReply.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+
+/// What became of a command on each of its channels, twelve at most.
+struct ChannelCommandReply : CommandReply
+{
+    static constexpr std::size_t MaxResults = 12;
+
+    /// Default results only, none of which counts.
+    explicit ChannelCommandReply(Corvane::Data::Guid const& guid)
+        : CommandReply(guid)
+    {
+    }
+
+    ReplyType GetType() const noexcept override { return ReplyType::Channel; }
+
+    bool operator==(ChannelCommandReply const&) const = default;
+
+    std::array<ChannelResult, MaxResults> results;
+    std::int32_t resultCount = 0; ///< how many of `results` count
+};
+
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands

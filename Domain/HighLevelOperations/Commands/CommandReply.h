@@ -1,0 +1,52 @@
+#pragma once
+
+#include "Domain/CorvaneData/Guid.h"
+
+#include <cstdint>
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+
+/// The kinds of replies.
+enum class ReplyType : std::int32_t
+{
+    Unknown = 0,
+    Success = 1,
+    Failure = 2,
+    Clip = 3,
+    AnglesGroup = 4,
+    Playlist = 5,
+    Channel = 6,
+    GetChannels = 7,
+    GetClips = 8,
+    GetTrains = 9,
+    GetAnglesGroups = 10,
+    GetPlaylists = 11,
+    GetServers = 12,
+    GetMultiviewerData = 13
+};
+
+/// What the server answers to a command.
+struct CommandReply
+{
+    CommandReply() noexcept = default;
+
+    explicit CommandReply(Corvane::Data::Guid const& guid) noexcept
+        : commandGuid(guid)
+    {
+    }
+
+    CommandReply(CommandReply const&) = default;
+    CommandReply(CommandReply&&) = default;
+    CommandReply& operator=(CommandReply const&) = default;
+    CommandReply& operator=(CommandReply&&) = default;
+    virtual ~CommandReply();
+
+    virtual ReplyType GetType() const noexcept = 0;
+
+    bool operator==(CommandReply const&) const = default;
+
+    Corvane::Data::Guid commandGuid; ///< the command that is answered
+};
+
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "Domain/CorvaneData/Clips/Groups/AnglesGroup.h"
+#include "Domain/HighLevelOperations/Commands/CommandParams.h"
+#include "Domain/HighLevelOperations/Commands/CreateClipsCommandParams.h"
+
+#include <cstdint>
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+
+/// Asks for an angles group to be created, with its clips.
+struct CreateAnglesGroupCommandParams : CommandParams
+{
+    bool operator==(CreateAnglesGroupCommandParams const&) const = default;
+
+    std::int32_t groupKviIndex = 0;
+    CreateClipsCommandParams creationParams; ///< with an identifier of its own
+};
+
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "Domain/CorvaneData/Clips/Guid.h"
+#include "Domain/HighLevelOperations/Commands/CommandParams.h"
+
+#include <vector>
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+
+/// Asks for clips to be deleted.
+struct DeleteClipsCommandParams : CommandParams
+{
+    bool operator==(DeleteClipsCommandParams const&) const = default;
+
+    std::vector<Corvane::Data::Clips::Guid> clips;
+};
+
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands

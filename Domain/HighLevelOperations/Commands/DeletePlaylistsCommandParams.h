@@ -1,0 +1,20 @@
+#pragma once
+
+#include "Domain/CorvaneData/Sequences/Guid.h"
+#include "Domain/CorvaneData/Sequences/Playlist.h"
+#include "Domain/HighLevelOperations/Commands/CommandParams.h"
+
+#include <vector>
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+
+/// Asks for playlists to be deleted.
+struct DeletePlaylistsCommandParams : CommandParams
+{
+    bool operator==(DeletePlaylistsCommandParams const&) const = default;
+
+    std::vector<Corvane::Data::Sequences::Guid> playlists;
+};
+
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands

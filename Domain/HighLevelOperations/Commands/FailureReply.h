@@ -1,0 +1,27 @@
+#pragma once
+
+#include "Domain/HighLevelOperations/Commands/CommandReply.h"
+
+#include <string>
+#include <utility>
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+
+/// The command was refused.
+struct FailureReply : CommandReply
+{
+    FailureReply(Corvane::Data::Guid const& guid, std::string text)
+        : CommandReply(guid)
+        , error(std::move(text))
+    {
+    }
+
+    ReplyType GetType() const noexcept override { return ReplyType::Failure; }
+
+    bool operator==(FailureReply const&) const = default;
+
+    std::string error; ///< why
+};
+
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "Domain/CorvaneData/Clips/Groups/AnglesGroup.h"
+#include "Domain/HighLevelOperations/Commands/CommandParams.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+
+/// Asks for all angles groups.
+struct GetAnglesGroupsCommandParams : CommandParams
+{
+    bool operator==(GetAnglesGroupsCommandParams const&) const = default;
+};
+
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands

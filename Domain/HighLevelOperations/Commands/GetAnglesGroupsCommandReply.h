@@ -1,0 +1,45 @@
+#pragma once
+
+#include "Domain/CorvaneData/Clips/Groups/AnglesGroup.h"
+#include "Domain/HighLevelOperations/Commands/CommandReply.h"
+#include "Domain/HighLevelOperations/Commands/ItemCursor.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <list>
+#include <utility>
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+
+/// All angles groups, read once through a cursor: MoveNext() goes before the first read. Copies share the items and have a cursor
+/// of their own. Reading moves the cursor, so one object belongs to one thread.
+class GetAnglesGroupsCommandReply : public CommandReply
+{
+public:
+    GetAnglesGroupsCommandReply(Corvane::Data::Guid const& guid, long long revisionNumber,
+                                std::list<Corvane::Data::Clips::Groups::AnglesGroup>&& items)
+        : CommandReply(guid)
+        , revision(revisionNumber)
+        , items_(std::move(items))
+    {
+    }
+
+    ReplyType GetType() const noexcept override { return ReplyType::GetAnglesGroups; }
+
+    /// Goes on to the next item, and tells whether there is one.
+    bool MoveNext() const noexcept { return items_.MoveNext(); }
+
+    /// The item that the last MoveNext() went on to.
+    Corvane::Data::Clips::Groups::AnglesGroup CurrentAnglesGroup() const { return items_.Current(); }
+
+    /// How many items MoveNext() still has to give.
+    std::size_t RemainingCount() const noexcept { return items_.RemainingCount(); }
+
+    std::int64_t revision; ///< of the server's database
+
+private:
+    ItemCursor<Corvane::Data::Clips::Groups::AnglesGroup> items_;
+};
+
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "Domain/HighLevelOperations/Commands/CommandParams.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+
+/// Asks for the states of all channels.
+struct GetChannelsCommandParams : CommandParams
+{
+    bool operator==(GetChannelsCommandParams const&) const = default;
+};
+
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "Domain/HighLevelOperations/Commands/CommandParams.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+
+/// Asks for the overrides of the multiviewer.
+struct GetMultiviewerDataCommandParams : CommandParams
+{
+    bool operator==(GetMultiviewerDataCommandParams const&) const = default;
+};
+
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands

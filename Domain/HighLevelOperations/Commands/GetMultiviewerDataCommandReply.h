@@ -1,0 +1,24 @@
+#pragma once
+
+#include "Domain/CorvaneData/Channels/Guid.h"
+#include "Domain/CorvaneData/Multiviewer/PlayerDataOverrides.h"
+#include "Domain/CorvaneData/OperationStatus.h"
+#include "Domain/HighLevelOperations/Commands/CommandReply.h"
+
+#include <map>
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+
+/// The overrides of the multiviewer.
+struct GetMultiviewerDataCommandReply : CommandReply
+{
+    ReplyType GetType() const noexcept override { return ReplyType::GetMultiviewerData; }
+
+    bool operator==(GetMultiviewerDataCommandReply const&) const = default;
+
+    std::map<Corvane::Data::Channels::Guid, Multiviewer::PlayerDataOverrides> playersDataOverrides;
+    Corvane::Data::OperationStatus operationStatus;
+};
+
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "Domain/CorvaneData/Sequences/Playlist.h"
+#include "Domain/HighLevelOperations/Commands/CommandReply.h"
+
+#include <cstdint>
+#include <utility>
+#include <vector>
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+
+/// The playlists that were asked for.
+struct GetPlaylistsCommandReply : CommandReply
+{
+    GetPlaylistsCommandReply(Corvane::Data::Guid const& guid, long long revisionNumber,
+                             std::vector<Corvane::Data::Sequences::Playlist>&& items)
+        : CommandReply(guid)
+        , revision(revisionNumber)
+        , playlists(std::move(items))
+    {
+    }
+
+    ReplyType GetType() const noexcept override { return ReplyType::GetPlaylists; }
+
+    bool operator==(GetPlaylistsCommandReply const&) const = default;
+
+    std::int64_t revision; ///< of the server's database
+    std::vector<Corvane::Data::Sequences::Playlist> playlists;
+};
+
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands

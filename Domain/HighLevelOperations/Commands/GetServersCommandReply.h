@@ -1,0 +1,21 @@
+#pragma once
+
+#include "Domain/CorvaneData/Servers/ServerInfo.h"
+#include "Domain/HighLevelOperations/Commands/CommandReply.h"
+
+#include <vector>
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+
+/// The descriptions of servers.
+struct GetServersCommandReply : CommandReply
+{
+    ReplyType GetType() const noexcept override { return ReplyType::GetServers; }
+
+    bool operator==(GetServersCommandReply const&) const = default;
+
+    std::vector<Corvane::Data::Servers::ServerInfo> servers;
+};
+
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands

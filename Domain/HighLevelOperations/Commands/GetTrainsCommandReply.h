@@ -1,0 +1,21 @@
+#pragma once
+
+#include "Domain/CorvaneData/Clips/Train.h"
+#include "Domain/HighLevelOperations/Commands/CommandReply.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+
+/// All trains. Can be moved, not copied.
+struct GetTrainsCommandReply : CommandReply
+{
+    ReplyType GetType() const noexcept override { return ReplyType::GetTrains; }
+
+    std::int64_t dbRevision = 0; ///< of the server's database
+    std::vector<Corvane::Data::Clips::Train> trains;
+};
+
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands

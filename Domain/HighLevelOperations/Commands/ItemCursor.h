@@ -1,0 +1,43 @@
+#pragma once
+
+#include <cstddef>
+#include <list>
+#include <memory>
+#include <utility>
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+
+/// A list that is read once, from front to back. Copies share the items, which nobody changes, and each stands where the
+/// one it was copied from stood.
+template<typename T>
+class ItemCursor
+{
+public:
+    explicit ItemCursor(std::list<T>&& items)
+        : items_(std::make_shared<std::list<T> const>(std::move(items)))
+        , next_(items_->begin())
+        , remainingCount_(items_->size())
+    {
+    }
+
+    bool MoveNext() const noexcept
+    {
+        if (remainingCount_ == 0) return false;
+        current_ = next_++;
+        --remainingCount_;
+        return true;
+    }
+
+    T const& Current() const noexcept { return *current_; }
+
+    std::size_t RemainingCount() const noexcept { return remainingCount_; }
+
+private:
+    std::shared_ptr<std::list<T> const> items_;
+    mutable typename std::list<T>::const_iterator current_;
+    mutable typename std::list<T>::const_iterator next_;
+    mutable std::size_t remainingCount_;
+};
+
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "Domain/CorvaneData/Channels/Guid.h"
+#include "Domain/HighLevelOperations/Commands/CommandParams.h"
+
+#include <unordered_set>
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+
+/// Starts recorders. The wire calls it `StartRecordingCommandParams`.
+struct StartCommandParams : CommandParams
+{
+    bool operator==(StartCommandParams const&) const = default;
+
+    std::unordered_set<Corvane::Data::Channels::Guid> recorders;
+};
+
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "Domain/HighLevelOperations/Commands/CommandReply.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+
+/// The command was carried out.
+struct SuccessReply : CommandReply
+{
+    ReplyType GetType() const noexcept override { return ReplyType::Success; }
+
+    bool operator==(SuccessReply const&) const = default;
+};
+
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands

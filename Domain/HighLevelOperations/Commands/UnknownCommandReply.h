@@ -1,0 +1,27 @@
+#pragma once
+
+#include "Domain/HighLevelOperations/Commands/CommandReply.h"
+
+#include <string>
+#include <utility>
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+
+/// The server does not know the command.
+struct UnknownCommandReply : CommandReply
+{
+    UnknownCommandReply(Corvane::Data::Guid const& guid, std::string text)
+        : CommandReply(guid)
+        , commandType(std::move(text))
+    {
+    }
+
+    ReplyType GetType() const noexcept override { return ReplyType::Unknown; }
+
+    bool operator==(UnknownCommandReply const&) const = default;
+
+    std::string commandType; ///< as the server received it
+};
+
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "Domain/CorvaneData/Sequences/Playlist.h"
+#include "Domain/HighLevelOperations/Commands/CommandParams.h"
+
+#include <vector>
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+
+/// Asks for playlists to be changed.
+struct UpdatePlaylistsCommandParams : CommandParams
+{
+    /// Spelled so.
+    struct UpdatPlaylistsParams
+    {
+        Corvane::Data::Sequences::Playlist oldPlaylist;
+        Corvane::Data::Sequences::Playlist newPlaylist;
+
+        bool operator==(UpdatPlaylistsParams const&) const = default;
+    };
+
+    bool operator==(UpdatePlaylistsCommandParams const&) const = default;
+
+    std::vector<UpdatPlaylistsParams> params;
+};
+
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct ChainCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class ChainCommandParams;
+} // namespace Generated
+
+/// Writes a domain `ChainCommandParams` into the wire record `ChainCommandParams`. It can't fail.
+///
+/// Entries are stored among those that the destination holds, where they replace one of the same channel; none leaves
+/// the flag as it was.
+class ChainCommandParamsToThriftConverter
+    : public Converter<HighLevelOperations::Commands::ChainCommandParams, Generated::ChainCommandParams>
+{
+public:
+    ~ChainCommandParamsToThriftConverter() override = default;
+
+    ConversionResult To(HighLevelOperations::Commands::ChainCommandParams const& source,
+                        Generated::ChainCommandParams& destination) const noexcept override;
+
+    ConversionResult To(HighLevelOperations::Commands::ChainCommandParams&& source,
+                        Generated::ChainCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct ChannelCommandReply;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class ChannelCommandReply;
+} // namespace Generated
+
+/// Writes a domain `ChannelCommandReply` into the wire record `ChannelCommandReply`. It can't fail.
+///
+/// Results are appended to those that the destination holds. A reply without results sends the one in its first slot.
+class ChannelCommandReplyToThriftConverter
+    : public Converter<HighLevelOperations::Commands::ChannelCommandReply, Generated::ChannelCommandReply>
+{
+public:
+    ~ChannelCommandReplyToThriftConverter() override = default;
+
+    ConversionResult To(HighLevelOperations::Commands::ChannelCommandReply const& source,
+                        Generated::ChannelCommandReply& destination) const noexcept override;
+
+    ConversionResult To(HighLevelOperations::Commands::ChannelCommandReply&& source,
+                        Generated::ChannelCommandReply& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

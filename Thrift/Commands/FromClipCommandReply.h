@@ -1,0 +1,37 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct ClipCommandReply;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class ClipCommandReply;
+} // namespace Generated
+
+/// Writes a domain `ClipCommandReply` into the wire record `ClipCommandReply`. It can't fail.
+///
+/// Items are appended to those that the destination holds; the list's flag is set also without any.
+class ClipCommandReplyToThriftConverter
+    : public Converter<HighLevelOperations::Commands::ClipCommandReply, Generated::ClipCommandReply>
+{
+public:
+    ~ClipCommandReplyToThriftConverter() override = default;
+
+    ConversionResult To(HighLevelOperations::Commands::ClipCommandReply const& source,
+                        Generated::ClipCommandReply& destination) const noexcept override;
+
+    ConversionResult To(HighLevelOperations::Commands::ClipCommandReply&& source,
+                        Generated::ClipCommandReply& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

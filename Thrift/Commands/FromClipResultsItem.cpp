@@ -1,0 +1,32 @@
+#include "Thrift/Commands/FromClipResultsItem.h"
+
+#include "Domain/HighLevelOperations/Commands/ClipResultsItem.h"
+#include "Thrift/Data/Clips/FromClip.h"
+#include "Thrift/Data/FromOperationStatus.h"
+#include "Thrift/Detail/Flagged.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/ClipResultsItem_types.h"
+
+#include <tuple>
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+using namespace Detail;
+
+ConversionResult ClipResultsItemToThriftConverter::To(HighLevelOperations::Commands::ClipResultsItem const& source,
+                                                      Generated::ClipResultsItem& destination) const noexcept
+{
+    Data::OperationStatusToThriftConverter const fromStatus;
+    Data::Clips::ClipToThriftConverter const fromClip;
+
+    std::ignore = fromStatus.To(source.OperationStatus(), TALVO_FLAGGED(destination, operationStatus));
+    // Only the clip of an item that succeeded travels, and none that holds nothing but defaults.
+    auto const& clip = source.Clip();
+    bool const hasClip = clip != Corvane::Data::Clips::Clip::Empty();
+    if (hasClip) std::ignore = fromClip.To(clip, destination.clip);
+    destination.__isset.clip = hasClip;
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct CreateAnglesGroupCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class CreateAnglesGroupCommandParams;
+} // namespace Generated
+
+/// Writes a domain `CreateAnglesGroupCommandParams` into the wire record `CreateAnglesGroupCommandParams`. It can't
+/// fail. The clips' own command travels with an identifier of its own.
+class CreateAnglesGroupCommandParamsToThriftConverter
+    : public Converter<HighLevelOperations::Commands::CreateAnglesGroupCommandParams,
+                       Generated::CreateAnglesGroupCommandParams>
+{
+public:
+    ~CreateAnglesGroupCommandParamsToThriftConverter() override = default;
+
+    ConversionResult To(HighLevelOperations::Commands::CreateAnglesGroupCommandParams const& source,
+                        Generated::CreateAnglesGroupCommandParams& destination) const noexcept override;
+
+    ConversionResult To(HighLevelOperations::Commands::CreateAnglesGroupCommandParams&& source,
+                        Generated::CreateAnglesGroupCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

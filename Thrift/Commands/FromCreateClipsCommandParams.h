@@ -1,0 +1,38 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct CreateClipsCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class CreateClipsCommandParams;
+} // namespace Generated
+
+/// Writes a domain `CreateClipsCommandParams` into the wire record `CreateClipsCommandParams`. It can't fail.
+///
+/// The list is appended to what the destination holds; an empty one leaves the wire's flag as it was. What a nested
+/// conversion reports is not looked at.
+class CreateClipsCommandParamsToThriftConverter
+    : public Converter<HighLevelOperations::Commands::CreateClipsCommandParams, Generated::CreateClipsCommandParams>
+{
+public:
+    ~CreateClipsCommandParamsToThriftConverter() override = default;
+
+    ConversionResult To(HighLevelOperations::Commands::CreateClipsCommandParams const& source,
+                        Generated::CreateClipsCommandParams& destination) const noexcept override;
+
+    ConversionResult To(HighLevelOperations::Commands::CreateClipsCommandParams&& source,
+                        Generated::CreateClipsCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct DeleteClipsCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class DeleteClipsCommandParams;
+} // namespace Generated
+
+/// Writes a domain `DeleteClipsCommandParams` into the wire record `DeleteClipsCommandParams`. It can't fail.
+///
+/// The identifiers are appended to those that the destination holds; none leaves the wire's flag as it was.
+class DeleteClipsCommandParamsToThriftConverter
+    : public Converter<HighLevelOperations::Commands::DeleteClipsCommandParams, Generated::DeleteClipsCommandParams>
+{
+public:
+    ~DeleteClipsCommandParamsToThriftConverter() override = default;
+
+    ConversionResult To(HighLevelOperations::Commands::DeleteClipsCommandParams const& source,
+                        Generated::DeleteClipsCommandParams& destination) const noexcept override;
+
+    ConversionResult To(HighLevelOperations::Commands::DeleteClipsCommandParams&& source,
+                        Generated::DeleteClipsCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

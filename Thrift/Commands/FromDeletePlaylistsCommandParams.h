@@ -1,0 +1,38 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct DeletePlaylistsCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class DeletePlaylistsCommandParams;
+} // namespace Generated
+
+/// Writes a domain `DeletePlaylistsCommandParams` into the wire record `DeletePlaylistsCommandParams`. It can't fail.
+///
+/// The identifiers are appended to those that the destination holds; none leaves the wire's flag as it was.
+class DeletePlaylistsCommandParamsToThriftConverter
+    : public Converter<HighLevelOperations::Commands::DeletePlaylistsCommandParams,
+                       Generated::DeletePlaylistsCommandParams>
+{
+public:
+    ~DeletePlaylistsCommandParamsToThriftConverter() override = default;
+
+    ConversionResult To(HighLevelOperations::Commands::DeletePlaylistsCommandParams const& source,
+                        Generated::DeletePlaylistsCommandParams& destination) const noexcept override;
+
+    ConversionResult To(HighLevelOperations::Commands::DeletePlaylistsCommandParams&& source,
+                        Generated::DeletePlaylistsCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,24 @@
+#include "Thrift/Commands/FromDialCommandParams.h"
+
+#include "Domain/HighLevelOperations/Commands/DialCommandParams.h"
+#include "Thrift/Detail/ByChannel.h"
+#include "Thrift/Detail/Flagged.h"
+#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/DialCommandParams_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+using namespace Detail;
+
+ConversionResult DialCommandParamsToThriftConverter::To(HighLevelOperations::Commands::DialCommandParams const& source,
+                                                        Generated::DialCommandParams& destination) const noexcept
+{
+    SendGuid(source.commandGuid, TALVO_FLAGGED(destination, commandGuid));
+    if (SendChannels(source.players, destination.players)) destination.__isset.players = true;
+    destination.__set_velocity(source.velocity); // its flag stays as it is
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

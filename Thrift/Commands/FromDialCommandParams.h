@@ -1,0 +1,38 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct DialCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class DialCommandParams;
+} // namespace Generated
+
+/// Writes a domain `DialCommandParams` into the wire record `DialCommandParams`. It can't fail.
+///
+/// Channels are added to those that the destination holds; none leaves the flag as it was. `velocity` is written with
+/// its flag as it was.
+class DialCommandParamsToThriftConverter
+    : public Converter<HighLevelOperations::Commands::DialCommandParams, Generated::DialCommandParams>
+{
+public:
+    ~DialCommandParamsToThriftConverter() override = default;
+
+    ConversionResult To(HighLevelOperations::Commands::DialCommandParams const& source,
+                        Generated::DialCommandParams& destination) const noexcept override;
+
+    ConversionResult To(HighLevelOperations::Commands::DialCommandParams&& source,
+                        Generated::DialCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,36 @@
+#include "Thrift/Commands/FromGetAnglesGroupsCommandReply.h"
+
+#include "Domain/HighLevelOperations/Commands/GetAnglesGroupsCommandReply.h"
+#include "Thrift/Data/Clips/FromAnglesGroup.h"
+#include "Thrift/Detail/Flagged.h"
+#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Lists.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/GetAnglesGroupsCommandReply_types.h"
+
+#include <tuple>
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+using namespace Detail;
+
+ConversionResult GetAnglesGroupsCommandReplyToThriftConverter::To(
+    HighLevelOperations::Commands::GetAnglesGroupsCommandReply const& source,
+    Generated::GetAnglesGroupsCommandReply& destination) const noexcept
+{
+    Data::Clips::AnglesGroupToThriftConverter const fromItem;
+
+    SendGuid(source.commandGuid, TALVO_FLAGGED(destination, guid));
+    // From wherever the cursor stands to the end. What an item reports is not looked at.
+    ReserveMore(destination.groups, source.RemainingCount());
+    while (source.MoveNext())
+    {
+        std::ignore = fromItem.To(source.CurrentAnglesGroup(), destination.groups.emplace_back());
+        destination.__isset.groups = true;
+    }
+    TALVO_FLAGGED(destination, revision) = source.revision;
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

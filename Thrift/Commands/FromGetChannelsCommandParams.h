@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct GetChannelsCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class GetChannelsCommandParams;
+} // namespace Generated
+
+/// Writes a domain `GetChannelsCommandParams` into the wire record `GetChannelsCommandParams`. It can't fail. Only the
+/// identifier travels.
+class GetChannelsCommandParamsToThriftConverter
+    : public Converter<HighLevelOperations::Commands::GetChannelsCommandParams, Generated::GetChannelsCommandParams>
+{
+public:
+    ~GetChannelsCommandParamsToThriftConverter() override = default;
+
+    ConversionResult To(HighLevelOperations::Commands::GetChannelsCommandParams const& source,
+                        Generated::GetChannelsCommandParams& destination) const noexcept override;
+
+    ConversionResult To(HighLevelOperations::Commands::GetChannelsCommandParams&& source,
+                        Generated::GetChannelsCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

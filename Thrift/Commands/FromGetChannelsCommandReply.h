@@ -1,0 +1,39 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct GetChannelsCommandReply;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class GetChannelsCommandReply;
+} // namespace Generated
+
+/// Writes a domain `GetChannelsCommandReply` into the wire record `GetChannelsCommandReply`. It can't fail, and what
+/// the conversion of a state reports is not looked at.
+///
+/// States are stored among those that the destination holds, where they replace one of the same channel. The flags of
+/// both maps stay as they were.
+class GetChannelsCommandReplyToThriftConverter
+    : public Converter<HighLevelOperations::Commands::GetChannelsCommandReply, Generated::GetChannelsCommandReply>
+{
+public:
+    ~GetChannelsCommandReplyToThriftConverter() override = default;
+
+    ConversionResult To(HighLevelOperations::Commands::GetChannelsCommandReply const& source,
+                        Generated::GetChannelsCommandReply& destination) const noexcept override;
+
+    ConversionResult To(HighLevelOperations::Commands::GetChannelsCommandReply&& source,
+                        Generated::GetChannelsCommandReply& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct GetClipsCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class GetClipsCommandParams;
+} // namespace Generated
+
+/// Writes a domain `GetClipsCommandParams` into the wire record `GetClipsCommandParams`. It can't fail. Only the
+/// identifier travels.
+class GetClipsCommandParamsToThriftConverter
+    : public Converter<HighLevelOperations::Commands::GetClipsCommandParams, Generated::GetClipsCommandParams>
+{
+public:
+    ~GetClipsCommandParamsToThriftConverter() override = default;
+
+    ConversionResult To(HighLevelOperations::Commands::GetClipsCommandParams const& source,
+                        Generated::GetClipsCommandParams& destination) const noexcept override;
+
+    ConversionResult To(HighLevelOperations::Commands::GetClipsCommandParams&& source,
+                        Generated::GetClipsCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct GetMultiviewerDataCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class GetMultiviewerDataCommandParams;
+} // namespace Generated
+
+/// Writes a domain `GetMultiviewerDataCommandParams` into the wire record `GetMultiviewerDataCommandParams`. Its result
+/// is that of the identifier, which can't fail.
+class GetMultiviewerDataCommandParamsToThriftConverter
+    : public Converter<HighLevelOperations::Commands::GetMultiviewerDataCommandParams,
+                       Generated::GetMultiviewerDataCommandParams>
+{
+public:
+    ~GetMultiviewerDataCommandParamsToThriftConverter() override = default;
+
+    ConversionResult To(HighLevelOperations::Commands::GetMultiviewerDataCommandParams const& source,
+                        Generated::GetMultiviewerDataCommandParams& destination) const noexcept override;
+
+    ConversionResult To(HighLevelOperations::Commands::GetMultiviewerDataCommandParams&& source,
+                        Generated::GetMultiviewerDataCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,46 @@
+#include "Thrift/Commands/FromGetPlaylistsCommandParams.h"
+
+#include "Domain/HighLevelOperations/Commands/GetPlaylistsCommandParams.h"
+#include "Thrift/Detail/Flagged.h"
+#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/GetPlaylistsCommandParams_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+using namespace Detail;
+using ElementMode = HighLevelOperations::Commands::GetPlaylistsCommandParams::ElementMode;
+
+namespace
+{
+
+Generated::ElementConversionMode::type Mode(ElementMode const mode) noexcept
+{
+    switch (mode)
+    {
+    case ElementMode::Lazy:
+        return Generated::ElementConversionMode::Lazy;
+    case ElementMode::OnlyRelative:
+        return Generated::ElementConversionMode::OnlyRelative;
+    default: // unknown modes too
+        return Generated::ElementConversionMode::Normal;
+    }
+}
+
+} // namespace
+
+ConversionResult
+GetPlaylistsCommandParamsToThriftConverter::To(HighLevelOperations::Commands::GetPlaylistsCommandParams const& source,
+                                               Generated::GetPlaylistsCommandParams& destination) const noexcept
+{
+    SendGuid(source.commandGuid, TALVO_FLAGGED(destination, commandGuid));
+    TALVO_FLAGGED(destination, elementMode) = Mode(source.elementMode);
+    // The flag follows the filter, also to false: a record that is used again keeps no stale one.
+    bool const hasFilter = source.idFilter != Corvane::Data::Sequences::Guid::Empty();
+    if (hasFilter) SendGuid(source.idFilter, destination.idFilter);
+    destination.__isset.idFilter = hasFilter;
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct GetPlaylistsCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class GetPlaylistsCommandParams;
+} // namespace Generated
+
+/// Writes a domain `GetPlaylistsCommandParams` into the wire record `GetPlaylistsCommandParams`. It can't fail. A mode
+/// outside its enumeration travels as `Normal`; an empty filter clears the wire's flag.
+class GetPlaylistsCommandParamsToThriftConverter
+    : public Converter<HighLevelOperations::Commands::GetPlaylistsCommandParams, Generated::GetPlaylistsCommandParams>
+{
+public:
+    ~GetPlaylistsCommandParamsToThriftConverter() override = default;
+
+    ConversionResult To(HighLevelOperations::Commands::GetPlaylistsCommandParams const& source,
+                        Generated::GetPlaylistsCommandParams& destination) const noexcept override;
+
+    ConversionResult To(HighLevelOperations::Commands::GetPlaylistsCommandParams&& source,
+                        Generated::GetPlaylistsCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,29 @@
+#include "Thrift/Commands/FromGetServersCommandReply.h"
+
+#include "Domain/HighLevelOperations/Commands/GetServersCommandReply.h"
+#include "Thrift/Data/Servers/FromServerInfo.h"
+#include "Thrift/Detail/Flagged.h"
+#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Lists.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/GetServersCommandReply_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+using namespace Detail;
+
+ConversionResult
+GetServersCommandReplyToThriftConverter::To(HighLevelOperations::Commands::GetServersCommandReply const& source,
+                                            Generated::GetServersCommandReply& destination) const noexcept
+{
+    Data::Servers::ServerInfoToThriftConverter const fromServer;
+
+    SendGuid(source.commandGuid, TALVO_FLAGGED(destination, guid));
+    if (auto const result = AppendEach(fromServer, source.servers, destination.servers); !result.success)
+        return Nested(result);
+    if (!source.servers.empty()) destination.__isset.servers = true;
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

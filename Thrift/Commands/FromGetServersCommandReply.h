@@ -1,0 +1,40 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct GetServersCommandReply;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class GetServersCommandReply;
+} // namespace Generated
+
+/// Writes a domain `GetServersCommandReply` into the wire record `GetServersCommandReply`.
+///
+/// Items are appended to those that the destination holds; the list's flag is set only if there is any.
+///
+/// Failures: any of ServerInfoToThriftConverter, with the items before it left in the destination and the list's flag
+/// as it was.
+class GetServersCommandReplyToThriftConverter
+    : public Converter<HighLevelOperations::Commands::GetServersCommandReply, Generated::GetServersCommandReply>
+{
+public:
+    ~GetServersCommandReplyToThriftConverter() override = default;
+
+    ConversionResult To(HighLevelOperations::Commands::GetServersCommandReply const& source,
+                        Generated::GetServersCommandReply& destination) const noexcept override;
+
+    ConversionResult To(HighLevelOperations::Commands::GetServersCommandReply&& source,
+                        Generated::GetServersCommandReply& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct GetTrainsCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class GetTrainsCommandParams;
+} // namespace Generated
+
+/// Writes a domain `GetTrainsCommandParams` into the wire record `GetTrainsCommandParams`. It can't fail. Only the
+/// identifier travels.
+class GetTrainsCommandParamsToThriftConverter
+    : public Converter<HighLevelOperations::Commands::GetTrainsCommandParams, Generated::GetTrainsCommandParams>
+{
+public:
+    ~GetTrainsCommandParamsToThriftConverter() override = default;
+
+    ConversionResult To(HighLevelOperations::Commands::GetTrainsCommandParams const& source,
+                        Generated::GetTrainsCommandParams& destination) const noexcept override;
+
+    ConversionResult To(HighLevelOperations::Commands::GetTrainsCommandParams&& source,
+                        Generated::GetTrainsCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct GoIdleCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class GoIdleCommandParams;
+} // namespace Generated
+
+/// Writes a domain `GoIdleCommandParams` into the wire record `GoIdleCommandParams`. It can't fail.
+///
+/// Channels are added to those that the destination holds; none leaves the flag as it was. `setBlackScreen` is written
+/// with its flag as it was.
+class GoIdleCommandParamsToThriftConverter
+    : public Converter<HighLevelOperations::Commands::GoIdleCommandParams, Generated::GoIdleCommandParams>
+{
+public:
+    ~GoIdleCommandParamsToThriftConverter() override = default;
+
+    ConversionResult To(HighLevelOperations::Commands::GoIdleCommandParams const& source,
+                        Generated::GoIdleCommandParams& destination) const noexcept override;
+
+    ConversionResult To(HighLevelOperations::Commands::GoIdleCommandParams&& source,
+                        Generated::GoIdleCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct LiveCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class LiveCommandParams;
+} // namespace Generated
+
+/// Writes a domain `LiveCommandParams` into the wire record `LiveCommandParams`. It can't fail.
+///
+/// Entries are stored among those that the destination holds, where they replace one of the same channel; none leaves
+/// the flag as it was.
+class LiveCommandParamsToThriftConverter
+    : public Converter<HighLevelOperations::Commands::LiveCommandParams, Generated::LiveCommandParams>
+{
+public:
+    ~LiveCommandParamsToThriftConverter() override = default;
+
+    ConversionResult To(HighLevelOperations::Commands::LiveCommandParams const& source,
+                        Generated::LiveCommandParams& destination) const noexcept override;
+
+    ConversionResult To(HighLevelOperations::Commands::LiveCommandParams&& source,
+                        Generated::LiveCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

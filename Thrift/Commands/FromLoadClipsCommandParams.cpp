@@ -1,0 +1,41 @@
+#include "Thrift/Commands/FromLoadClipsCommandParams.h"
+
+#include "Domain/HighLevelOperations/Commands/LoadClipsCommandParams.h"
+#include "Thrift/Detail/Boundaries.h"
+#include "Thrift/Detail/ByChannel.h"
+#include "Thrift/Detail/Flagged.h"
+#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/LoadClipsCommandParams_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+using namespace Detail;
+using HighLevelOperations::Commands::LoadClipsCommandParams;
+
+namespace
+{
+
+/// Only the time point has its flag set; the others stay as they are.
+void SendParam(LoadClipsCommandParams::PlayerParam const& source, Generated::LoadClipCommandParam& destination)
+{
+    SendGuid(source.clip, destination.clip);
+    TALVO_FLAGGED(destination, timepoint) = source.timepoint.position;
+    SendBoundary(source.inBoundary, destination.inBoundary);
+    SendBoundary(source.outBoundary, destination.outBoundary);
+}
+
+} // namespace
+
+ConversionResult
+LoadClipsCommandParamsToThriftConverter::To(HighLevelOperations::Commands::LoadClipsCommandParams const& source,
+                                            Generated::LoadClipsCommandParams& destination) const noexcept
+{
+    SendGuid(source.commandGuid, TALVO_FLAGGED(destination, commandGuid));
+    if (SendByChannel(source.playersParameters, destination.playersParameters, SendParam))
+        destination.__isset.playersParameters = true;
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

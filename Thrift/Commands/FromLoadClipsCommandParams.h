@@ -1,0 +1,38 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct LoadClipsCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class LoadClipsCommandParams;
+} // namespace Generated
+
+/// Writes a domain `LoadClipsCommandParams` into the wire record `LoadClipsCommandParams`. It can't fail.
+///
+/// Entries are stored among those that the destination holds, where they replace one of the same channel; none leaves
+/// the flag as it was. Of an entry's fields only `timepoint` has its flag set.
+class LoadClipsCommandParamsToThriftConverter
+    : public Converter<HighLevelOperations::Commands::LoadClipsCommandParams, Generated::LoadClipsCommandParams>
+{
+public:
+    ~LoadClipsCommandParamsToThriftConverter() override = default;
+
+    ConversionResult To(HighLevelOperations::Commands::LoadClipsCommandParams const& source,
+                        Generated::LoadClipsCommandParams& destination) const noexcept override;
+
+    ConversionResult To(HighLevelOperations::Commands::LoadClipsCommandParams&& source,
+                        Generated::LoadClipsCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,39 @@
+#include "Thrift/Commands/FromLoadSequencesCommandParams.h"
+
+#include "Domain/HighLevelOperations/Commands/LoadSequencesCommandParams.h"
+#include "Thrift/Detail/ByChannel.h"
+#include "Thrift/Detail/Flagged.h"
+#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/LoadSequencesCommandParams_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+using namespace Detail;
+using HighLevelOperations::Commands::LoadSequencesCommandParams;
+
+namespace
+{
+
+/// The flag of the sequence stays as it is.
+void SendParam(LoadSequencesCommandParams::PlayerParam const& source, Generated::LoadSequenceCommandParam& destination)
+{
+    SendGuid(source.sequence, destination.sequence);
+    TALVO_FLAGGED(destination, durationFromBeginning) = source.durationFromBeginning;
+    TALVO_FLAGGED(destination, isForDiffusion) = source.isForDiffusion;
+}
+
+} // namespace
+
+ConversionResult
+LoadSequencesCommandParamsToThriftConverter::To(HighLevelOperations::Commands::LoadSequencesCommandParams const& source,
+                                                Generated::LoadSequencesCommandParams& destination) const noexcept
+{
+    SendGuid(source.commandGuid, TALVO_FLAGGED(destination, commandGuid));
+    if (SendByChannel(source.playersParameters, destination.playersParameters, SendParam))
+        destination.__isset.playersParameters = true;
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct PlayCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class PlayCommandParams;
+} // namespace Generated
+
+/// Writes a domain `PlayCommandParams` into the wire record `PlayCommandParams`. It can't fail.
+///
+/// Channels are added to those that the destination holds; none leaves the flag as it was. A speed of which numerator
+/// or denominator is 0 stays off the wire as a pair.
+class PlayCommandParamsToThriftConverter
+    : public Converter<HighLevelOperations::Commands::PlayCommandParams, Generated::PlayCommandParams>
+{
+public:
+    ~PlayCommandParamsToThriftConverter() override = default;
+
+    ConversionResult To(HighLevelOperations::Commands::PlayCommandParams const& source,
+                        Generated::PlayCommandParams& destination) const noexcept override;
+
+    ConversionResult To(HighLevelOperations::Commands::PlayCommandParams&& source,
+                        Generated::PlayCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,28 @@
+#include "Thrift/Commands/FromPlaylistCommandReply.h"
+
+#include "Domain/HighLevelOperations/Commands/PlaylistCommandReply.h"
+#include "Thrift/Commands/FromPlaylistResultsItem.h"
+#include "Thrift/Detail/Flagged.h"
+#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Lists.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/PlaylistCommandReply_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+using namespace Detail;
+
+ConversionResult
+PlaylistCommandReplyToThriftConverter::To(HighLevelOperations::Commands::PlaylistCommandReply const& source,
+                                          Generated::PlaylistCommandReply& destination) const noexcept
+{
+    PlaylistResultsItemToThriftConverter const fromItem;
+
+    SendGuid(source.commandGuid, TALVO_FLAGGED(destination, guid));
+    AppendAll(fromItem, source.results, destination.results);
+    destination.__isset.results = true; // also without any item
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

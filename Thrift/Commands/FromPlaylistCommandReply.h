@@ -1,0 +1,37 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct PlaylistCommandReply;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class PlaylistCommandReply;
+} // namespace Generated
+
+/// Writes a domain `PlaylistCommandReply` into the wire record `PlaylistCommandReply`. It can't fail.
+///
+/// Items are appended to those that the destination holds; the list's flag is set also without any.
+class PlaylistCommandReplyToThriftConverter
+    : public Converter<HighLevelOperations::Commands::PlaylistCommandReply, Generated::PlaylistCommandReply>
+{
+public:
+    ~PlaylistCommandReplyToThriftConverter() override = default;
+
+    ConversionResult To(HighLevelOperations::Commands::PlaylistCommandReply const& source,
+                        Generated::PlaylistCommandReply& destination) const noexcept override;
+
+    ConversionResult To(HighLevelOperations::Commands::PlaylistCommandReply&& source,
+                        Generated::PlaylistCommandReply& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+class PlaylistResultsItem;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class PlaylistResultsItem;
+} // namespace Generated
+
+/// Writes a domain `PlaylistResultsItem` into the wire record `PlaylistResultsItem`. It can't fail.
+///
+/// A held playlist travels whatever the status is and whatever it holds; without one the wire's flag is cleared.
+class PlaylistResultsItemToThriftConverter
+    : public Converter<HighLevelOperations::Commands::PlaylistResultsItem, Generated::PlaylistResultsItem>
+{
+public:
+    ~PlaylistResultsItemToThriftConverter() override = default;
+
+    ConversionResult To(HighLevelOperations::Commands::PlaylistResultsItem const& source,
+                        Generated::PlaylistResultsItem& destination) const noexcept override;
+
+    ConversionResult To(HighLevelOperations::Commands::PlaylistResultsItem&& source,
+                        Generated::PlaylistResultsItem& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

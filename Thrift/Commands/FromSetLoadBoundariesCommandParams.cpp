@@ -1,0 +1,39 @@
+#include "Thrift/Commands/FromSetLoadBoundariesCommandParams.h"
+
+#include "Domain/HighLevelOperations/Commands/SetLoadBoundariesCommandParams.h"
+#include "Thrift/Detail/Boundaries.h"
+#include "Thrift/Detail/ByChannel.h"
+#include "Thrift/Detail/Flagged.h"
+#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/SetLoadBoundariesCommandParams_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+using namespace Detail;
+using HighLevelOperations::Commands::SetLoadBoundariesCommandParams;
+
+namespace
+{
+
+void SendParam(SetLoadBoundariesCommandParams::PlayerParam const& source,
+               Generated::SetLoadBoundariesCommandParam& destination)
+{
+    SendBoundary(source.inBoundary, TALVO_FLAGGED(destination, inBoundary));
+    SendBoundary(source.outBoundary, TALVO_FLAGGED(destination, outBoundary));
+}
+
+} // namespace
+
+ConversionResult SetLoadBoundariesCommandParamsToThriftConverter::To(
+    HighLevelOperations::Commands::SetLoadBoundariesCommandParams const& source,
+    Generated::SetLoadBoundariesCommandParams& destination) const noexcept
+{
+    SendGuid(source.commandGuid, TALVO_FLAGGED(destination, commandGuid));
+    if (SendByChannel(source.playersParameters, destination.playersParameters, SendParam))
+        destination.__isset.playersParameters = true;
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

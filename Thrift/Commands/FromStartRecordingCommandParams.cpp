@@ -1,0 +1,24 @@
+#include "Thrift/Commands/FromStartRecordingCommandParams.h"
+
+#include "Domain/HighLevelOperations/Commands/StartCommandParams.h"
+#include "Thrift/Detail/ByChannel.h"
+#include "Thrift/Detail/Flagged.h"
+#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/StartRecordingCommandParams_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+using namespace Detail;
+
+ConversionResult
+StartRecordingCommandParamsToThriftConverter::To(HighLevelOperations::Commands::StartCommandParams const& source,
+                                                 Generated::StartRecordingCommandParams& destination) const noexcept
+{
+    SendGuid(source.commandGuid, TALVO_FLAGGED(destination, commandGuid));
+    if (SendChannels(source.recorders, destination.recorders)) destination.__isset.recorders = true;
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

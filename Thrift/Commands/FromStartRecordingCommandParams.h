@@ -1,0 +1,37 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct StartCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class StartRecordingCommandParams;
+} // namespace Generated
+
+/// Writes a domain `StartCommandParams` into the wire record `StartRecordingCommandParams`. It can't fail.
+///
+/// Channels are added to those that the destination holds; none leaves the flag as it was.
+class StartRecordingCommandParamsToThriftConverter
+    : public Converter<HighLevelOperations::Commands::StartCommandParams, Generated::StartRecordingCommandParams>
+{
+public:
+    ~StartRecordingCommandParamsToThriftConverter() override = default;
+
+    ConversionResult To(HighLevelOperations::Commands::StartCommandParams const& source,
+                        Generated::StartRecordingCommandParams& destination) const noexcept override;
+
+    ConversionResult To(HighLevelOperations::Commands::StartCommandParams&& source,
+                        Generated::StartRecordingCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,24 @@
+#include "Thrift/Commands/FromStepCommandParams.h"
+
+#include "Domain/HighLevelOperations/Commands/StepCommandParams.h"
+#include "Thrift/Detail/ByChannel.h"
+#include "Thrift/Detail/Flagged.h"
+#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/StepCommandParams_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+using namespace Detail;
+
+ConversionResult StepCommandParamsToThriftConverter::To(HighLevelOperations::Commands::StepCommandParams const& source,
+                                                        Generated::StepCommandParams& destination) const noexcept
+{
+    SendGuid(source.commandGuid, TALVO_FLAGGED(destination, commandGuid));
+    if (SendChannels(source.players, destination.players)) destination.__isset.players = true;
+    destination.__set_fieldCount(source.fieldCount); // its flag stays as it is
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct StepCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class StepCommandParams;
+} // namespace Generated
+
+/// Writes a domain `StepCommandParams` into the wire record `StepCommandParams`. It can't fail.
+///
+/// Channels are added to those that the destination holds; none leaves the flag as it was. `fieldCount` is written with
+/// its flag as it was.
+class StepCommandParamsToThriftConverter
+    : public Converter<HighLevelOperations::Commands::StepCommandParams, Generated::StepCommandParams>
+{
+public:
+    ~StepCommandParamsToThriftConverter() override = default;
+
+    ConversionResult To(HighLevelOperations::Commands::StepCommandParams const& source,
+                        Generated::StepCommandParams& destination) const noexcept override;
+
+    ConversionResult To(HighLevelOperations::Commands::StepCommandParams&& source,
+                        Generated::StepCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

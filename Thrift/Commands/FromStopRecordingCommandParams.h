@@ -1,0 +1,37 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct StopCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class StopRecordingCommandParams;
+} // namespace Generated
+
+/// Writes a domain `StopCommandParams` into the wire record `StopRecordingCommandParams`. It can't fail.
+///
+/// Channels are added to those that the destination holds; none leaves the flag as it was.
+class StopRecordingCommandParamsToThriftConverter
+    : public Converter<HighLevelOperations::Commands::StopCommandParams, Generated::StopRecordingCommandParams>
+{
+public:
+    ~StopRecordingCommandParamsToThriftConverter() override = default;
+
+    ConversionResult To(HighLevelOperations::Commands::StopCommandParams const& source,
+                        Generated::StopRecordingCommandParams& destination) const noexcept override;
+
+    ConversionResult To(HighLevelOperations::Commands::StopCommandParams&& source,
+                        Generated::StopRecordingCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

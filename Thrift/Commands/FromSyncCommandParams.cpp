@@ -1,0 +1,27 @@
+#include "Thrift/Commands/FromSyncCommandParams.h"
+
+#include "Domain/HighLevelOperations/Commands/SyncCommandParams.h"
+#include "Thrift/Detail/Boundaries.h"
+#include "Thrift/Detail/ByChannel.h"
+#include "Thrift/Detail/Flagged.h"
+#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/SyncCommandParams_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+using namespace Detail;
+
+ConversionResult SyncCommandParamsToThriftConverter::To(HighLevelOperations::Commands::SyncCommandParams const& source,
+                                                        Generated::SyncCommandParams& destination) const noexcept
+{
+    SendGuid(source.commandGuid, TALVO_FLAGGED(destination, commandGuid));
+    SendGuid(source.sourcePlayer, TALVO_FLAGGED(destination, sourcePlayer));
+    if (SendChannels(source.players, destination.players)) destination.__isset.players = true;
+    SendBoundary(source.inBoundary, TALVO_FLAGGED(destination, inBoundary));
+    SendBoundary(source.outBoundary, TALVO_FLAGGED(destination, outBoundary));
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct SyncCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class SyncCommandParams;
+} // namespace Generated
+
+/// Writes a domain `SyncCommandParams` into the wire record `SyncCommandParams`. It can't fail.
+///
+/// Channels are added to those that the destination holds; none leaves the flag as it was.
+class SyncCommandParamsToThriftConverter
+    : public Converter<HighLevelOperations::Commands::SyncCommandParams, Generated::SyncCommandParams>
+{
+public:
+    ~SyncCommandParamsToThriftConverter() override = default;
+
+    ConversionResult To(HighLevelOperations::Commands::SyncCommandParams const& source,
+                        Generated::SyncCommandParams& destination) const noexcept override;
+
+    ConversionResult To(HighLevelOperations::Commands::SyncCommandParams&& source,
+                        Generated::SyncCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

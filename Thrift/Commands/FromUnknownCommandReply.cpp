@@ -1,0 +1,21 @@
+#include "Thrift/Commands/FromUnknownCommandReply.h"
+
+#include "Domain/HighLevelOperations/Commands/UnknownCommandReply.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/UnknownCommandReply_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+using namespace Detail;
+
+ConversionResult
+UnknownCommandReplyToThriftConverter::To(HighLevelOperations::Commands::UnknownCommandReply const& source,
+                                         Generated::UnknownCommandReply& destination) const noexcept
+{
+    // The identifier does not travel, and the flag stays as it is.
+    destination.__set_commandType(source.commandType);
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct UnknownCommandReply;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class UnknownCommandReply;
+} // namespace Generated
+
+/// Writes a domain `UnknownCommandReply` into the wire record `UnknownCommandReply`. It can't fail.
+///
+/// Lost on the way: the identifier, which the wire record has no field for.
+class UnknownCommandReplyToThriftConverter
+    : public Converter<HighLevelOperations::Commands::UnknownCommandReply, Generated::UnknownCommandReply>
+{
+public:
+    ~UnknownCommandReplyToThriftConverter() override = default;
+
+    ConversionResult To(HighLevelOperations::Commands::UnknownCommandReply const& source,
+                        Generated::UnknownCommandReply& destination) const noexcept override;
+
+    ConversionResult To(HighLevelOperations::Commands::UnknownCommandReply&& source,
+                        Generated::UnknownCommandReply& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct UpdateAnglesGroupCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class UpdateAnglesGroupCommandParams;
+} // namespace Generated
+
+/// Writes a domain `UpdateAnglesGroupCommandParams` into the wire record `UpdateAnglesGroupCommandParams`. It can't
+/// fail. An angle that is missing leaves the wire's flag as it was.
+class UpdateAnglesGroupCommandParamsToThriftConverter
+    : public Converter<HighLevelOperations::Commands::UpdateAnglesGroupCommandParams,
+                       Generated::UpdateAnglesGroupCommandParams>
+{
+public:
+    ~UpdateAnglesGroupCommandParamsToThriftConverter() override = default;
+
+    ConversionResult To(HighLevelOperations::Commands::UpdateAnglesGroupCommandParams const& source,
+                        Generated::UpdateAnglesGroupCommandParams& destination) const noexcept override;
+
+    ConversionResult To(HighLevelOperations::Commands::UpdateAnglesGroupCommandParams&& source,
+                        Generated::UpdateAnglesGroupCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct UpdatePlaylistsCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class UpdatePlaylistsCommandParams;
+} // namespace Generated
+
+/// Writes a domain `UpdatePlaylistsCommandParams` into the wire record `UpdatePlaylistsCommandParams`. It can't fail.
+///
+/// The list is appended to what the destination holds; an empty one leaves the wire's flag as it was. What a nested
+/// conversion reports is not looked at.
+class UpdatePlaylistsCommandParamsToThriftConverter
+    : public Converter<HighLevelOperations::Commands::UpdatePlaylistsCommandParams,
+                       Generated::UpdatePlaylistsCommandParams>
+{
+public:
+    ~UpdatePlaylistsCommandParamsToThriftConverter() override = default;
+
+    ConversionResult To(HighLevelOperations::Commands::UpdatePlaylistsCommandParams const& source,
+                        Generated::UpdatePlaylistsCommandParams& destination) const noexcept override;
+
+    ConversionResult To(HighLevelOperations::Commands::UpdatePlaylistsCommandParams&& source,
+                        Generated::UpdatePlaylistsCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

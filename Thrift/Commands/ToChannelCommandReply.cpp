@@ -1,0 +1,77 @@
+#include "Thrift/Commands/ToChannelCommandReply.h"
+
+#include "Domain/HighLevelOperations/Commands/ChannelCommandReply.h"
+#include "Thrift/Data/ToOperationStatus.h"
+#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/ChannelCommandReply_types.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <tuple>
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+using namespace Detail;
+using HighLevelOperations::Commands::ChannelCommandReply;
+using HighLevelOperations::Commands::ChannelResult;
+
+namespace
+{
+
+/// Puts a result into the slot of its channel, or behind the others; a channel for which there is no slot left is
+/// dropped. Tests at its end: the first slot is looked at even where none counts, so a default channel takes it without
+/// being counted.
+void Put(ChannelCommandReply& reply, ChannelResult const& result) noexcept
+{
+    std::size_t i = 0;
+    do
+    {
+        if (reply.results[i].channel == result.channel)
+        {
+            reply.results[i] = result;
+            return;
+        }
+        ++i;
+    } while (i < reply.results.size() && static_cast<std::int32_t>(i) < reply.resultCount);
+
+    auto const count = static_cast<std::size_t>(reply.resultCount);
+    if (count >= reply.results.size()) return;
+    reply.results[count] = result;
+    ++reply.resultCount;
+}
+
+} // namespace
+
+ConversionResult
+ThriftToChannelCommandReplyConverter::To(Generated::ChannelCommandReply const& source,
+                                         HighLevelOperations::Commands::ChannelCommandReply& destination) const noexcept
+{
+    Data::ThriftToOperationStatusConverter const toStatus;
+    auto const& isset = source.__isset;
+
+    if (!isset.guid && !isset.channelResults) return Failure("ChannelCommandReply is empty");
+    if (isset.guid) destination = ChannelCommandReply(ReadGuidAs<Corvane::Data::Channels::Guid>(source.guid));
+    if (!isset.channelResults) return Success();
+
+    ChannelCommandReply received(destination.commandGuid);
+    for (auto const& wireResult : source.channelResults)
+    {
+        Corvane::Data::OperationStatus status;
+        std::ignore = toStatus.To(wireResult.status, status);
+        Put(received, {ReadGuidAs<Corvane::Data::Channels::Guid>(wireResult.guid), status});
+    }
+    // Tests at its end: without any result the first, default slot is put all the same.
+    std::size_t i = 0;
+    do
+    {
+        Put(destination, received.results[i]);
+        ++i;
+    } while (static_cast<std::int32_t>(i) < received.resultCount);
+
+    // Without an identifier it fails, although the results have been put.
+    return isset.guid ? Success() : Failure("ChannelCommandReply is empty");
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

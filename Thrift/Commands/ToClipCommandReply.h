@@ -1,0 +1,40 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct ClipCommandReply;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class ClipCommandReply;
+} // namespace Generated
+
+/// Replaces a domain `ClipCommandReply` by the wire record `ClipCommandReply`. An item that fails is kept as `Failed`,
+/// `DefaultError`.
+///
+/// Failure: "ClipCommandReply is empty" when one of the two flags is clear; the destination is then unchanged.
+///
+/// Ends the process: what ends it in ThriftToClipConverter.
+class ThriftToClipCommandReplyConverter
+    : public Converter<Generated::ClipCommandReply, HighLevelOperations::Commands::ClipCommandReply>
+{
+public:
+    ~ThriftToClipCommandReplyConverter() override = default;
+
+    ConversionResult To(Generated::ClipCommandReply const& source,
+                        HighLevelOperations::Commands::ClipCommandReply& destination) const noexcept override;
+
+    ConversionResult To(Generated::ClipCommandReply&& source,
+                        HighLevelOperations::Commands::ClipCommandReply& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,47 @@
+#include "Thrift/Commands/ToClipResultsItem.h"
+
+#include "Domain/HighLevelOperations/Commands/ClipResultsItem.h"
+#include "Thrift/Data/Clips/ToClip.h"
+#include "Thrift/Data/ToOperationStatus.h"
+#include "Thrift/Detail/Results.h"
+#include "Thrift/Detail/SeenFields.h"
+#include "generated/ClipResultsItem_types.h"
+
+#include <memory>
+#include <tuple>
+#include <utility>
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+using namespace Detail;
+using Corvane::Data::OperationResult;
+using Corvane::Data::OperationStatus;
+
+ConversionResult
+ThriftToClipResultsItemConverter::To(Generated::ClipResultsItem const& source,
+                                     HighLevelOperations::Commands::ClipResultsItem& destination) const noexcept
+{
+    Data::ThriftToOperationStatusConverter const toStatus;
+    Data::Clips::ThriftToClipConverter const toClip;
+    auto const& isset = source.__isset;
+    SeenFields seen;
+
+    if (seen(isset.operationStatus))
+    {
+        OperationStatus status{OperationStatus::Status::Failed, OperationResult::DefaultError};
+        std::ignore = toStatus.To(source.operationStatus, status);
+        destination.OperationStatus(status); // destroys the held clip unless it succeeded
+    }
+    if (seen(isset.clip))
+    {
+        // The clip is converted even where it is dropped. What it reports is not looked at.
+        auto clip = std::make_unique<Corvane::Data::Clips::Clip>();
+        std::ignore = toClip.To(source.clip, *clip);
+        if (destination.OperationStatus().status == OperationStatus::Status::Succeeded)
+            destination.clip = std::move(clip);
+    }
+    return seen.None() ? Failure("ClipResultsItem is empty") : Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct CreateAnglesGroupCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class CreateAnglesGroupCommandParams;
+} // namespace Generated
+
+/// Reads a domain `CreateAnglesGroupCommandParams` from the wire record `CreateAnglesGroupCommandParams`. It can't
+/// fail. No flag is read: what was not sent is taken as the wire record holds it.
+///
+/// Ends the process: what ends it in ThriftToClipConverter.
+class ThriftToCreateAnglesGroupCommandParamsConverter
+    : public Converter<Generated::CreateAnglesGroupCommandParams,
+                       HighLevelOperations::Commands::CreateAnglesGroupCommandParams>
+{
+public:
+    ~ThriftToCreateAnglesGroupCommandParamsConverter() override = default;
+
+    ConversionResult
+    To(Generated::CreateAnglesGroupCommandParams const& source,
+       HighLevelOperations::Commands::CreateAnglesGroupCommandParams& destination) const noexcept override;
+
+    ConversionResult
+    To(Generated::CreateAnglesGroupCommandParams&& source,
+       HighLevelOperations::Commands::CreateAnglesGroupCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

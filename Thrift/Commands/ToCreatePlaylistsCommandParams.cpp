@@ -1,0 +1,27 @@
+#include "Thrift/Commands/ToCreatePlaylistsCommandParams.h"
+
+#include "Domain/HighLevelOperations/Commands/CreatePlaylistsCommandParams.h"
+#include "Thrift/Data/Sequences/ToPlaylist.h"
+#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Lists.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/CreatePlaylistsCommandParams_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+using namespace Detail;
+
+ConversionResult ThriftToCreatePlaylistsCommandParamsConverter::To(
+    Generated::CreatePlaylistsCommandParams const& source,
+    HighLevelOperations::Commands::CreatePlaylistsCommandParams& destination) const noexcept
+{
+    static Data::Sequences::ThriftToPlaylistConverter const playlistConverter;
+
+    ReadGuid(source.commandGuid, destination.commandGuid);
+    destination.playlists.clear();
+    if (source.__isset.playlists) AppendAll(playlistConverter, source.playlists, destination.playlists);
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

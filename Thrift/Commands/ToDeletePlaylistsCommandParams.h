@@ -1,0 +1,41 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct DeletePlaylistsCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class DeletePlaylistsCommandParams;
+} // namespace Generated
+
+/// Reads a domain `DeletePlaylistsCommandParams` from the wire record `DeletePlaylistsCommandParams`. It can't fail.
+///
+/// The identifier is taken whether its flag is set or not. The destination's list is replaced by the one that was sent,
+/// or emptied.
+class ThriftToDeletePlaylistsCommandParamsConverter
+    : public Converter<Generated::DeletePlaylistsCommandParams,
+                       HighLevelOperations::Commands::DeletePlaylistsCommandParams>
+{
+public:
+    ~ThriftToDeletePlaylistsCommandParamsConverter() override = default;
+
+    ConversionResult
+    To(Generated::DeletePlaylistsCommandParams const& source,
+       HighLevelOperations::Commands::DeletePlaylistsCommandParams& destination) const noexcept override;
+
+    ConversionResult
+    To(Generated::DeletePlaylistsCommandParams&& source,
+       HighLevelOperations::Commands::DeletePlaylistsCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,24 @@
+#include "Thrift/Commands/ToDialCommandParams.h"
+
+#include "Domain/HighLevelOperations/Commands/DialCommandParams.h"
+#include "Thrift/Detail/ByChannel.h"
+#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/DialCommandParams_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+using namespace Detail;
+
+ConversionResult
+ThriftToDialCommandParamsConverter::To(Generated::DialCommandParams const& source,
+                                       HighLevelOperations::Commands::DialCommandParams& destination) const noexcept
+{
+    ReadGuid(source.commandGuid, destination.commandGuid);
+    ReadChannels(source.__isset.players, source.players, destination.players);
+    destination.velocity = source.velocity; // whether its flag is set or not
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct DialCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class DialCommandParams;
+} // namespace Generated
+
+/// Reads a domain `DialCommandParams` from the wire record `DialCommandParams`. It can't fail.
+///
+/// The identifier is taken whether its flag is set or not. Channels are added to those that the destination holds; a
+/// clear flag empties them. `velocity` is taken whether its flag is set or not.
+class ThriftToDialCommandParamsConverter
+    : public Converter<Generated::DialCommandParams, HighLevelOperations::Commands::DialCommandParams>
+{
+public:
+    ~ThriftToDialCommandParamsConverter() override = default;
+
+    ConversionResult To(Generated::DialCommandParams const& source,
+                        HighLevelOperations::Commands::DialCommandParams& destination) const noexcept override;
+
+    ConversionResult To(Generated::DialCommandParams&& source,
+                        HighLevelOperations::Commands::DialCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

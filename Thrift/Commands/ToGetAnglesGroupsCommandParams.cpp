@@ -1,0 +1,21 @@
+#include "Thrift/Commands/ToGetAnglesGroupsCommandParams.h"
+
+#include "Domain/HighLevelOperations/Commands/GetAnglesGroupsCommandParams.h"
+#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/GetAnglesGroupsCommandParams_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+using namespace Detail;
+
+ConversionResult ThriftToGetAnglesGroupsCommandParamsConverter::To(
+    Generated::GetAnglesGroupsCommandParams const& source,
+    HighLevelOperations::Commands::GetAnglesGroupsCommandParams& destination) const noexcept
+{
+    ReadGuid(source.commandGuid, destination.commandGuid);
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

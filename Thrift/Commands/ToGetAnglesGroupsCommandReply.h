@@ -1,0 +1,41 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+class GetAnglesGroupsCommandReply;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class GetAnglesGroupsCommandReply;
+} // namespace Generated
+
+/// Replaces a domain `GetAnglesGroupsCommandReply` by the wire record `GetAnglesGroupsCommandReply`. A revision that
+/// was not sent is 0. What the conversion of an item reports is not looked at: the item keeps what was applied.
+///
+/// Failure: "GetAnglesGroupsCommandReply is empty" when neither the flag of `guid` nor that of `groups` is set; the
+/// destination is then an empty reply with the revision.
+class ThriftToGetAnglesGroupsCommandReplyConverter
+    : public Converter<Generated::GetAnglesGroupsCommandReply,
+                       HighLevelOperations::Commands::GetAnglesGroupsCommandReply>
+{
+public:
+    ~ThriftToGetAnglesGroupsCommandReplyConverter() override = default;
+
+    ConversionResult
+    To(Generated::GetAnglesGroupsCommandReply const& source,
+       HighLevelOperations::Commands::GetAnglesGroupsCommandReply& destination) const noexcept override;
+
+    ConversionResult To(Generated::GetAnglesGroupsCommandReply&& source,
+                        HighLevelOperations::Commands::GetAnglesGroupsCommandReply& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct GetChannelsCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class GetChannelsCommandParams;
+} // namespace Generated
+
+/// Reads a domain `GetChannelsCommandParams` from the wire record `GetChannelsCommandParams`. It can't fail. The
+/// identifier is taken whether its flag is set or not.
+class ThriftToGetChannelsCommandParamsConverter
+    : public Converter<Generated::GetChannelsCommandParams, HighLevelOperations::Commands::GetChannelsCommandParams>
+{
+public:
+    ~ThriftToGetChannelsCommandParamsConverter() override = default;
+
+    ConversionResult To(Generated::GetChannelsCommandParams const& source,
+                        HighLevelOperations::Commands::GetChannelsCommandParams& destination) const noexcept override;
+
+    ConversionResult To(Generated::GetChannelsCommandParams&& source,
+                        HighLevelOperations::Commands::GetChannelsCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,21 @@
+#include "Thrift/Commands/ToGetClipsCommandParams.h"
+
+#include "Domain/HighLevelOperations/Commands/GetClipsCommandParams.h"
+#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/GetClipsCommandParams_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+using namespace Detail;
+
+ConversionResult ThriftToGetClipsCommandParamsConverter::To(
+    Generated::GetClipsCommandParams const& source,
+    HighLevelOperations::Commands::GetClipsCommandParams& destination) const noexcept
+{
+    ReadGuid(source.commandGuid, destination.commandGuid);
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct GetClipsCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class GetClipsCommandParams;
+} // namespace Generated
+
+/// Reads a domain `GetClipsCommandParams` from the wire record `GetClipsCommandParams`. It can't fail. The identifier
+/// is taken whether its flag is set or not.
+class ThriftToGetClipsCommandParamsConverter
+    : public Converter<Generated::GetClipsCommandParams, HighLevelOperations::Commands::GetClipsCommandParams>
+{
+public:
+    ~ThriftToGetClipsCommandParamsConverter() override = default;
+
+    ConversionResult To(Generated::GetClipsCommandParams const& source,
+                        HighLevelOperations::Commands::GetClipsCommandParams& destination) const noexcept override;
+
+    ConversionResult To(Generated::GetClipsCommandParams&& source,
+                        HighLevelOperations::Commands::GetClipsCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,36 @@
+#include "Thrift/Commands/ToGetClipsCommandReply.h"
+
+#include "Domain/HighLevelOperations/Commands/GetClipsCommandReply.h"
+#include "Thrift/Data/Clips/ToClip.h"
+#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/GetClipsCommandReply_types.h"
+
+#include <list>
+#include <tuple>
+#include <utility>
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+using namespace Detail;
+
+ConversionResult ThriftToGetClipsCommandReplyConverter::To(
+    Generated::GetClipsCommandReply const& source,
+    HighLevelOperations::Commands::GetClipsCommandReply& destination) const noexcept
+{
+    Data::Clips::ThriftToClipConverter const toClip;
+    auto const& isset = source.__isset;
+
+    auto const guid = isset.guid ? ReadGuidAs<Corvane::Data::Guid>(source.guid) : Corvane::Data::Guid::Empty();
+    std::list<Corvane::Data::Clips::Clip> clips;
+    if (isset.clips)
+    {
+        for (auto const& wireClip : source.clips) std::ignore = toClip.To(wireClip, clips.emplace_back());
+    }
+    // A revision alone does not count, yet the destination takes it.
+    destination = {guid, isset.revision ? source.revision : 0, std::move(clips)};
+    return isset.guid || isset.clips ? Success() : Failure("GetClipsCommandReply is empty");
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

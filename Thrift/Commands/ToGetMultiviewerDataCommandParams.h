@@ -1,0 +1,39 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct GetMultiviewerDataCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class GetMultiviewerDataCommandParams;
+} // namespace Generated
+
+/// Reads a domain `GetMultiviewerDataCommandParams` from the wire record `GetMultiviewerDataCommandParams`. Its result
+/// is that of the identifier, which can't fail.
+class ThriftToGetMultiviewerDataCommandParamsConverter
+    : public Converter<Generated::GetMultiviewerDataCommandParams,
+                       HighLevelOperations::Commands::GetMultiviewerDataCommandParams>
+{
+public:
+    ~ThriftToGetMultiviewerDataCommandParamsConverter() override = default;
+
+    ConversionResult
+    To(Generated::GetMultiviewerDataCommandParams const& source,
+       HighLevelOperations::Commands::GetMultiviewerDataCommandParams& destination) const noexcept override;
+
+    ConversionResult
+    To(Generated::GetMultiviewerDataCommandParams&& source,
+       HighLevelOperations::Commands::GetMultiviewerDataCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

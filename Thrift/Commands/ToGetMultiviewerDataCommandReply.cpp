@@ -1,0 +1,45 @@
+#include "Thrift/Commands/ToGetMultiviewerDataCommandReply.h"
+
+#include "Domain/HighLevelOperations/Commands/GetMultiviewerDataCommandReply.h"
+#include "Thrift/Data/ToGuid.h"
+#include "Thrift/Data/ToOperationStatus.h"
+#include "Thrift/Data/ToPlayerDataOverrides.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/GetMultiviewerDataCommandReply_types.h"
+
+#include <utility>
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+using namespace Detail;
+using HighLevelOperations::Commands::GetMultiviewerDataCommandReply;
+
+ConversionResult ThriftToGetMultiviewerDataCommandReplyConverter::To(
+    Generated::GetMultiviewerDataCommandReply const& source,
+    HighLevelOperations::Commands::GetMultiviewerDataCommandReply& destination) const noexcept
+{
+    static Data::ThriftToGuidConverter const toGuid;
+    static Data::ThriftToOperationStatusConverter const toOperationStatus;
+    static Data::ToPlayerDataOverrides const toPlayerDataOverrides;
+
+    GetMultiviewerDataCommandReply reply;
+    if (auto const result = toGuid.To(source.guid, reply.commandGuid); !result.success) return Nested(result);
+    if (auto const result = toOperationStatus.To(source.status, reply.operationStatus); !result.success)
+        return Nested(result);
+    // Stored before the entries are read: one that fails leaves the destination with the new status alone.
+    destination.operationStatus = reply.operationStatus;
+    for (auto const& [wireChannel, wireOverrides] : source.playersDataOverrides)
+    {
+        Corvane::Data::Channels::Guid channel;
+        if (auto const result = toGuid.To(wireChannel, channel); !result.success) return Nested(result);
+        Multiviewer::PlayerDataOverrides overrides;
+        if (auto const result = toPlayerDataOverrides.To(wireOverrides, overrides); !result.success)
+            return Nested(result);
+        reply.playersDataOverrides.emplace(channel, std::move(overrides));
+    }
+    destination = std::move(reply);
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct GetPlaylistsCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class GetPlaylistsCommandParams;
+} // namespace Generated
+
+/// Reads a domain `GetPlaylistsCommandParams` from the wire record `GetPlaylistsCommandParams`. It can't fail. The
+/// identifier is taken whether its flag is set or not, mode and filter only if they are; an unknown mode reads as
+/// `Normal`.
+class ThriftToGetPlaylistsCommandParamsConverter
+    : public Converter<Generated::GetPlaylistsCommandParams, HighLevelOperations::Commands::GetPlaylistsCommandParams>
+{
+public:
+    ~ThriftToGetPlaylistsCommandParamsConverter() override = default;
+
+    ConversionResult To(Generated::GetPlaylistsCommandParams const& source,
+                        HighLevelOperations::Commands::GetPlaylistsCommandParams& destination) const noexcept override;
+
+    ConversionResult To(Generated::GetPlaylistsCommandParams&& source,
+                        HighLevelOperations::Commands::GetPlaylistsCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

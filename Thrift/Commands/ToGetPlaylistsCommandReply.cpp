@@ -1,0 +1,37 @@
+#include "Thrift/Commands/ToGetPlaylistsCommandReply.h"
+
+#include "Domain/HighLevelOperations/Commands/GetPlaylistsCommandReply.h"
+#include "Thrift/Data/Sequences/ToPlaylist.h"
+#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Lists.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/GetPlaylistsCommandReply_types.h"
+
+#include <utility>
+#include <vector>
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+using namespace Detail;
+
+ConversionResult ThriftToGetPlaylistsCommandReplyConverter::To(
+    Generated::GetPlaylistsCommandReply const& source,
+    HighLevelOperations::Commands::GetPlaylistsCommandReply& destination) const noexcept
+{
+    Data::Sequences::ThriftToPlaylistConverter const toPlaylist;
+    auto const& isset = source.__isset;
+
+    auto const guid = isset.guid ? ReadGuidAs<Corvane::Data::Guid>(source.guid) : Corvane::Data::Guid::Empty();
+    std::vector<Corvane::Data::Sequences::Playlist> playlists;
+    if (isset.playlists)
+    {
+        if (auto const result = AppendEach(toPlaylist, source.playlists, playlists); !result.success)
+            return Nested(result);
+    }
+    // Here the revision counts, and a missing one is -1.
+    destination = {guid, isset.revision ? source.revision : -1, std::move(playlists)};
+    return isset.guid || isset.revision || isset.playlists ? Success() : Failure("GetPlaylistsCommandReply is empty");
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct GetServersCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class GetServersCommandParams;
+} // namespace Generated
+
+/// Reads a domain `GetServersCommandParams` from the wire record `GetServersCommandParams`. It can't fail. The
+/// identifier is taken whether its flag is set or not, the range only if it is; an unknown range reads as local and
+/// remote.
+class ThriftToGetServersCommandParamsConverter
+    : public Converter<Generated::GetServersCommandParams, HighLevelOperations::Commands::GetServersCommandParams>
+{
+public:
+    ~ThriftToGetServersCommandParamsConverter() override = default;
+
+    ConversionResult To(Generated::GetServersCommandParams const& source,
+                        HighLevelOperations::Commands::GetServersCommandParams& destination) const noexcept override;
+
+    ConversionResult To(Generated::GetServersCommandParams&& source,
+                        HighLevelOperations::Commands::GetServersCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

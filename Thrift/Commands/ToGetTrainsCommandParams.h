@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct GetTrainsCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class GetTrainsCommandParams;
+} // namespace Generated
+
+/// Reads a domain `GetTrainsCommandParams` from the wire record `GetTrainsCommandParams`. It can't fail. The identifier
+/// is taken whether its flag is set or not.
+class ThriftToGetTrainsCommandParamsConverter
+    : public Converter<Generated::GetTrainsCommandParams, HighLevelOperations::Commands::GetTrainsCommandParams>
+{
+public:
+    ~ThriftToGetTrainsCommandParamsConverter() override = default;
+
+    ConversionResult To(Generated::GetTrainsCommandParams const& source,
+                        HighLevelOperations::Commands::GetTrainsCommandParams& destination) const noexcept override;
+
+    ConversionResult To(Generated::GetTrainsCommandParams&& source,
+                        HighLevelOperations::Commands::GetTrainsCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,24 @@
+#include "Thrift/Commands/ToGoIdleCommandParams.h"
+
+#include "Domain/HighLevelOperations/Commands/GoIdleCommandParams.h"
+#include "Thrift/Detail/ByChannel.h"
+#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/GoIdleCommandParams_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+using namespace Detail;
+
+ConversionResult
+ThriftToGoIdleCommandParamsConverter::To(Generated::GoIdleCommandParams const& source,
+                                         HighLevelOperations::Commands::GoIdleCommandParams& destination) const noexcept
+{
+    ReadGuid(source.commandGuid, destination.commandGuid);
+    ReadChannels(source.__isset.players, source.players, destination.players);
+    destination.setBlackScreen = source.setBlackScreen; // whether its flag is set or not
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

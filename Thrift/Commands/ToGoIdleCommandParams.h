@@ -1,0 +1,38 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct GoIdleCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class GoIdleCommandParams;
+} // namespace Generated
+
+/// Reads a domain `GoIdleCommandParams` from the wire record `GoIdleCommandParams`. It can't fail.
+///
+/// The identifier is taken whether its flag is set or not. Channels are added to those that the destination holds; a
+/// clear flag empties them. `setBlackScreen` is taken whether its flag is set or not.
+class ThriftToGoIdleCommandParamsConverter
+    : public Converter<Generated::GoIdleCommandParams, HighLevelOperations::Commands::GoIdleCommandParams>
+{
+public:
+    ~ThriftToGoIdleCommandParamsConverter() override = default;
+
+    ConversionResult To(Generated::GoIdleCommandParams const& source,
+                        HighLevelOperations::Commands::GoIdleCommandParams& destination) const noexcept override;
+
+    ConversionResult To(Generated::GoIdleCommandParams&& source,
+                        HighLevelOperations::Commands::GoIdleCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

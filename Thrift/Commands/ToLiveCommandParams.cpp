@@ -1,0 +1,28 @@
+#include "Thrift/Commands/ToLiveCommandParams.h"
+
+#include "Domain/HighLevelOperations/Commands/LiveCommandParams.h"
+#include "Thrift/Detail/ByChannel.h"
+#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/LiveCommandParams_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+using namespace Detail;
+
+ConversionResult
+ThriftToLiveCommandParamsConverter::To(Generated::LiveCommandParams const& source,
+                                       HighLevelOperations::Commands::LiveCommandParams& destination) const noexcept
+{
+    ReadGuid(source.commandGuid, destination.commandGuid);
+    // Without players the whole destination starts anew, so the identifier that was sent is lost and a new one takes its
+    // place.
+    if (!source.__isset.players)
+        destination = HighLevelOperations::Commands::LiveCommandParams();
+    else
+        ReadByChannel(true, source.players, destination.players, ReadGuidAs<Corvane::Data::Channels::Guid>);
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

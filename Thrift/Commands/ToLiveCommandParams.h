@@ -1,0 +1,40 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct LiveCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class LiveCommandParams;
+} // namespace Generated
+
+/// Reads a domain `LiveCommandParams` from the wire record `LiveCommandParams`. It can't fail.
+///
+/// Entries are added to those that the destination holds, of which one of the same channel keeps its value.
+///
+/// Lost on the way: with the flag of `players` clear the destination is replaced by a new `LiveCommandParams`, with an
+/// identifier of its own; the one that was sent is lost.
+class ThriftToLiveCommandParamsConverter
+    : public Converter<Generated::LiveCommandParams, HighLevelOperations::Commands::LiveCommandParams>
+{
+public:
+    ~ThriftToLiveCommandParamsConverter() override = default;
+
+    ConversionResult To(Generated::LiveCommandParams const& source,
+                        HighLevelOperations::Commands::LiveCommandParams& destination) const noexcept override;
+
+    ConversionResult To(Generated::LiveCommandParams&& source,
+                        HighLevelOperations::Commands::LiveCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

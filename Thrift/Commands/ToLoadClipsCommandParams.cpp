@@ -1,0 +1,38 @@
+#include "Thrift/Commands/ToLoadClipsCommandParams.h"
+
+#include "Domain/HighLevelOperations/Commands/LoadClipsCommandParams.h"
+#include "Thrift/Detail/Boundaries.h"
+#include "Thrift/Detail/ByChannel.h"
+#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/LoadClipsCommandParams_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+using namespace Detail;
+using HighLevelOperations::Commands::LoadClipsCommandParams;
+
+namespace
+{
+
+/// Only the flag of the time point is read.
+LoadClipsCommandParams::PlayerParam ReadParam(Generated::LoadClipCommandParam const& source)
+{
+    return {ReadGuidAs<Corvane::Data::Clips::Guid>(source.clip),
+            source.__isset.timepoint ? TimePoints::TimePoint{source.timepoint} : TimePoints::TimePoint::Empty(),
+            ReadBoundary(source.inBoundary), ReadBoundary(source.outBoundary)};
+}
+
+} // namespace
+
+ConversionResult ThriftToLoadClipsCommandParamsConverter::To(
+    Generated::LoadClipsCommandParams const& source,
+    HighLevelOperations::Commands::LoadClipsCommandParams& destination) const noexcept
+{
+    ReadGuid(source.commandGuid, destination.commandGuid);
+    ReadByChannel(source.__isset.playersParameters, source.playersParameters, destination.playersParameters, ReadParam);
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

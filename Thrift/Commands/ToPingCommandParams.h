@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct PingCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class PingCommandParams;
+} // namespace Generated
+
+/// Reads a domain `PingCommandParams` from the wire record `PingCommandParams`. It can't fail. The identifier is taken
+/// whether its flag is set or not.
+class ThriftToPingCommandParamsConverter
+    : public Converter<Generated::PingCommandParams, HighLevelOperations::Commands::PingCommandParams>
+{
+public:
+    ~ThriftToPingCommandParamsConverter() override = default;
+
+    ConversionResult To(Generated::PingCommandParams const& source,
+                        HighLevelOperations::Commands::PingCommandParams& destination) const noexcept override;
+
+    ConversionResult To(Generated::PingCommandParams&& source,
+                        HighLevelOperations::Commands::PingCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,29 @@
+#include "Thrift/Commands/ToPlayCommandParams.h"
+
+#include "Domain/HighLevelOperations/Commands/PlayCommandParams.h"
+#include "Thrift/Detail/ByChannel.h"
+#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/PlayCommandParams_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+using namespace Detail;
+
+ConversionResult
+ThriftToPlayCommandParamsConverter::To(Generated::PlayCommandParams const& source,
+                                       HighLevelOperations::Commands::PlayCommandParams& destination) const noexcept
+{
+    auto const& isset = source.__isset;
+
+    ReadGuid(source.commandId, destination.commandGuid);
+    ReadChannels(source.__isset.players, source.players, destination.players);
+    // Coming in a numerator of 0 is taken, though none is sent; a missing speed is 0 / 1.
+    bool const hasSpeed = isset.speedNum && isset.speedDen && source.speedDen != 0;
+    destination.speedNumerator = hasSpeed ? source.speedNum : 0;
+    destination.speedDenominator = hasSpeed ? source.speedDen : 1;
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

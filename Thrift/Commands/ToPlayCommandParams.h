@@ -1,0 +1,40 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct PlayCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class PlayCommandParams;
+} // namespace Generated
+
+/// Reads a domain `PlayCommandParams` from the wire record `PlayCommandParams`. It can't fail.
+///
+/// The identifier is taken whether its flag is set or not. Channels are added to those that the destination holds; a
+/// clear flag empties them.
+///
+/// A speed of which one flag is clear or the denominator is 0 reads as 0 / 1; a numerator of 0 is kept.
+class ThriftToPlayCommandParamsConverter
+    : public Converter<Generated::PlayCommandParams, HighLevelOperations::Commands::PlayCommandParams>
+{
+public:
+    ~ThriftToPlayCommandParamsConverter() override = default;
+
+    ConversionResult To(Generated::PlayCommandParams const& source,
+                        HighLevelOperations::Commands::PlayCommandParams& destination) const noexcept override;
+
+    ConversionResult To(Generated::PlayCommandParams&& source,
+                        HighLevelOperations::Commands::PlayCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct PlaylistCommandReply;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class PlaylistCommandReply;
+} // namespace Generated
+
+/// Replaces a domain `PlaylistCommandReply` by the wire record `PlaylistCommandReply`. An item that fails is kept as
+/// `Failed`, `DefaultError`.
+///
+/// Failure: "PlaylistCommandReply is empty" when one of the two flags is clear; the destination is then unchanged.
+///
+/// Ends the process: what ends it in ThriftToPlaylistConverter.
+class ThriftToPlaylistCommandReplyConverter
+    : public Converter<Generated::PlaylistCommandReply, HighLevelOperations::Commands::PlaylistCommandReply>
+{
+public:
+    ~ThriftToPlaylistCommandReplyConverter() override = default;
+
+    ConversionResult To(Generated::PlaylistCommandReply const& source,
+                        HighLevelOperations::Commands::PlaylistCommandReply& destination) const noexcept override;
+
+    ConversionResult To(Generated::PlaylistCommandReply&& source,
+                        HighLevelOperations::Commands::PlaylistCommandReply& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

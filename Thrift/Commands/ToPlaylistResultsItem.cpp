@@ -1,0 +1,46 @@
+#include "Thrift/Commands/ToPlaylistResultsItem.h"
+
+#include "Domain/HighLevelOperations/Commands/PlaylistResultsItem.h"
+#include "Thrift/Data/Sequences/ToPlaylist.h"
+#include "Thrift/Data/ToOperationStatus.h"
+#include "Thrift/Detail/Results.h"
+#include "Thrift/Detail/SeenFields.h"
+#include "generated/PlaylistResultsItem_types.h"
+
+#include <memory>
+#include <tuple>
+#include <utility>
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+using namespace Detail;
+using Corvane::Data::OperationResult;
+using Corvane::Data::OperationStatus;
+
+ConversionResult
+ThriftToPlaylistResultsItemConverter::To(Generated::PlaylistResultsItem const& source,
+                                         HighLevelOperations::Commands::PlaylistResultsItem& destination) const noexcept
+{
+    Data::ThriftToOperationStatusConverter const toStatus;
+    Data::Sequences::ThriftToPlaylistConverter const toPlaylist;
+    auto const& isset = source.__isset;
+    SeenFields seen;
+
+    if (seen(isset.operationStatus))
+    {
+        OperationStatus status{OperationStatus::Status::Failed, OperationResult::DefaultError};
+        std::ignore = toStatus.To(source.operationStatus, status);
+        destination.OperationStatus(status); // destroys the held playlist unless it succeeded
+    }
+    if (seen(isset.playlist))
+    {
+        // Kept whatever the status is, unlike the clip of a clip's item. What the playlist reports is not looked at.
+        auto playlist = std::make_unique<Corvane::Data::Sequences::Playlist>();
+        std::ignore = toPlaylist.To(source.playlist, *playlist);
+        destination.playlist = std::move(playlist);
+    }
+    return seen.None() ? Failure("PlaylistResultsItem is empty") : Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+class PlaylistResultsItem;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class PlaylistResultsItem;
+} // namespace Generated
+
+/// Applies the wire record `PlaylistResultsItem` to a domain `PlaylistResultsItem`.
+///
+/// A status other than `Succeeded` destroys the playlist that the item held, but a playlist of the same record is kept
+/// whatever the status is. What ThriftToPlaylistConverter reports is not looked at.
+///
+/// Failure: "PlaylistResultsItem is empty" when no flag is set; the destination is then unchanged.
+///
+/// Ends the process: what ends it in ThriftToPlaylistConverter.
+class ThriftToPlaylistResultsItemConverter
+    : public Converter<Generated::PlaylistResultsItem, HighLevelOperations::Commands::PlaylistResultsItem>
+{
+public:
+    ~ThriftToPlaylistResultsItemConverter() override = default;
+
+    ConversionResult To(Generated::PlaylistResultsItem const& source,
+                        HighLevelOperations::Commands::PlaylistResultsItem& destination) const noexcept override;
+
+    ConversionResult To(Generated::PlaylistResultsItem&& source,
+                        HighLevelOperations::Commands::PlaylistResultsItem& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

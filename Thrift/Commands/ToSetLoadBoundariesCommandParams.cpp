@@ -1,0 +1,36 @@
+#include "Thrift/Commands/ToSetLoadBoundariesCommandParams.h"
+
+#include "Domain/HighLevelOperations/Commands/SetLoadBoundariesCommandParams.h"
+#include "Thrift/Detail/Boundaries.h"
+#include "Thrift/Detail/ByChannel.h"
+#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/SetLoadBoundariesCommandParams_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+using namespace Detail;
+using HighLevelOperations::Commands::SetLoadBoundariesCommandParams;
+
+namespace
+{
+
+/// The flags inside are not read.
+SetLoadBoundariesCommandParams::PlayerParam ReadParam(Generated::SetLoadBoundariesCommandParam const& source)
+{
+    return {ReadBoundary(source.inBoundary), ReadBoundary(source.outBoundary)};
+}
+
+} // namespace
+
+ConversionResult ThriftToSetLoadBoundariesCommandParamsConverter::To(
+    Generated::SetLoadBoundariesCommandParams const& source,
+    HighLevelOperations::Commands::SetLoadBoundariesCommandParams& destination) const noexcept
+{
+    ReadGuid(source.commandGuid, destination.commandGuid);
+    ReadByChannel(source.__isset.playersParameters, source.playersParameters, destination.playersParameters, ReadParam);
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

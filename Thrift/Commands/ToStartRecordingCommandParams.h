@@ -1,0 +1,38 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct StartCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class StartRecordingCommandParams;
+} // namespace Generated
+
+/// Reads a domain `StartCommandParams` from the wire record `StartRecordingCommandParams`. It can't fail.
+///
+/// The identifier is taken whether its flag is set or not. Channels are added to those that the destination holds; a
+/// clear flag empties them.
+class ThriftToStartRecordingCommandParamsConverter
+    : public Converter<Generated::StartRecordingCommandParams, HighLevelOperations::Commands::StartCommandParams>
+{
+public:
+    ~ThriftToStartRecordingCommandParamsConverter() override = default;
+
+    ConversionResult To(Generated::StartRecordingCommandParams const& source,
+                        HighLevelOperations::Commands::StartCommandParams& destination) const noexcept override;
+
+    ConversionResult To(Generated::StartRecordingCommandParams&& source,
+                        HighLevelOperations::Commands::StartCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

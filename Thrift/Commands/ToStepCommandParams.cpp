@@ -1,0 +1,24 @@
+#include "Thrift/Commands/ToStepCommandParams.h"
+
+#include "Domain/HighLevelOperations/Commands/StepCommandParams.h"
+#include "Thrift/Detail/ByChannel.h"
+#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/StepCommandParams_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+using namespace Detail;
+
+ConversionResult
+ThriftToStepCommandParamsConverter::To(Generated::StepCommandParams const& source,
+                                       HighLevelOperations::Commands::StepCommandParams& destination) const noexcept
+{
+    ReadGuid(source.commandGuid, destination.commandGuid);
+    ReadChannels(source.__isset.players, source.players, destination.players);
+    destination.fieldCount = source.fieldCount; // whether its flag is set or not
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

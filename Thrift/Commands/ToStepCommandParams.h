@@ -1,0 +1,38 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct StepCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class StepCommandParams;
+} // namespace Generated
+
+/// Reads a domain `StepCommandParams` from the wire record `StepCommandParams`. It can't fail.
+///
+/// The identifier is taken whether its flag is set or not. Channels are added to those that the destination holds; a
+/// clear flag empties them. `fieldCount` is taken whether its flag is set or not.
+class ThriftToStepCommandParamsConverter
+    : public Converter<Generated::StepCommandParams, HighLevelOperations::Commands::StepCommandParams>
+{
+public:
+    ~ThriftToStepCommandParamsConverter() override = default;
+
+    ConversionResult To(Generated::StepCommandParams const& source,
+                        HighLevelOperations::Commands::StepCommandParams& destination) const noexcept override;
+
+    ConversionResult To(Generated::StepCommandParams&& source,
+                        HighLevelOperations::Commands::StepCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

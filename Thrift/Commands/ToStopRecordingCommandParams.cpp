@@ -1,0 +1,23 @@
+#include "Thrift/Commands/ToStopRecordingCommandParams.h"
+
+#include "Domain/HighLevelOperations/Commands/StopCommandParams.h"
+#include "Thrift/Detail/ByChannel.h"
+#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/StopRecordingCommandParams_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+using namespace Detail;
+
+ConversionResult ThriftToStopRecordingCommandParamsConverter::To(
+    Generated::StopRecordingCommandParams const& source,
+    HighLevelOperations::Commands::StopCommandParams& destination) const noexcept
+{
+    ReadGuid(source.commandGuid, destination.commandGuid);
+    ReadChannels(source.__isset.recorders, source.recorders, destination.recorders);
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

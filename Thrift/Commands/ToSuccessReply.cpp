@@ -1,0 +1,23 @@
+#include "Thrift/Commands/ToSuccessReply.h"
+
+#include "Domain/HighLevelOperations/Commands/SuccessReply.h"
+#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/SuccessReply_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+using namespace Detail;
+
+ConversionResult
+ThriftToSuccessReplyConverter::To(Generated::SuccessReply const& source,
+                                  HighLevelOperations::Commands::SuccessReply& destination) const noexcept
+{
+    if (!source.__isset.guid) return Failure("SuccessReply is empty");
+
+    ReadGuid(source.guid, destination.commandGuid);
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

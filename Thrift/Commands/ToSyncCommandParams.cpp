@@ -1,0 +1,33 @@
+#include "Thrift/Commands/ToSyncCommandParams.h"
+
+#include "Domain/HighLevelOperations/Commands/SyncCommandParams.h"
+#include "Thrift/Data/Channels/ToLoadBoundary.h"
+#include "Thrift/Detail/ByChannel.h"
+#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/SyncCommandParams_types.h"
+
+#include <tuple>
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+using namespace Detail;
+
+ConversionResult
+ThriftToSyncCommandParamsConverter::To(Generated::SyncCommandParams const& source,
+                                       HighLevelOperations::Commands::SyncCommandParams& destination) const noexcept
+{
+    static Data::Channels::ThriftToLoadBoundaryConverter const loadBoundaryConverter;
+    auto const& isset = source.__isset;
+
+    ReadGuid(source.commandGuid, destination.commandGuid);
+    if (isset.sourcePlayer) ReadGuid(source.sourcePlayer, destination.sourcePlayer);
+    ReadChannels(source.__isset.players, source.players, destination.players);
+    // A boundary that is refused leaves the destination's as it was.
+    if (isset.inBoundary) std::ignore = loadBoundaryConverter.To(source.inBoundary, destination.inBoundary);
+    if (isset.outBoundary) std::ignore = loadBoundaryConverter.To(source.outBoundary, destination.outBoundary);
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

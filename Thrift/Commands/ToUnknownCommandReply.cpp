@@ -1,0 +1,20 @@
+#include "Thrift/Commands/ToUnknownCommandReply.h"
+
+#include "Domain/HighLevelOperations/Commands/UnknownCommandReply.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/UnknownCommandReply_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+using namespace Detail;
+
+ConversionResult
+ThriftToUnknownCommandReplyConverter::To(Generated::UnknownCommandReply const& source,
+                                         HighLevelOperations::Commands::UnknownCommandReply& destination) const noexcept
+{
+    destination = {Corvane::Data::Guid::Empty(), source.commandType}; // whether the flag is set or not
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

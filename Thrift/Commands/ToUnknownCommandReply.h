@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct UnknownCommandReply;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class UnknownCommandReply;
+} // namespace Generated
+
+/// Reads a domain `UnknownCommandReply` from the wire record `UnknownCommandReply`. It can't fail. The destination is
+/// replaced, whether the flag is set or not, and its identifier is Guid::Empty().
+class ThriftToUnknownCommandReplyConverter
+    : public Converter<Generated::UnknownCommandReply, HighLevelOperations::Commands::UnknownCommandReply>
+{
+public:
+    ~ThriftToUnknownCommandReplyConverter() override = default;
+
+    ConversionResult To(Generated::UnknownCommandReply const& source,
+                        HighLevelOperations::Commands::UnknownCommandReply& destination) const noexcept override;
+
+    ConversionResult To(Generated::UnknownCommandReply&& source,
+                        HighLevelOperations::Commands::UnknownCommandReply& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

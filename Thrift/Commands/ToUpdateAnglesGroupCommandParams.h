@@ -1,0 +1,39 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+{
+struct UpdateAnglesGroupCommandParams;
+} // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
+{
+
+namespace Generated
+{
+class UpdateAnglesGroupCommandParams;
+} // namespace Generated
+
+/// Reads a domain `UpdateAnglesGroupCommandParams` from the wire record `UpdateAnglesGroupCommandParams`. It can't
+/// fail. An angle that was not sent stays as it was.
+class ThriftToUpdateAnglesGroupCommandParamsConverter
+    : public Converter<Generated::UpdateAnglesGroupCommandParams,
+                       HighLevelOperations::Commands::UpdateAnglesGroupCommandParams>
+{
+public:
+    ~ThriftToUpdateAnglesGroupCommandParamsConverter() override = default;
+
+    ConversionResult
+    To(Generated::UpdateAnglesGroupCommandParams const& source,
+       HighLevelOperations::Commands::UpdateAnglesGroupCommandParams& destination) const noexcept override;
+
+    ConversionResult
+    To(Generated::UpdateAnglesGroupCommandParams&& source,
+       HighLevelOperations::Commands::UpdateAnglesGroupCommandParams& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
