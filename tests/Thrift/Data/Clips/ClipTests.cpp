@@ -1,5 +1,6 @@
 #include "tests/Thrift/Data/Clips/Values.h"
 
+#include "Thrift/Data/Clips/EnumConverter.h"
 #include "Thrift/Data/Clips/FromClip.h"
 #include "Thrift/Data/Clips/FromEssence.h"
 #include "Thrift/Data/Clips/ToClip.h"
@@ -24,6 +25,7 @@ using Corvane::Data::Clips::Clip;
 using Corvane::Data::Clips::VideoStandard;
 using testing::Each;
 using testing::ElementsAre;
+using testing::HasSubstr;
 
 namespace Essences = Corvane::Data::Clips::Essences;
 
@@ -76,11 +78,15 @@ TEST(EssenceConversion, TypeResetsAndOtherFieldsPatch)
     EXPECT_EQ(essence, expected);
 
     wire.__isset.type = true;
-    wire.type = Generated::Type::LongGop;
-    EXPECT_TRUE(ThriftToEssenceConverter().To(wire, essence).success);
-    expected.Clear(Essences::Type::LongGop);
-    expected.verticalFrameSize = 7;
-    EXPECT_EQ(essence, expected);
+    for (auto const type : {Essences::Type::LongGop, Essences::Type::LowRes}) // another type and the one it holds
+    {
+        essence = FullEssence(Essences::Type::LowRes);
+        wire.type = EnumConverter::ToGeneratedEnum(type);
+        EXPECT_TRUE(ThriftToEssenceConverter().To(wire, essence).success);
+        expected.Clear(type);
+        expected.verticalFrameSize = 7;
+        EXPECT_EQ(essence, expected);
+    }
 
     auto const result = ThriftToEssenceConverter().To(Generated::Essence(), essence);
     EXPECT_FALSE(result.success);
@@ -88,11 +94,61 @@ TEST(EssenceConversion, TypeResetsAndOtherFieldsPatch)
     EXPECT_EQ(essence, expected);
 }
 
+TEST(EssenceConversion, ZerosAreSentToo)
+{
+    Generated::Essence wire;
+    EXPECT_TRUE(EssenceToThriftConverter().To(Clip::Essence(), wire).success);
+    wire.__isset.type = false; // which would reset the rest
+    auto essence = FullEssence(Essences::Type::Intra);
+    EXPECT_TRUE(ThriftToEssenceConverter().To(wire, essence).success);
+    EXPECT_EQ(essence, Clip::Essence());
+}
+
 TEST(ClipConversion, RoundTrip)
 {
     ExpectRoundTrip<ClipToThriftConverter, ThriftToClipConverter, Generated::Clip>(FullClip(), NtscClip());
     ExpectFieldByField<ClipToThriftConverter, ThriftToClipConverter, Generated::Clip>(FullClip(), NtscClip());
     ExpectRoundTrip<ClipToThriftConverter, ThriftToClipConverter, Generated::Clip>(Clip());
+}
+
+TEST(ClipConversion, SendsEachFieldUnderItsName)
+{
+    auto const essence = [](char const type, char const audioCompressionType)
+    {
+        return std::string("Essence(type=") + type +
+               ", recordingStatus=4, archiveStatus=1, metadata=2, blockSize=2, videoCompressionType=23, "
+               "audioCompressionType=" +
+               audioCompressionType +
+               ", videoCompressionInfo=8, audioConfiguration=7, videoCompressionRate=100, audioCompressionRate=-3, "
+               "horizontalFrameSize=1920, verticalFrameSize=1080)";
+    };
+    std::string const blankKeyword = "AsciiOrUtf16String(data=            , isUtf16=0), ";
+    EXPECT_EQ(
+        Printed(Sent(FullClip())),
+        "Clip(umId=UMID0001, sourceUmId=UMID0002, fillAndKeyUmId=UMID0003, materialId=MATERIAL, "
+        "name=AsciiOrUtf16String(data=A name of 24 bytes, full, isUtf16=1), "
+        "varId=AsciiOrUtf16String(data=A variable identifier, 32 bytes., isUtf16=0), "
+        "keywords=[AsciiOrUtf16String(data=keyword one., isUtf16=0), " +
+            blankKeyword + blankKeyword + blankKeyword +
+            "AsciiOrUtf16String(data=keyword five, isUtf16=1)], userBits=[0, 1, 127, 128, 200, 254, 255, 7], is3D=1, "
+            "isDual=1, isTwinRec=1, isLegacyTimecodeDrop=1, trainStatus=2, sourceEngine=3, uhdDivisionMode=2, "
+            "hdrProfile=5, alphaArchiveStatus=2, archiveStatus=2, fillAndKeyStatus=2, userProtect=-5, camera=13, "
+            "afdAspectRatio=3, codedFrameAspectRatio=2, videoFormat=4, videoStandard=1, userTimecodeType=1, "
+            "primaryTimecode=2, rating=3, preferentialCamera=2, inBoundField=4294967297, shortInBoundField=-2, "
+            "shortOutBoundField=3, outBoundField=9223372036854775807, legacyTimecodeOffset=4294967295, kviIndex=-7, "
+            "userLock=2147483648, thumbnailOffset=11, sequence=12, machineSerial=4294967294, nbAudioVideoChannels=16, "
+            "dolbyMonoSignal=2, inBoundTodTimecode=2024-02-29T23:59:00;02@30, "
+            "inBoundUserTimecode=2000-01-01T10:11:12:47@60, sourceInBoundTodTimecode=<null>, "
+            "sourceInBoundUserTimecode=<null>, inBoundTimepoint=-1, intraEssence=" +
+            essence('0', '2') + ", longGopEssence=" + essence('1', '2') + ", lowResEssence=" + essence('2', '1') + ")");
+
+    // The flags all hold the same above.
+    Clip clip;
+    clip.isDual = clip.isLegacyTimecodeDrop = true;
+    EXPECT_THAT(Printed(Sent(clip)), HasSubstr("is3D=0, isDual=1, isTwinRec=0, isLegacyTimecodeDrop=1"));
+    clip = Clip();
+    clip.isDual = clip.isTwinRec = true;
+    EXPECT_THAT(Printed(Sent(clip)), HasSubstr("is3D=0, isDual=1, isTwinRec=1, isLegacyTimecodeDrop=0"));
 }
 
 TEST(ClipConversion, ReservedFieldsStayInTheProcess)
@@ -117,16 +173,27 @@ TEST(ClipConversion, FreshClipSendsItsDefaultsAndNoAbsentField)
     EXPECT_EQ(wire.inBoundTodTimecode, "1900-01-01T00:00:00:00@50");
     EXPECT_EQ(wire.inBoundUserTimecode, "1900-01-01T00:00:00:00@50");
     auto const& isset = wire.__isset;
-    EXPECT_TRUE(isset.hdrProfile && isset.inBoundTodTimecode && isset.inBoundUserTimecode);
+    EXPECT_TRUE(isset.umId && isset.sourceUmId && isset.fillAndKeyUmId && isset.materialId && isset.name &&
+                isset.varId && isset.keywords && isset.userBits && isset.is3D && isset.isDual && isset.isTwinRec &&
+                isset.isLegacyTimecodeDrop && isset.trainStatus && isset.hdrProfile && isset.archiveStatus &&
+                isset.userProtect && isset.videoFormat && isset.videoStandard && isset.userTimecodeType &&
+                isset.inBoundField && isset.shortInBoundField && isset.shortOutBoundField && isset.outBoundField &&
+                isset.legacyTimecodeOffset && isset.kviIndex && isset.userLock && isset.thumbnailOffset &&
+                isset.sequence && isset.machineSerial && isset.nbAudioVideoChannels && isset.dolbyMonoSignal &&
+                isset.inBoundTodTimecode && isset.inBoundUserTimecode);
     EXPECT_FALSE(isset.sourceEngine || isset.uhdDivisionMode || isset.alphaArchiveStatus || isset.fillAndKeyStatus ||
                  isset.camera || isset.afdAspectRatio || isset.codedFrameAspectRatio || isset.primaryTimecode ||
                  isset.rating || isset.preferentialCamera);
     EXPECT_FALSE(isset.sourceInBoundTodTimecode || isset.sourceInBoundUserTimecode || isset.inBoundTimepoint ||
                  isset.intraEssence || isset.longGopEssence || isset.lowResEssence);
 
+    // Not sent either, though a fresh clip holds other values.
     Clip clip;
     clip.hdrProfile = Corvane::Data::Clips::HdrProfile::Unknown;
-    EXPECT_FALSE(Sent(clip).__isset.hdrProfile);
+    ASSERT_TRUE(clip.TrySetInBoundTodTimecode(TimePoints::TimeCode::Empty()));
+    ASSERT_TRUE(clip.TrySetInBoundUserTimecode(TimePoints::TimeCode::Empty()));
+    auto const absent = Sent(clip).__isset;
+    EXPECT_FALSE(absent.hdrProfile || absent.inBoundTodTimecode || absent.inBoundUserTimecode);
 }
 
 TEST(ClipConversion, AbsentFieldsKeepWhatAReusedWireRecordHeld)
@@ -152,7 +219,9 @@ TEST(ClipConversion, TextsAreCutPaddedAndEndedAsTheirSlotsSay)
     wire.__isset.umId = wire.__isset.sourceUmId = wire.__isset.materialId = true;
     wire.__isset.name = wire.__isset.varId = true;
 
-    auto const clip = Received(wire, FullClip());
+    auto before = FullClip();
+    before.varId.end.fill('!');
+    auto const clip = Received(wire, before);
     EXPECT_EQ(Text(clip.umId), std::string("TWELVE C\0", 9));
     EXPECT_EQ(Text(clip.sourceUmId), std::string(9, '\0'));
     EXPECT_EQ(Text(clip.materialId), std::string("A\0B\0\0\0\0\0\0", 9));
@@ -184,8 +253,10 @@ TEST(ClipConversion, ListsPatchTheSlotsThatTheyReach)
     for (auto const slot : {2, 3, 4}) EXPECT_EQ(few.keywords[slot], Clip().keywords[slot]);
     EXPECT_THAT(few.userBits, ElementsAre(0xFF, 0x34, 0, 0, 0, 0, 0, 0));
 
-    wire.keywords.assign(7, wire.keywords[1]);
-    wire.userBits.assign(10, -1);
+    wire.keywords.assign(5, wire.keywords[1]);
+    wire.keywords.resize(7);
+    wire.userBits.assign(8, -1);
+    wire.userBits.resize(10);
     auto const many = Received(wire);
     for (auto const& slot : many.keywords) EXPECT_EQ(Text(slot.payload), "longer than ");
     EXPECT_THAT(many.userBits, Each(0xFF));
@@ -205,16 +276,19 @@ TEST(ClipConversion, LegacyDropIsTakenOnlyByAClipThatIsNtscBefore)
     EXPECT_TRUE(Received(wire, NtscClip()).isLegacyTimecodeDrop);
 }
 
-TEST(ClipConversion, HighWordsAreLost)
+TEST(ClipConversion, WordsAreZeroExtendedAndHighWordsAreLost)
 {
-    Generated::Clip wire;
-    wire.legacyTimecodeOffset = 0x1'0000'0002;
-    wire.machineSerial = -1;
-    wire.__isset.legacyTimecodeOffset = wire.__isset.machineSerial = true;
-    auto const clip = Received(wire);
-    EXPECT_EQ(clip.legacyTimecodeOffset, 2u);
-    EXPECT_EQ(clip.machineSerial, 0xFFFFFFFFu);
-    EXPECT_EQ(Sent(clip).machineSerial, 0xFFFFFFFF);
+    Clip clip;
+    clip.legacyTimecodeOffset = clip.userLock = clip.thumbnailOffset = clip.sequence = clip.machineSerial = 0xFFFFFFFE;
+    auto wire = Sent(clip);
+    using Wire = Generated::Clip;
+    for (auto const field :
+         {&Wire::legacyTimecodeOffset, &Wire::userLock, &Wire::thumbnailOffset, &Wire::sequence, &Wire::machineSerial})
+    {
+        EXPECT_EQ(wire.*field, 0xFFFFFFFE);
+        wire.*field += 0x1'0000'0000;
+    }
+    EXPECT_EQ(Received(wire), clip);
 }
 
 TEST(ClipConversion, EmptyWhenNothingCounts)

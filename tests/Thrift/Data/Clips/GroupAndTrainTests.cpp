@@ -4,6 +4,7 @@
 #include "Domain/CorvaneData/Clips/Train.h"
 #include "Thrift/Data/Clips/FromAngle.h"
 #include "Thrift/Data/Clips/FromAnglesGroup.h"
+#include "Thrift/Data/Clips/FromClip.h"
 #include "Thrift/Data/Clips/FromRecordingRange.h"
 #include "Thrift/Data/Clips/FromTrain.h"
 #include "Thrift/Data/Clips/ToAngle.h"
@@ -54,6 +55,19 @@ Groups::AnglesGroup FullGroup()
     return group;
 }
 
+/// What a group sends: camera, first byte of the identifier and mark of each item.
+std::string Told(Groups::AnglesGroup const& group)
+{
+    WireGroups::AnglesGroup wire;
+    wire.angles[Generated::Camera::Y]; // cleared before the group is written
+    EXPECT_TRUE(AnglesGroupToThriftConverter().To(group, wire).success);
+    EXPECT_EQ(wire.id.value, std::string(16, 'g'));
+    std::string told;
+    for (auto const& [camera, item] : wire.angles)
+        told += std::to_string(camera) + item.clipId.value.substr(0, 1) + std::to_string(item.preferencialCamera) + ' ';
+    return told;
+}
+
 TEST(AngleConversion, RoundTrip)
 {
     Groups::Angle const angle{Camera::L, SomeGuid<Clips::Guid>('l')};
@@ -67,15 +81,15 @@ TEST(AngleConversion, RoundTrip)
 
 TEST(AnglesGroupConversion, SendsOneItemACameraInTheOrderOfCameras)
 {
-    WireGroups::AnglesGroup wire;
-    wire.angles[Generated::Camera::Y]; // cleared before the group is written
-    EXPECT_TRUE(AnglesGroupToThriftConverter().To(FullGroup(), wire).success);
-    EXPECT_EQ(wire.id.value, std::string(16, 'g'));
-    std::string told;
-    for (auto const& [camera, item] : wire.angles)
-        told += std::to_string(camera) + item.clipId.value.substr(0, 1) + std::to_string(item.preferencialCamera) + ' ';
     using namespace std::string_literals;
-    EXPECT_EQ(told, "1a0 2b2 3\0000 15z1 "s);
+    auto group = FullGroup();
+    EXPECT_EQ(Told(group), "1a0 2b2 3\0000 15z1 "s);
+
+    // What only slots that are filled by hand can hold.
+    group.angleSlots[3] = {false, Camera::NotSet, Clips::Guid(), PreferentialCamera::None}; // the empty angle: not sent
+    group.angleSlots[4] = {false, Camera::NotSet, SomeGuid<Clips::Guid>('n'), PreferentialCamera::None};
+    group.angleSlots[5] = {false, Camera::Z, SomeGuid<Clips::Guid>('y'), PreferentialCamera::None}; // the later wins
+    EXPECT_EQ(Told(group), "0n0 1a0 2b2 3\0000 15y0 "s);
 }
 
 TEST(AnglesGroupConversion, RoundTripReplacesTheDestination)
@@ -103,6 +117,11 @@ TEST(RecordingRangeConversion, RoundTrip)
 {
     ExpectRoundTrip<RecordingRangeToThriftConverter, ThriftToRecordingRangeConverter, Generated::RecordingRange>(
         FullRange());
+
+    Generated::RecordingRange full;
+    EXPECT_TRUE(RecordingRangeToThriftConverter().To(FullRange(), full).success);
+    EXPECT_EQ(Printed(full), "RecordingRange(inBoundTimepoint=1, outBoundTimepoint=-2, "
+                             "inBoundTimecode=2001-01-01T01:02:03:04@25, outBoundTimecode=2001-01-01T01:02:59;29@30)");
 
     // Empty bounds travel. An empty time code comes back as the time code of the origin, which is not empty.
     Generated::RecordingRange wire;
@@ -148,10 +167,13 @@ TEST(RecordingRangeConversion, IncompleteOrBadRangesLeaveTheDestination)
     }
 }
 
-Train FullTrain()
+Train FullTrain(bool const isInMoving = true)
 {
-    return {
-        std::make_unique<Clip>(), {FullRange(), FullRange()}, true, true, ParsedTimeCode("2001-01-01T00:00:00:00@25")};
+    return {std::make_unique<Clip>(),
+            {FullRange(), FullRange()},
+            isInMoving,
+            !isInMoving,
+            ParsedTimeCode("2001-01-01T00:00:00:00@25")};
 }
 
 Train EmptyTrain()
@@ -169,19 +191,25 @@ void ExpectEmpty(Train const& train)
 
 TEST(TrainConversion, RoundTrip)
 {
-    auto const source = FullTrain();
-    Generated::Train wire;
-    EXPECT_TRUE(TrainToThriftConverter().To(source, wire).success);
-    for (auto const& protocol : Protocols())
+    for (bool const isInMoving : {true, false})
     {
-        auto train = EmptyTrain();
-        EXPECT_TRUE(
-            ThriftToTrainConverter().To(Read<Generated::Train>(Written(wire, *protocol), *protocol), train).success);
-        ASSERT_NE(train.trainClip, nullptr);
-        EXPECT_EQ(*train.trainClip, *source.trainClip);
-        EXPECT_EQ(train.trainRanges, source.trainRanges);
-        EXPECT_TRUE(train.isInMoving && train.isOutMoving);
-        EXPECT_EQ(train.lastKnownTimeCode, source.lastKnownTimeCode);
+        auto const source = FullTrain(isInMoving);
+        Generated::Train wire;
+        EXPECT_TRUE(TrainToThriftConverter().To(source, wire).success);
+        EXPECT_EQ(wire.isInMoving, isInMoving);
+        EXPECT_EQ(wire.isOutMoving, !isInMoving);
+        for (auto const& protocol : Protocols())
+        {
+            auto train = EmptyTrain();
+            auto const received = Read<Generated::Train>(Written(wire, *protocol), *protocol);
+            EXPECT_TRUE(ThriftToTrainConverter().To(received, train).success);
+            ASSERT_NE(train.trainClip, nullptr);
+            EXPECT_EQ(*train.trainClip, *source.trainClip);
+            EXPECT_EQ(train.trainRanges, source.trainRanges);
+            EXPECT_EQ(train.isInMoving, isInMoving);
+            EXPECT_EQ(train.isOutMoving, !isInMoving);
+            EXPECT_EQ(train.lastKnownTimeCode, source.lastKnownTimeCode);
+        }
     }
 }
 
@@ -216,34 +244,49 @@ TEST(TrainConversion, BadRangesAndABadLastTimeCodeAreNoFailure)
 
 TEST(TrainConversion, OneFieldIsEnoughAndNoneEmptiesTheDestination)
 {
-    Generated::Train onlyRanges, onlyTimeCode, onlyOut;
+    Generated::Train onlyRanges, onlyTimeCode, onlyIn, onlyOut, onlyClip;
     onlyRanges.__isset.recordingRanges = true;
     onlyTimeCode.lastKnownTimeCode = "noon";
     onlyTimeCode.__isset.lastKnownTimeCode = true;
+    onlyIn.__isset.isInMoving = true;
     onlyOut.__isset.isOutMoving = true;
-    for (auto const& wire : {onlyRanges, onlyTimeCode, onlyOut})
+    for (auto const& wire : {onlyRanges, onlyTimeCode, onlyIn, onlyOut})
     {
         auto train = FullTrain();
         EXPECT_TRUE(ThriftToTrainConverter().To(wire, train).success);
         ExpectEmpty(train);
     }
 
+    ASSERT_TRUE(ClipToThriftConverter().To(NtscClip(), onlyClip.trainData).success);
+    onlyClip.__isset.trainData = true;
     auto train = FullTrain();
-    auto const result = ThriftToTrainConverter().To(Generated::Train(), train);
-    EXPECT_FALSE(result.success);
-    EXPECT_EQ(result.message, "Train is empty");
-    ExpectEmpty(train);
+    EXPECT_TRUE(ThriftToTrainConverter().To(onlyClip, train).success);
+    ASSERT_NE(train.trainClip, nullptr);
+    EXPECT_EQ(*train.trainClip, NtscClip());
+
+    for (bool const isInMoving : {true, false})
+    {
+        Generated::Train wire;
+        ASSERT_TRUE(TrainToThriftConverter().To(FullTrain(isInMoving), wire).success);
+        wire.__isset = {}; // the flags decide, not the values
+        auto const result = ThriftToTrainConverter().To(wire, train);
+        EXPECT_FALSE(result.success);
+        EXPECT_EQ(result.message, "Train is empty");
+        ExpectEmpty(train);
+    }
 }
 
 TEST(TrainConversion, BadClipLeavesTheDestination)
 {
     Generated::Train wire;
     wire.__isset.trainData = wire.__isset.isInMoving = true;
-    auto train = EmptyTrain();
-    train.isOutMoving = true;
+    auto train = FullTrain(false);
+    auto const* const clip = train.trainClip.get();
     auto const result = ThriftToTrainConverter().To(wire, train);
     EXPECT_FALSE(result.success);
     EXPECT_EQ(result.message, "Clip is empty");
+    EXPECT_EQ(train.trainClip.get(), clip);
+    EXPECT_EQ(train.trainRanges.size(), 2u);
     EXPECT_TRUE(train.isOutMoving);
 }
 
