@@ -11,7 +11,6 @@
 
 #include <gtest/gtest.h>
 
-#include <sstream>
 #include <string>
 
 namespace Talvo::Tests
@@ -34,13 +33,6 @@ PlayerDataOverrides Received(Wire::PlayerDataOverrides const& wire, PlayerDataOv
 {
     EXPECT_TRUE(ToPlayerDataOverrides().To(wire, overrides).success);
     return overrides;
-}
-
-std::string Printed(auto const& record)
-{
-    std::ostringstream text;
-    text << record;
-    return text.str();
 }
 
 TEST(PlayerDataOverridesConversion, RoundTrip)
@@ -95,8 +87,18 @@ TEST(PlayerDataOverridesConversion, FieldsOfTheWireAreAppliedOneByOne)
     EXPECT_EQ(assembled, FullOverrides('p'));
 }
 
-TEST(PlayerDataOverridesConversion, UnknownModesChangeNothingButTheFlag)
+TEST(PlayerDataOverridesConversion, ModesHaveTheNumbersOfTheWireAndUnknownOnesChangeNothingButTheFlag)
 {
+    for (auto const number : {0, 1, 2})
+    {
+        auto overrides = NoOverrides('p');
+        overrides.ControlMode(static_cast<ControlType>(number));
+        overrides.ProgramMode(static_cast<ProgramType>(number % 2));
+        auto const wire = Sent(overrides);
+        EXPECT_EQ(wire.controlMode, number);
+        EXPECT_EQ(wire.programMode, number % 2);
+        EXPECT_EQ(Received(wire), overrides);
+    }
     for (auto const unknown : {-1, 3, 5, 65536})
     {
         auto overrides = NoOverrides('p');

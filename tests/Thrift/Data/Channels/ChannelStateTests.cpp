@@ -14,7 +14,6 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <sstream>
 #include <string>
 #include <tuple>
 #include <utility>
@@ -60,13 +59,6 @@ PlayerState Received(Generated::PlayerState const& wire, PlayerState const& stat
 RecorderState Received(Generated::RecorderState const& wire, RecorderState const& state)
 {
     return Converted<ThriftToRecorderStateConverter>(wire, state);
-}
-
-std::string Printed(auto const& record)
-{
-    std::ostringstream text;
-    text << record;
-    return text.str();
 }
 
 // The same states without all that may stay off the wire.

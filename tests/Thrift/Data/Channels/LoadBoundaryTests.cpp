@@ -72,6 +72,9 @@ TEST(LoadBoundaryConversion, ReusedWireRecordKeepsTheOtherMember)
     EXPECT_EQ(specialized.absoluteLoadBoundary.timepoint, 5);
     EXPECT_TRUE(ThriftToLoadBoundaryConverter().To(wire, boundary).success);
     EXPECT_EQ(boundary, Before);
+    EXPECT_TRUE(LoadBoundaryToThriftConverter().To(Boundary::AbsoluteBoundary({8}), wire).success);
+    EXPECT_TRUE(specialized.__isset.relativeLoadBoundary);
+    EXPECT_EQ(specialized.relativeLoadBoundary.fieldCount, std::int64_t{Before.FieldCount()});
 }
 
 TEST(LoadBoundaryConversion, TypeDecidesWhichMemberIsNeeded)

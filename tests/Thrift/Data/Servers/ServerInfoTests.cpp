@@ -10,7 +10,6 @@
 
 #include <cstdint>
 #include <limits>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -46,12 +45,11 @@ TEST(ServerInfoConversion, RoundTrip)
     ExpectRoundTrip<ServerInfoToThriftConverter, ThriftToServerInfoConverter, Generated::ServerInfo>(FullServerInfo());
     ExpectRoundTrip<ServerInfoToThriftConverter, ThriftToServerInfoConverter, Generated::ServerInfo>(ServerInfo(),
                                                                                                      FullServerInfo());
-    std::ostringstream text;
-    text << Sent(FullServerInfo());
-    EXPECT_EQ(text.str(), "ServerInfo(serverId=-7, userNumber=-8, corvaneVersion=A version text of 32 bytes, full, "
-                          "serverChassis=18, hardwareRevision=16 bytes of text, hostName=" +
-                              std::string(254, 'h') +
-                              ", kronoIpAddress=-1062731518, gbeIpAddresses=[167772161, -66052], isLocal=1)");
+    EXPECT_EQ(Printed(Sent(FullServerInfo())),
+              "ServerInfo(serverId=-7, userNumber=-8, corvaneVersion=A version text of 32 bytes, full, "
+              "serverChassis=18, hardwareRevision=16 bytes of text, hostName=" +
+                  std::string(254, 'h') +
+                  ", kronoIpAddress=-1062731518, gbeIpAddresses=[167772161, -66052], isLocal=1)");
 }
 
 TEST(ServerInfoConversion, ANewOneIsNoServer)
