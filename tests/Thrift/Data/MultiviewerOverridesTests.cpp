@@ -94,7 +94,7 @@ TEST(PlayerDataOverridesConversion, ModesHaveTheNumbersOfTheWireAndUnknownOnesCh
         auto overrides = NoOverrides('p');
         overrides.ControlMode(static_cast<ControlType>(number));
         overrides.ProgramMode(static_cast<ProgramType>(number % 2));
-        auto const wire = Sent(overrides);
+        auto const wire = Sent(overrides, Sent(FullOverrides('p')));
         EXPECT_EQ(wire.controlMode, number);
         EXPECT_EQ(wire.programMode, number % 2);
         EXPECT_EQ(Received(wire), overrides);
