@@ -16,7 +16,7 @@ ThriftToLiveCommandParamsConverter::To(Generated::LiveCommandParams const& sourc
                                        HighLevelOperations::Commands::LiveCommandParams& destination) const noexcept
 {
     ReadGuid(source.commandGuid, destination.commandGuid);
-    // Without players the whole destination starts anew, so the identifier that was sent is lost and a new one takes its
+    // Without players the whole destination starts anew: the identifier that was sent is lost, a new one takes its
     // place.
     if (!source.__isset.players)
         destination = HighLevelOperations::Commands::LiveCommandParams();

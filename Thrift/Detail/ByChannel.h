@@ -12,8 +12,8 @@
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Detail
 {
 
-// The sets and maps of channels that transport commands carry. Going out they tell whether there was any channel, which is
-// what sets the wire's flag; coming in a clear flag empties the destination and a set one only adds to it.
+// The sets and maps of channels that transport commands carry. Going out they tell whether there was any channel, which
+// is what sets the wire's flag; coming in a clear flag empties the destination and a set one only adds to it.
 
 using ChannelSet = std::unordered_set<Corvane::Data::Channels::Guid>;
 template<typename TValue>

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "Domain/CorvaneData/Notification/AnglesGroupDeletionEventArgs.h"
+
+namespace Talvo::Corvane::Notification
+{
+
+/// An angles group was deleted.
+struct AnglesGroupDeletionFinishedEventArgs : AnglesGroupDeletionEventArgs
+{
+    using AnglesGroupDeletionEventArgs::AnglesGroupDeletionEventArgs;
+
+    bool operator==(AnglesGroupDeletionFinishedEventArgs const&) const = default;
+};
+
+} // namespace Talvo::Corvane::Notification

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "Domain/CorvaneData/Clips/Clip.h"
+#include "Domain/CorvaneData/Notification/ClipCommandEventArgs.h"
+
+namespace Talvo::Corvane::Notification
+{
+
+/// A clip is being moved.
+struct ClipMoveEventArgs : ClipCommandEventArgs
+{
+    ClipMoveEventArgs(unsigned int machineSerialNumber, RequestSource source, unsigned int number,
+                      unsigned short ticket, Data::Guid const& guid, long long revision,
+                      Data::Clips::Clip const& firstClip, Data::Clips::Clip const& secondClip)
+        : ClipCommandEventArgs(machineSerialNumber, source, number, ticket, guid, revision)
+        , sourceClip(firstClip)
+        , destClip(secondClip)
+    {
+    }
+
+    bool operator==(ClipMoveEventArgs const&) const = default;
+
+    Data::Clips::Clip sourceClip;
+    Data::Clips::Clip destClip;
+};
+
+} // namespace Talvo::Corvane::Notification

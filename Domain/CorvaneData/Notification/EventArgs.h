@@ -1,0 +1,19 @@
+#pragma once
+
+namespace Talvo::System
+{
+
+/// What an event tells; the root of its class tree.
+struct EventArgs
+{
+    EventArgs() = default;
+    EventArgs(EventArgs const&) = default;
+    EventArgs(EventArgs&&) = default;
+    EventArgs& operator=(EventArgs const&) = default;
+    EventArgs& operator=(EventArgs&&) = default;
+    virtual ~EventArgs() = default;
+
+    bool operator==(EventArgs const&) const = default;
+};
+
+} // namespace Talvo::System

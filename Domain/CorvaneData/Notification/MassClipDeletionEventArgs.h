@@ -1,0 +1,25 @@
+#pragma once
+
+#include "Domain/CorvaneData/Notification/ClipCommandEventArgs.h"
+
+#include <cstdint>
+
+namespace Talvo::Corvane::Notification
+{
+
+/// All clips of a machine were deleted.
+struct MassClipDeletionEventArgs : ClipCommandEventArgs
+{
+    MassClipDeletionEventArgs(unsigned int machineSerialNumber, RequestSource source, unsigned int number,
+                              unsigned short ticket, Data::Guid const& guid, long long revision, unsigned int serial)
+        : ClipCommandEventArgs(machineSerialNumber, source, number, ticket, guid, revision)
+        , machineSerial(serial)
+    {
+    }
+
+    bool operator==(MassClipDeletionEventArgs const&) const = default;
+
+    std::uint32_t machineSerial;
+};
+
+} // namespace Talvo::Corvane::Notification

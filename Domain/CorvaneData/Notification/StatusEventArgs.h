@@ -1,0 +1,14 @@
+#pragma once
+
+#include "Domain/CorvaneData/Notification/EventArgs.h"
+
+namespace Talvo::Corvane::Notification
+{
+
+/// Something has another state.
+struct StatusEventArgs : System::EventArgs
+{
+    bool operator==(StatusEventArgs const&) const = default;
+};
+
+} // namespace Talvo::Corvane::Notification

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Notification
+{
+struct AnglesGroupCreationEventArgs;
+} // namespace Talvo::Corvane::Notification
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+namespace Generated
+{
+class AnglesGroupCreationEventArgs;
+} // namespace Generated
+
+/// Writes a domain `AnglesGroupCreationEventArgs` into the wire record `AnglesGroupCreationEventArgs`. It can't fail.
+class AnglesGroupCreationEventArgsToThriftConverter
+    : public Converter<Notification::AnglesGroupCreationEventArgs, Generated::AnglesGroupCreationEventArgs>
+{
+public:
+    ~AnglesGroupCreationEventArgsToThriftConverter() override = default;
+
+    ConversionResult To(Notification::AnglesGroupCreationEventArgs const& source,
+                        Generated::AnglesGroupCreationEventArgs& destination) const noexcept override;
+
+    ConversionResult To(Notification::AnglesGroupCreationEventArgs&& source,
+                        Generated::AnglesGroupCreationEventArgs& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

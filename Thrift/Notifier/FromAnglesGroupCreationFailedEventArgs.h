@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Notification
+{
+struct AnglesGroupCreationFailedEventArgs;
+} // namespace Talvo::Corvane::Notification
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+namespace Generated
+{
+class AnglesGroupCreationFailedEventArgs;
+} // namespace Generated
+
+/// Writes a domain `AnglesGroupCreationFailedEventArgs` into the wire record `AnglesGroupCreationFailedEventArgs`. It
+/// can't fail. There is no way back: no converter reads this record.
+class AnglesGroupCreationFailedEventArgsToThriftConverter
+    : public Converter<Notification::AnglesGroupCreationFailedEventArgs, Generated::AnglesGroupCreationFailedEventArgs>
+{
+public:
+    ~AnglesGroupCreationFailedEventArgsToThriftConverter() override = default;
+
+    ConversionResult To(Notification::AnglesGroupCreationFailedEventArgs const& source,
+                        Generated::AnglesGroupCreationFailedEventArgs& destination) const noexcept override;
+
+    ConversionResult To(Notification::AnglesGroupCreationFailedEventArgs&& source,
+                        Generated::AnglesGroupCreationFailedEventArgs& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -1,0 +1,19 @@
+#include "Thrift/Notifier/FromAnglesGroupCreationFinishedEventArgs.h"
+
+#include "Domain/CorvaneData/Notification/AnglesGroupCreationFinishedEventArgs.h"
+#include "Thrift/Notifier/FromAnglesGroupCreationEventArgs.h"
+#include "generated/AnglesGroupCreationEventArgs_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+ConversionResult AnglesGroupCreationFinishedEventArgsToThriftConverter::To(
+    Notification::AnglesGroupCreationFinishedEventArgs const& source,
+    Generated::AnglesGroupCreationFinishedEventArgs& destination) const noexcept
+{
+    static AnglesGroupCreationEventArgsToThriftConverter const anglesGroupCreationEventArgsToThriftConverter;
+
+    return anglesGroupCreationEventArgsToThriftConverter.To(source, destination.creationEventArgs);
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

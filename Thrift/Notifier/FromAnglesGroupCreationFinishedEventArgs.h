@@ -1,0 +1,37 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Notification
+{
+struct AnglesGroupCreationFinishedEventArgs;
+} // namespace Talvo::Corvane::Notification
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+namespace Generated
+{
+class AnglesGroupCreationFinishedEventArgs;
+} // namespace Generated
+
+/// Writes a domain `AnglesGroupCreationFinishedEventArgs` into the wire record `AnglesGroupCreationFinishedEventArgs`.
+/// As AnglesGroupCreationEventArgsToThriftConverter.
+class AnglesGroupCreationFinishedEventArgsToThriftConverter
+    : public Converter<Notification::AnglesGroupCreationFinishedEventArgs,
+                       Generated::AnglesGroupCreationFinishedEventArgs>
+{
+public:
+    ~AnglesGroupCreationFinishedEventArgsToThriftConverter() override = default;
+
+    ConversionResult To(Notification::AnglesGroupCreationFinishedEventArgs const& source,
+                        Generated::AnglesGroupCreationFinishedEventArgs& destination) const noexcept override;
+
+    ConversionResult To(Notification::AnglesGroupCreationFinishedEventArgs&& source,
+                        Generated::AnglesGroupCreationFinishedEventArgs& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

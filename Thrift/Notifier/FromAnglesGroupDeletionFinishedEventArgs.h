@@ -1,0 +1,37 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Notification
+{
+struct AnglesGroupDeletionFinishedEventArgs;
+} // namespace Talvo::Corvane::Notification
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+namespace Generated
+{
+class AnglesGroupDeletionFinishedEventArgs;
+} // namespace Generated
+
+/// Writes a domain `AnglesGroupDeletionFinishedEventArgs` into the wire record `AnglesGroupDeletionFinishedEventArgs`.
+/// It can't fail. The fields of its `deletionEventArgs` are written.
+class AnglesGroupDeletionFinishedEventArgsToThriftConverter
+    : public Converter<Notification::AnglesGroupDeletionFinishedEventArgs,
+                       Generated::AnglesGroupDeletionFinishedEventArgs>
+{
+public:
+    ~AnglesGroupDeletionFinishedEventArgsToThriftConverter() override = default;
+
+    ConversionResult To(Notification::AnglesGroupDeletionFinishedEventArgs const& source,
+                        Generated::AnglesGroupDeletionFinishedEventArgs& destination) const noexcept override;
+
+    ConversionResult To(Notification::AnglesGroupDeletionFinishedEventArgs&& source,
+                        Generated::AnglesGroupDeletionFinishedEventArgs& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

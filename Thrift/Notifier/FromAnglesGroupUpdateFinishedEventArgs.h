@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Notification
+{
+struct AnglesGroupUpdateFinishedEventArgs;
+} // namespace Talvo::Corvane::Notification
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+namespace Generated
+{
+class AnglesGroupUpdateFinishedEventArgs;
+} // namespace Generated
+
+/// Writes a domain `AnglesGroupUpdateFinishedEventArgs` into the wire record `AnglesGroupUpdateFinishedEventArgs`. It
+/// can't fail. The fields of its `updateEventArgs` are written.
+class AnglesGroupUpdateFinishedEventArgsToThriftConverter
+    : public Converter<Notification::AnglesGroupUpdateFinishedEventArgs, Generated::AnglesGroupUpdateFinishedEventArgs>
+{
+public:
+    ~AnglesGroupUpdateFinishedEventArgsToThriftConverter() override = default;
+
+    ConversionResult To(Notification::AnglesGroupUpdateFinishedEventArgs const& source,
+                        Generated::AnglesGroupUpdateFinishedEventArgs& destination) const noexcept override;
+
+    ConversionResult To(Notification::AnglesGroupUpdateFinishedEventArgs&& source,
+                        Generated::AnglesGroupUpdateFinishedEventArgs& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Notification
+{
+struct ClipCreationFailedEventArgs;
+} // namespace Talvo::Corvane::Notification
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+namespace Generated
+{
+class ClipCreationFailedEventArgs;
+} // namespace Generated
+
+/// Writes a domain `ClipCreationFailedEventArgs` into the wire record `ClipCreationFailedEventArgs`. It can't fail.
+class ClipCreationFailedEventArgsToThriftConverter
+    : public Converter<Notification::ClipCreationFailedEventArgs, Generated::ClipCreationFailedEventArgs>
+{
+public:
+    ~ClipCreationFailedEventArgsToThriftConverter() override = default;
+
+    ConversionResult To(Notification::ClipCreationFailedEventArgs const& source,
+                        Generated::ClipCreationFailedEventArgs& destination) const noexcept override;
+
+    ConversionResult To(Notification::ClipCreationFailedEventArgs&& source,
+                        Generated::ClipCreationFailedEventArgs& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -1,0 +1,32 @@
+#include "Thrift/Notifier/FromClipCreationFinishedEventArgs.h"
+
+#include "Domain/CorvaneData/Notification/ClipCreationFinishedEventArgs.h"
+#include "Thrift/Detail/ClipEvents.h"
+#include "Thrift/Detail/CreationTexts.h"
+#include "Thrift/Detail/Flagged.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/ClipCreationEventArgs_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+using namespace Detail;
+
+ConversionResult
+ClipCreationFinishedEventArgsToThriftConverter::To(Notification::ClipCreationFinishedEventArgs const& source,
+                                                   Generated::ClipCreationFinishedEventArgs& destination) const noexcept
+{
+    NestedRecords nested;
+    auto& isset = destination.__isset;
+
+    if (nested(source, destination.clipCommand)) isset.clipCommand = true;
+    if (nested(source.sourceClip, destination.sourceClip)) isset.sourceClip = true;
+    if (nested(source.newClip, destination.newClip)) isset.newClip = true;
+    if (auto result = nested.Result(); !result.success) return result;
+    TALVO_FLAGGED(destination, creationType) = Word(source.creationType);
+    TALVO_FLAGGED(destination, networkType) = Word(source.networkType);
+    TALVO_FLAGGED(destination, databaseRevision) = source.databaseRevision;
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Notification
+{
+struct ClipCreationFinishedEventArgs;
+} // namespace Talvo::Corvane::Notification
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+namespace Generated
+{
+class ClipCreationFinishedEventArgs;
+} // namespace Generated
+
+/// Writes a domain `ClipCreationFinishedEventArgs` into the wire record `ClipCreationFinishedEventArgs`. It can't fail.
+class ClipCreationFinishedEventArgsToThriftConverter
+    : public Converter<Notification::ClipCreationFinishedEventArgs, Generated::ClipCreationFinishedEventArgs>
+{
+public:
+    ~ClipCreationFinishedEventArgsToThriftConverter() override = default;
+
+    ConversionResult To(Notification::ClipCreationFinishedEventArgs const& source,
+                        Generated::ClipCreationFinishedEventArgs& destination) const noexcept override;
+
+    ConversionResult To(Notification::ClipCreationFinishedEventArgs&& source,
+                        Generated::ClipCreationFinishedEventArgs& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Notification
+{
+struct ClipCreationEventArgs;
+} // namespace Talvo::Corvane::Notification
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+namespace Generated
+{
+class ClipCreationStartedEventArgs;
+} // namespace Generated
+
+/// Writes a domain `ClipCreationEventArgs` into the wire record `ClipCreationStartedEventArgs`. It can't fail.
+class ClipCreationStartedEventArgsToThriftConverter
+    : public Converter<Notification::ClipCreationEventArgs, Generated::ClipCreationStartedEventArgs>
+{
+public:
+    ~ClipCreationStartedEventArgsToThriftConverter() override = default;
+
+    ConversionResult To(Notification::ClipCreationEventArgs const& source,
+                        Generated::ClipCreationStartedEventArgs& destination) const noexcept override;
+
+    ConversionResult To(Notification::ClipCreationEventArgs&& source,
+                        Generated::ClipCreationStartedEventArgs& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Notification
+{
+struct ClipDeletionFailedEventArgs;
+} // namespace Talvo::Corvane::Notification
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+namespace Generated
+{
+class ClipDeletionFailedEventArgs;
+} // namespace Generated
+
+/// Writes a domain `ClipDeletionFailedEventArgs` into the wire record `ClipDeletionFailedEventArgs`. It can't fail.
+class ClipDeletionFailedEventArgsToThriftConverter
+    : public Converter<Notification::ClipDeletionFailedEventArgs, Generated::ClipDeletionFailedEventArgs>
+{
+public:
+    ~ClipDeletionFailedEventArgsToThriftConverter() override = default;
+
+    ConversionResult To(Notification::ClipDeletionFailedEventArgs const& source,
+                        Generated::ClipDeletionFailedEventArgs& destination) const noexcept override;
+
+    ConversionResult To(Notification::ClipDeletionFailedEventArgs&& source,
+                        Generated::ClipDeletionFailedEventArgs& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -1,0 +1,28 @@
+#include "Thrift/Notifier/FromClipDeletionFinishedEventArgs.h"
+
+#include "Domain/CorvaneData/Notification/ClipDeletionFinishedEventArgs.h"
+#include "Thrift/Detail/ClipEvents.h"
+#include "Thrift/Detail/Flagged.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/ClipDeletionEventArgs_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+using namespace Detail;
+
+ConversionResult
+ClipDeletionFinishedEventArgsToThriftConverter::To(Notification::ClipDeletionFinishedEventArgs const& source,
+                                                   Generated::ClipDeletionFinishedEventArgs& destination) const noexcept
+{
+    NestedRecords nested;
+    auto& isset = destination.__isset;
+
+    if (nested(source, destination.clipCommand)) isset.clipCommand = true;
+    if (nested(source.removedClip, destination.removedClip)) isset.removedClip = true;
+    if (auto result = nested.Result(); !result.success) return result;
+    TALVO_FLAGGED(destination, databaseRevision) = source.databaseRevision;
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Notification
+{
+struct ClipDeletionFinishedEventArgs;
+} // namespace Talvo::Corvane::Notification
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+namespace Generated
+{
+class ClipDeletionFinishedEventArgs;
+} // namespace Generated
+
+/// Writes a domain `ClipDeletionFinishedEventArgs` into the wire record `ClipDeletionFinishedEventArgs`. It can't fail.
+class ClipDeletionFinishedEventArgsToThriftConverter
+    : public Converter<Notification::ClipDeletionFinishedEventArgs, Generated::ClipDeletionFinishedEventArgs>
+{
+public:
+    ~ClipDeletionFinishedEventArgsToThriftConverter() override = default;
+
+    ConversionResult To(Notification::ClipDeletionFinishedEventArgs const& source,
+                        Generated::ClipDeletionFinishedEventArgs& destination) const noexcept override;
+
+    ConversionResult To(Notification::ClipDeletionFinishedEventArgs&& source,
+                        Generated::ClipDeletionFinishedEventArgs& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

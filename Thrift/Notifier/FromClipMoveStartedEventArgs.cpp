@@ -1,0 +1,29 @@
+#include "Thrift/Notifier/FromClipMoveStartedEventArgs.h"
+
+#include "Domain/CorvaneData/Notification/ClipMoveEventArgs.h"
+#include "Thrift/Detail/ClipEvents.h"
+#include "Thrift/Detail/Flagged.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/ClipMoveEventArgs_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+using namespace Detail;
+
+ConversionResult
+ClipMoveStartedEventArgsToThriftConverter::To(Notification::ClipMoveEventArgs const& source,
+                                              Generated::ClipMoveStartedEventArgs& destination) const noexcept
+{
+    NestedRecords nested;
+    auto& isset = destination.__isset;
+
+    if (nested(source, destination.clipCommand)) isset.clipCommand = true;
+    if (nested(source.sourceClip, destination.sourceClip)) isset.sourceClip = true;
+    if (nested(source.destClip, destination.destClip)) isset.destClip = true;
+    if (auto result = nested.Result(); !result.success) return result;
+    TALVO_FLAGGED(destination, databaseRevision) = source.databaseRevision;
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Notification
+{
+struct ClipMoveEventArgs;
+} // namespace Talvo::Corvane::Notification
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+namespace Generated
+{
+class ClipMoveStartedEventArgs;
+} // namespace Generated
+
+/// Writes a domain `ClipMoveEventArgs` into the wire record `ClipMoveStartedEventArgs`. It can't fail.
+class ClipMoveStartedEventArgsToThriftConverter
+    : public Converter<Notification::ClipMoveEventArgs, Generated::ClipMoveStartedEventArgs>
+{
+public:
+    ~ClipMoveStartedEventArgsToThriftConverter() override = default;
+
+    ConversionResult To(Notification::ClipMoveEventArgs const& source,
+                        Generated::ClipMoveStartedEventArgs& destination) const noexcept override;
+
+    ConversionResult To(Notification::ClipMoveEventArgs&& source,
+                        Generated::ClipMoveStartedEventArgs& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Notification
+{
+struct ClipUpdateFailedEventArgs;
+} // namespace Talvo::Corvane::Notification
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+namespace Generated
+{
+class ClipUpdateFailedEventArgs;
+} // namespace Generated
+
+/// Writes a domain `ClipUpdateFailedEventArgs` into the wire record `ClipUpdateFailedEventArgs`. It can't fail.
+class ClipUpdateFailedEventArgsToThriftConverter
+    : public Converter<Notification::ClipUpdateFailedEventArgs, Generated::ClipUpdateFailedEventArgs>
+{
+public:
+    ~ClipUpdateFailedEventArgsToThriftConverter() override = default;
+
+    ConversionResult To(Notification::ClipUpdateFailedEventArgs const& source,
+                        Generated::ClipUpdateFailedEventArgs& destination) const noexcept override;
+
+    ConversionResult To(Notification::ClipUpdateFailedEventArgs&& source,
+                        Generated::ClipUpdateFailedEventArgs& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -1,0 +1,30 @@
+#include "Thrift/Notifier/FromClipUpdateFinishedEventArgs.h"
+
+#include "Domain/CorvaneData/Notification/ClipUpdateFinishedEventArgs.h"
+#include "Thrift/Detail/ClipEvents.h"
+#include "Thrift/Detail/Flagged.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/ClipUpdateEventArgs_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+using namespace Detail;
+
+ConversionResult
+ClipUpdateFinishedEventArgsToThriftConverter::To(Notification::ClipUpdateFinishedEventArgs const& source,
+                                                 Generated::ClipUpdateFinishedEventArgs& destination) const noexcept
+{
+    NestedRecords nested;
+    auto& isset = destination.__isset;
+
+    if (nested(source, destination.clipCommand)) isset.clipCommand = true;
+    if (nested(source.oldClip, destination.oldClip)) isset.oldClip = true;
+    if (nested(source.newClip, destination.newClip)) isset.newClip = true;
+    if (auto result = nested.Result(); !result.success) return result;
+    TALVO_FLAGGED(destination, endOfGrowingClipCreation) = source.endOfGrowingClipCreation;
+    TALVO_FLAGGED(destination, databaseRevision) = source.databaseRevision;
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Notification
+{
+struct ClipUpdateFinishedEventArgs;
+} // namespace Talvo::Corvane::Notification
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+namespace Generated
+{
+class ClipUpdateFinishedEventArgs;
+} // namespace Generated
+
+/// Writes a domain `ClipUpdateFinishedEventArgs` into the wire record `ClipUpdateFinishedEventArgs`. It can't fail.
+class ClipUpdateFinishedEventArgsToThriftConverter
+    : public Converter<Notification::ClipUpdateFinishedEventArgs, Generated::ClipUpdateFinishedEventArgs>
+{
+public:
+    ~ClipUpdateFinishedEventArgsToThriftConverter() override = default;
+
+    ConversionResult To(Notification::ClipUpdateFinishedEventArgs const& source,
+                        Generated::ClipUpdateFinishedEventArgs& destination) const noexcept override;
+
+    ConversionResult To(Notification::ClipUpdateFinishedEventArgs&& source,
+                        Generated::ClipUpdateFinishedEventArgs& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

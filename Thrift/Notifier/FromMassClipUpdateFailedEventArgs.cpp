@@ -1,0 +1,32 @@
+#include "Thrift/Notifier/FromMassClipUpdateFailedEventArgs.h"
+
+#include "Domain/CorvaneData/Notification/MassClipUpdateFailedEventArgs.h"
+#include "Thrift/Data/OperationResultConverter.h"
+#include "Thrift/Detail/ClipEvents.h"
+#include "Thrift/Detail/Flagged.h"
+#include "Thrift/Detail/Results.h"
+#include "Thrift/Detail/Widths.h"
+#include "generated/MassClipUpdateEventArgs_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+using namespace Detail;
+
+ConversionResult
+MassClipUpdateFailedEventArgsToThriftConverter::To(Notification::MassClipUpdateFailedEventArgs const& source,
+                                                   Generated::MassClipUpdateFailedEventArgs& destination) const noexcept
+{
+    NestedRecords nested;
+
+    // One flag with the others: a block that fails leaves all of them as they were.
+    if (!nested(source, destination.clipCommand)) return nested.Result();
+    destination.__isset.clipCommand = true;
+    TALVO_FLAGGED(destination, machineSerial) = Widened(source.machineSerial);
+    TALVO_FLAGGED(destination, result) = Data::OperationResultConverter::To(source.result);
+    TALVO_FLAGGED(destination, internalResult) = source.internalResult;
+    TALVO_FLAGGED(destination, databaseRevision) = source.databaseRevision;
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Notification
+{
+struct MassClipUpdateEventArgs;
+} // namespace Talvo::Corvane::Notification
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+namespace Generated
+{
+class MassClipUpdateFinishedEventArgs;
+} // namespace Generated
+
+/// Writes a domain `MassClipUpdateEventArgs` into the wire record `MassClipUpdateFinishedEventArgs`. It can't fail.
+class MassClipUpdateFinishedEventArgsToThriftConverter
+    : public Converter<Notification::MassClipUpdateEventArgs, Generated::MassClipUpdateFinishedEventArgs>
+{
+public:
+    ~MassClipUpdateFinishedEventArgsToThriftConverter() override = default;
+
+    ConversionResult To(Notification::MassClipUpdateEventArgs const& source,
+                        Generated::MassClipUpdateFinishedEventArgs& destination) const noexcept override;
+
+    ConversionResult To(Notification::MassClipUpdateEventArgs&& source,
+                        Generated::MassClipUpdateFinishedEventArgs& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Notification
+{
+struct RecorderStateChangedEventArgs;
+} // namespace Talvo::Corvane::Notification
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+namespace Generated
+{
+class RecorderStateChangedEventArgs;
+} // namespace Generated
+
+/// Writes a domain `RecorderStateChangedEventArgs` into the wire record `RecorderStateChangedEventArgs`. It can't fail.
+/// Event flags of 0 stay off the wire.
+class RecorderStateChangedEventArgsToThriftConverter
+    : public Converter<Notification::RecorderStateChangedEventArgs, Generated::RecorderStateChangedEventArgs>
+{
+public:
+    ~RecorderStateChangedEventArgsToThriftConverter() override = default;
+
+    ConversionResult To(Notification::RecorderStateChangedEventArgs const& source,
+                        Generated::RecorderStateChangedEventArgs& destination) const noexcept override;
+
+    ConversionResult To(Notification::RecorderStateChangedEventArgs&& source,
+                        Generated::RecorderStateChangedEventArgs& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Notification
+{
+struct ServerAddedEventArgs;
+} // namespace Talvo::Corvane::Notification
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+namespace Generated
+{
+class ServerAddedEventArgs;
+} // namespace Generated
+
+/// Writes a domain `ServerAddedEventArgs` into the wire record `ServerAddedEventArgs`. It can't fail.
+class ServerAddedEventArgsToThriftConverter
+    : public Converter<Notification::ServerAddedEventArgs, Generated::ServerAddedEventArgs>
+{
+public:
+    ~ServerAddedEventArgsToThriftConverter() override = default;
+
+    ConversionResult To(Notification::ServerAddedEventArgs const& source,
+                        Generated::ServerAddedEventArgs& destination) const noexcept override;
+
+    ConversionResult To(Notification::ServerAddedEventArgs&& source,
+                        Generated::ServerAddedEventArgs& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

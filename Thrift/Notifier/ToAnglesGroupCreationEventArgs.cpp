@@ -1,0 +1,30 @@
+#include "Thrift/Notifier/ToAnglesGroupCreationEventArgs.h"
+
+#include "Domain/CorvaneData/Notification/AnglesGroupCreationEventArgs.h"
+#include "Thrift/Data/Clips/ToAnglesGroup.h"
+#include "Thrift/Detail/Results.h"
+#include "Thrift/Notifier/ToClipCommandEventArgs.h"
+#include "generated/AnglesGroupCreationEventArgs_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+using namespace Detail;
+
+ConversionResult ThriftToAnglesGroupCreationEventArgsConverter::To(
+    Generated::AnglesGroupCreationEventArgs const& source,
+    Notification::AnglesGroupCreationEventArgs& destination) const noexcept
+{
+    static ThriftToClipCommandEventArgsConverter const thriftToClipCommandEventArgsConverter;
+    static Data::Clips::ThriftToAnglesGroupConverter const thriftToAnglesGroupConverter;
+
+    Corvane::Data::Clips::Groups::AnglesGroup anglesGroup{Corvane::Data::Clips::Groups::Guid()};
+    if (auto const result = thriftToAnglesGroupConverter.To(source.anglesGroup, anglesGroup); !result.success)
+        return Nested(result);
+    destination =
+        Notification::AnglesGroupCreationEventArgs(source.databaseRevision, Corvane::Data::Guid::Empty(), anglesGroup);
+    // Last: a block that fails leaves the event with everything else filled in.
+    return thriftToClipCommandEventArgsConverter.To(source.clipCommandEventArgs, destination);
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

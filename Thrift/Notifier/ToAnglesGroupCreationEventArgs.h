@@ -1,0 +1,39 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Notification
+{
+struct AnglesGroupCreationEventArgs;
+} // namespace Talvo::Corvane::Notification
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+namespace Generated
+{
+class AnglesGroupCreationEventArgs;
+} // namespace Generated
+
+/// Replaces a domain `AnglesGroupCreationEventArgs` by the wire record `AnglesGroupCreationEventArgs`. All fields are
+/// required.
+///
+/// Failure: "Missing fields for ClipCommand", from `clipCommandEventArgs`; the destination by then holds everything
+/// else, and placeholders.
+class ThriftToAnglesGroupCreationEventArgsConverter
+    : public Converter<Generated::AnglesGroupCreationEventArgs, Notification::AnglesGroupCreationEventArgs>
+{
+public:
+    ~ThriftToAnglesGroupCreationEventArgsConverter() override = default;
+
+    ConversionResult To(Generated::AnglesGroupCreationEventArgs const& source,
+                        Notification::AnglesGroupCreationEventArgs& destination) const noexcept override;
+
+    ConversionResult To(Generated::AnglesGroupCreationEventArgs&& source,
+                        Notification::AnglesGroupCreationEventArgs& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

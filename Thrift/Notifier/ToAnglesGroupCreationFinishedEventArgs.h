@@ -1,0 +1,37 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Notification
+{
+struct AnglesGroupCreationFinishedEventArgs;
+} // namespace Talvo::Corvane::Notification
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+namespace Generated
+{
+class AnglesGroupCreationFinishedEventArgs;
+} // namespace Generated
+
+/// Reads a domain `AnglesGroupCreationFinishedEventArgs` from the wire record `AnglesGroupCreationFinishedEventArgs`,
+/// as ThriftToAnglesGroupCreationEventArgsConverter does.
+class ThriftToAnglesGroupCreationFinishedEventArgsConverter
+    : public Converter<Generated::AnglesGroupCreationFinishedEventArgs,
+                       Notification::AnglesGroupCreationFinishedEventArgs>
+{
+public:
+    ~ThriftToAnglesGroupCreationFinishedEventArgsConverter() override = default;
+
+    ConversionResult To(Generated::AnglesGroupCreationFinishedEventArgs const& source,
+                        Notification::AnglesGroupCreationFinishedEventArgs& destination) const noexcept override;
+
+    ConversionResult To(Generated::AnglesGroupCreationFinishedEventArgs&& source,
+                        Notification::AnglesGroupCreationFinishedEventArgs& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

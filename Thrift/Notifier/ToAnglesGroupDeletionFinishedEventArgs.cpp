@@ -1,0 +1,31 @@
+#include "Thrift/Notifier/ToAnglesGroupDeletionFinishedEventArgs.h"
+
+#include "Domain/CorvaneData/Notification/AnglesGroupDeletionFinishedEventArgs.h"
+#include "Thrift/Data/ToGuid.h"
+#include "Thrift/Detail/Results.h"
+#include "Thrift/Notifier/ToClipCommandEventArgs.h"
+#include "generated/AnglesGroupDeletionEventArgs_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+using namespace Detail;
+
+ConversionResult ThriftToAnglesGroupDeletionFinishedEventArgsConverter::To(
+    Generated::AnglesGroupDeletionFinishedEventArgs const& source,
+    Notification::AnglesGroupDeletionFinishedEventArgs& destination) const noexcept
+{
+    static ThriftToClipCommandEventArgsConverter const thriftToClipCommandEventArgsConverter;
+    static Data::ThriftToGuidConverter const thriftToGuidConverter;
+    auto const& wireEvent = source.deletionEventArgs;
+
+    Corvane::Data::Clips::Groups::Guid anglesGroupId;
+    if (auto const result = thriftToGuidConverter.To(wireEvent.anglesGroupId, anglesGroupId); !result.success)
+        return Nested(result);
+    destination = Notification::AnglesGroupDeletionFinishedEventArgs(wireEvent.databaseRevision,
+                                                                     Corvane::Data::Guid::Empty(), anglesGroupId);
+    // Last: a block that fails leaves the event with everything else filled in.
+    return thriftToClipCommandEventArgsConverter.To(wireEvent.clipCommandEventArgs, destination);
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Notification
+{
+struct AnglesGroupDeletionFinishedEventArgs;
+} // namespace Talvo::Corvane::Notification
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+namespace Generated
+{
+class AnglesGroupDeletionFinishedEventArgs;
+} // namespace Generated
+
+/// Replaces a domain `AnglesGroupDeletionFinishedEventArgs` by the wire record `AnglesGroupDeletionFinishedEventArgs`.
+/// All fields are required.
+///
+/// Failure: "Missing fields for ClipCommand", from `clipCommandEventArgs`; the destination by then holds everything
+/// else, and placeholders.
+class ThriftToAnglesGroupDeletionFinishedEventArgsConverter
+    : public Converter<Generated::AnglesGroupDeletionFinishedEventArgs,
+                       Notification::AnglesGroupDeletionFinishedEventArgs>
+{
+public:
+    ~ThriftToAnglesGroupDeletionFinishedEventArgsConverter() override = default;
+
+    ConversionResult To(Generated::AnglesGroupDeletionFinishedEventArgs const& source,
+                        Notification::AnglesGroupDeletionFinishedEventArgs& destination) const noexcept override;
+
+    ConversionResult To(Generated::AnglesGroupDeletionFinishedEventArgs&& source,
+                        Notification::AnglesGroupDeletionFinishedEventArgs& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -1,0 +1,31 @@
+#include "Thrift/Notifier/ToAnglesGroupUpdateFinishedEventArgs.h"
+
+#include "Domain/CorvaneData/Notification/AnglesGroupUpdateFinishedEventArgs.h"
+#include "Thrift/Data/Clips/ToAnglesGroup.h"
+#include "Thrift/Detail/Results.h"
+#include "Thrift/Notifier/ToClipCommandEventArgs.h"
+#include "generated/AnglesGroupUpdateEventArgs_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+using namespace Detail;
+
+ConversionResult ThriftToAnglesGroupUpdateFinishedEventArgsConverter::To(
+    Generated::AnglesGroupUpdateFinishedEventArgs const& source,
+    Notification::AnglesGroupUpdateFinishedEventArgs& destination) const noexcept
+{
+    static ThriftToClipCommandEventArgsConverter const thriftToClipCommandEventArgsConverter;
+    static Data::Clips::ThriftToAnglesGroupConverter const thriftToAnglesGroupConverter;
+    auto const& wireEvent = source.updateEventArgs;
+
+    Corvane::Data::Clips::Groups::AnglesGroup anglesGroup{Corvane::Data::Clips::Groups::Guid()};
+    if (auto const result = thriftToAnglesGroupConverter.To(wireEvent.anglesGroup, anglesGroup); !result.success)
+        return Nested(result);
+    destination = Notification::AnglesGroupUpdateFinishedEventArgs(wireEvent.databaseRevision,
+                                                                   Corvane::Data::Guid::Empty(), anglesGroup);
+    // Last: a block that fails leaves the event with everything else filled in.
+    return thriftToClipCommandEventArgsConverter.To(wireEvent.clipCommandEventArgs, destination);
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

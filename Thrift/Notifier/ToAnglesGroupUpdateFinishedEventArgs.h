@@ -1,0 +1,39 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Notification
+{
+struct AnglesGroupUpdateFinishedEventArgs;
+} // namespace Talvo::Corvane::Notification
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+namespace Generated
+{
+class AnglesGroupUpdateFinishedEventArgs;
+} // namespace Generated
+
+/// Replaces a domain `AnglesGroupUpdateFinishedEventArgs` by the wire record `AnglesGroupUpdateFinishedEventArgs`. All
+/// fields are required.
+///
+/// Failure: "Missing fields for ClipCommand", from `clipCommandEventArgs`; the destination by then holds everything
+/// else, and placeholders.
+class ThriftToAnglesGroupUpdateFinishedEventArgsConverter
+    : public Converter<Generated::AnglesGroupUpdateFinishedEventArgs, Notification::AnglesGroupUpdateFinishedEventArgs>
+{
+public:
+    ~ThriftToAnglesGroupUpdateFinishedEventArgsConverter() override = default;
+
+    ConversionResult To(Generated::AnglesGroupUpdateFinishedEventArgs const& source,
+                        Notification::AnglesGroupUpdateFinishedEventArgs& destination) const noexcept override;
+
+    ConversionResult To(Generated::AnglesGroupUpdateFinishedEventArgs&& source,
+                        Notification::AnglesGroupUpdateFinishedEventArgs& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

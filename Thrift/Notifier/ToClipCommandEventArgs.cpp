@@ -1,0 +1,54 @@
+#include "Thrift/Notifier/ToClipCommandEventArgs.h"
+
+#include "Domain/CorvaneData/Notification/ClipCommandEventArgs.h"
+#include "Thrift/Data/ToGuid.h"
+#include "Thrift/Detail/Results.h"
+#include "Thrift/Detail/Widths.h"
+#include "generated/ClipCommandEventArgs_types.h"
+
+#include <cstdint>
+#include <string_view>
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+using namespace Detail;
+using RequestSource = Notification::ClipCommandEventArgs::RequestSource;
+
+namespace
+{
+
+/// Case counts, and any other word is unknown.
+RequestSource SourceOf(std::string_view const word) noexcept
+{
+    if (word == "Local") return RequestSource::Local;
+    if (word == "Network") return RequestSource::Network;
+    return RequestSource::Unknown;
+}
+
+} // namespace
+
+ConversionResult
+ThriftToClipCommandEventArgsConverter::To(Generated::ClipCommandEventArgs const& source,
+                                          Notification::ClipCommandEventArgs& destination) const noexcept
+{
+    Data::ThriftToGuidConverter const toGuid;
+    auto const& isset = source.__isset;
+
+    if (!isset.localMachineSerial || !isset.requestSource || !isset.operationNumber || !isset.userTicket ||
+        !isset.commandGuid)
+        return Failure("Missing fields for ClipCommand");
+
+    Corvane::Data::Guid commandGuid;
+    if (auto const result = toGuid.To(source.commandGuid, commandGuid); !result.success) return Nested(result);
+
+    destination.commandGuid = commandGuid;
+    destination.requestSource = SourceOf(source.requestSource);
+    destination.localMachineSerial = LowWord(source.localMachineSerial);
+    destination.operationNumber = static_cast<std::uint32_t>(source.operationNumber);
+    destination.userTicket = static_cast<std::uint16_t>(source.userTicket);
+    destination.subCommandIndex = source.subCommandIndex; // whether its flag is set or not
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -1,0 +1,37 @@
+#include "Thrift/Notifier/ToClipCreationFailedEventArgs.h"
+
+#include "Domain/CorvaneData/Notification/ClipCreationFailedEventArgs.h"
+#include "Thrift/Data/OperationResultConverter.h"
+#include "Thrift/Detail/ClipEvents.h"
+#include "Thrift/Detail/CreationTexts.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/ClipCreationEventArgs_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+using namespace Detail;
+
+ConversionResult
+ThriftToClipCreationFailedEventArgsConverter::To(Generated::ClipCreationFailedEventArgs const& source,
+                                                 Notification::ClipCreationFailedEventArgs& destination) const noexcept
+{
+    auto const& isset = source.__isset;
+    if (!isset.clipCommand || !isset.sourceClip || !isset.newClip || !isset.creationType || !isset.networkType ||
+        !isset.result)
+        return Failure("Incomplete ClipCreationFailedEventArgs - missing fields");
+
+    Corvane::Data::Clips::Clip sourceClip;
+    Corvane::Data::Clips::Clip newClip;
+    NestedRecords nested;
+    if (nested(source.sourceClip, sourceClip) && nested(source.newClip, newClip))
+    {
+        destination = EventWithPlaceholders<Notification::ClipCreationFailedEventArgs>(
+            source.databaseRevision, Data::OperationResultConverter::To(source.result), InternalResult(source),
+            sourceClip, newClip, CreationTypeOf(source.creationType), NetworkTypeOf(source.networkType));
+        nested(source.clipCommand, destination);
+    }
+    return nested.Result();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Notification
+{
+struct ClipDeletionFinishedEventArgs;
+} // namespace Talvo::Corvane::Notification
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+namespace Generated
+{
+class ClipDeletionFinishedEventArgs;
+} // namespace Generated
+
+/// Replaces a domain `ClipDeletionFinishedEventArgs` by the wire record `ClipDeletionFinishedEventArgs`. The database
+/// revision is read whether set or not.
+///
+/// Failures:
+/// - "Incomplete ClipDeletionFinishedEventArgs - missing fields": the flag of `clipCommand` or `removedClip` is clear;
+///   the destination is then unchanged.
+/// - any of ThriftToClipConverter; the destination is then unchanged.
+/// - "Missing fields for ClipCommand": from `clipCommand`; the destination by then holds everything else, and
+///   placeholders.
+///
+/// Ends the process: what ends it in ThriftToClipConverter.
+///
+/// Lost on the way: the two reserved bytes, which no wire field carries, are 0.
+class ThriftToClipDeletionFinishedEventArgsConverter
+    : public Converter<Generated::ClipDeletionFinishedEventArgs, Notification::ClipDeletionFinishedEventArgs>
+{
+public:
+    ~ThriftToClipDeletionFinishedEventArgsConverter() override = default;
+
+    ConversionResult To(Generated::ClipDeletionFinishedEventArgs const& source,
+                        Notification::ClipDeletionFinishedEventArgs& destination) const noexcept override;
+
+    ConversionResult To(Generated::ClipDeletionFinishedEventArgs&& source,
+                        Notification::ClipDeletionFinishedEventArgs& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

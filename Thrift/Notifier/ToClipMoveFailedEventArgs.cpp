@@ -1,0 +1,35 @@
+#include "Thrift/Notifier/ToClipMoveFailedEventArgs.h"
+
+#include "Domain/CorvaneData/Notification/ClipMoveFailedEventArgs.h"
+#include "Thrift/Data/OperationResultConverter.h"
+#include "Thrift/Detail/ClipEvents.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/ClipMoveEventArgs_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+using namespace Detail;
+
+ConversionResult
+ThriftToClipMoveFailedEventArgsConverter::To(Generated::ClipMoveFailedEventArgs const& source,
+                                             Notification::ClipMoveFailedEventArgs& destination) const noexcept
+{
+    auto const& isset = source.__isset;
+    if (!isset.clipCommand || !isset.result || !isset.sourceClip || !isset.destClip)
+        return Failure("Incomplete ClipMoveFailedEventArgs - missing fields");
+
+    Corvane::Data::Clips::Clip sourceClip;
+    Corvane::Data::Clips::Clip destClip;
+    NestedRecords nested;
+    if (nested(source.sourceClip, sourceClip) && nested(source.destClip, destClip))
+    {
+        destination = EventWithPlaceholders<Notification::ClipMoveFailedEventArgs>(
+            source.databaseRevision, Data::OperationResultConverter::To(source.result), InternalResult(source),
+            sourceClip, destClip);
+        nested(source.clipCommand, destination);
+    }
+    return nested.Result();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

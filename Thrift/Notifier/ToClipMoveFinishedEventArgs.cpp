@@ -1,0 +1,33 @@
+#include "Thrift/Notifier/ToClipMoveFinishedEventArgs.h"
+
+#include "Domain/CorvaneData/Notification/ClipMoveFinishedEventArgs.h"
+#include "Thrift/Detail/ClipEvents.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/ClipMoveEventArgs_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+using namespace Detail;
+
+ConversionResult
+ThriftToClipMoveFinishedEventArgsConverter::To(Generated::ClipMoveFinishedEventArgs const& source,
+                                               Notification::ClipMoveFinishedEventArgs& destination) const noexcept
+{
+    auto const& isset = source.__isset;
+    if (!isset.clipCommand || !isset.sourceClip || !isset.destClip)
+        return Failure("Incomplete ClipMoveFinishedEventArgs - missing fields");
+
+    Corvane::Data::Clips::Clip sourceClip;
+    Corvane::Data::Clips::Clip destClip;
+    NestedRecords nested;
+    if (nested(source.sourceClip, sourceClip) && nested(source.destClip, destClip))
+    {
+        destination = EventWithPlaceholders<Notification::ClipMoveFinishedEventArgs>(source.databaseRevision,
+                                                                                     sourceClip, destClip);
+        nested(source.clipCommand, destination);
+    }
+    return nested.Result();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Notification
+{
+struct ClipMoveFinishedEventArgs;
+} // namespace Talvo::Corvane::Notification
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+namespace Generated
+{
+class ClipMoveFinishedEventArgs;
+} // namespace Generated
+
+/// Replaces a domain `ClipMoveFinishedEventArgs` by the wire record `ClipMoveFinishedEventArgs`. The database revision
+/// is read whether set or not.
+///
+/// Failures:
+/// - "Incomplete ClipMoveFinishedEventArgs - missing fields": the flag of `clipCommand`, `sourceClip` or `destClip` is
+///   clear; the destination is then unchanged.
+/// - any of ThriftToClipConverter; the destination is then unchanged.
+/// - "Missing fields for ClipCommand": from `clipCommand`; the destination by then holds everything else, and
+///   placeholders.
+///
+/// Ends the process: what ends it in ThriftToClipConverter.
+class ThriftToClipMoveFinishedEventArgsConverter
+    : public Converter<Generated::ClipMoveFinishedEventArgs, Notification::ClipMoveFinishedEventArgs>
+{
+public:
+    ~ThriftToClipMoveFinishedEventArgsConverter() override = default;
+
+    ConversionResult To(Generated::ClipMoveFinishedEventArgs const& source,
+                        Notification::ClipMoveFinishedEventArgs& destination) const noexcept override;
+
+    ConversionResult To(Generated::ClipMoveFinishedEventArgs&& source,
+                        Notification::ClipMoveFinishedEventArgs& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Notification
+{
+struct ClipMoveEventArgs;
+} // namespace Talvo::Corvane::Notification
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+namespace Generated
+{
+class ClipMoveStartedEventArgs;
+} // namespace Generated
+
+/// Replaces a domain `ClipMoveEventArgs` by the wire record `ClipMoveStartedEventArgs`. The database revision is read
+/// whether set or not.
+///
+/// Failures:
+/// - "Incomplete ClipMoveStartedEventArgs - missing fields": the flag of `clipCommand`, `sourceClip` or `destClip` is
+///   clear; the destination is then unchanged.
+/// - any of ThriftToClipConverter; the destination is then unchanged.
+/// - "Missing fields for ClipCommand": from `clipCommand`; the destination by then holds everything else, and
+///   placeholders.
+///
+/// Ends the process: what ends it in ThriftToClipConverter.
+class ThriftToClipMoveStartedEventArgsConverter
+    : public Converter<Generated::ClipMoveStartedEventArgs, Notification::ClipMoveEventArgs>
+{
+public:
+    ~ThriftToClipMoveStartedEventArgsConverter() override = default;
+
+    ConversionResult To(Generated::ClipMoveStartedEventArgs const& source,
+                        Notification::ClipMoveEventArgs& destination) const noexcept override;
+
+    ConversionResult To(Generated::ClipMoveStartedEventArgs&& source,
+                        Notification::ClipMoveEventArgs& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

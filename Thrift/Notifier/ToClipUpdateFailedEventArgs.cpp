@@ -1,0 +1,35 @@
+#include "Thrift/Notifier/ToClipUpdateFailedEventArgs.h"
+
+#include "Domain/CorvaneData/Notification/ClipUpdateFailedEventArgs.h"
+#include "Thrift/Data/OperationResultConverter.h"
+#include "Thrift/Detail/ClipEvents.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/ClipUpdateEventArgs_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+using namespace Detail;
+
+ConversionResult
+ThriftToClipUpdateFailedEventArgsConverter::To(Generated::ClipUpdateFailedEventArgs const& source,
+                                               Notification::ClipUpdateFailedEventArgs& destination) const noexcept
+{
+    auto const& isset = source.__isset;
+    if (!isset.clipCommand || !isset.result || !isset.oldClip || !isset.newClip)
+        return Failure("Incomplete ClipUpdateFailedEventArgs - missing fields");
+
+    Corvane::Data::Clips::Clip oldClip;
+    Corvane::Data::Clips::Clip newClip;
+    NestedRecords nested;
+    if (nested(source.oldClip, oldClip) && nested(source.newClip, newClip))
+    {
+        destination = EventWithPlaceholders<Notification::ClipUpdateFailedEventArgs>(
+            source.databaseRevision, Data::OperationResultConverter::To(source.result), InternalResult(source), oldClip,
+            newClip);
+        nested(source.clipCommand, destination);
+    }
+    return nested.Result();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

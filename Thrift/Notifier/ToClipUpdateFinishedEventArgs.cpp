@@ -1,0 +1,33 @@
+#include "Thrift/Notifier/ToClipUpdateFinishedEventArgs.h"
+
+#include "Domain/CorvaneData/Notification/ClipUpdateFinishedEventArgs.h"
+#include "Thrift/Detail/ClipEvents.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/ClipUpdateEventArgs_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+using namespace Detail;
+
+ConversionResult
+ThriftToClipUpdateFinishedEventArgsConverter::To(Generated::ClipUpdateFinishedEventArgs const& source,
+                                                 Notification::ClipUpdateFinishedEventArgs& destination) const noexcept
+{
+    auto const& isset = source.__isset;
+    if (!isset.clipCommand || !isset.endOfGrowingClipCreation || !isset.oldClip || !isset.newClip)
+        return Failure("Incomplete ClipUpdateFinishedEventArgs - missing fields");
+
+    Corvane::Data::Clips::Clip oldClip;
+    Corvane::Data::Clips::Clip newClip;
+    NestedRecords nested;
+    if (nested(source.oldClip, oldClip) && nested(source.newClip, newClip))
+    {
+        destination = EventWithPlaceholders<Notification::ClipUpdateFinishedEventArgs>(
+            source.databaseRevision, source.endOfGrowingClipCreation, oldClip, newClip);
+        nested(source.clipCommand, destination);
+    }
+    return nested.Result();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Notification
+{
+struct DisconnectedFromNetworkEventArgs;
+} // namespace Talvo::Corvane::Notification
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+namespace Generated
+{
+class DisconnectedFromNetworkEventArgs;
+} // namespace Generated
+
+/// Replaces a domain `DisconnectedFromNetworkEventArgs` by the wire record `DisconnectedFromNetworkEventArgs`.
+///
+/// Failure: "DisconnectedFromNetwork is empty" when its flag is clear; the destination is then unchanged.
+class ThriftToDisconnectedFromNetworkEventArgsConverter
+    : public Converter<Generated::DisconnectedFromNetworkEventArgs, Notification::DisconnectedFromNetworkEventArgs>
+{
+public:
+    ~ThriftToDisconnectedFromNetworkEventArgsConverter() override = default;
+
+    ConversionResult To(Generated::DisconnectedFromNetworkEventArgs const& source,
+                        Notification::DisconnectedFromNetworkEventArgs& destination) const noexcept override;
+
+    ConversionResult To(Generated::DisconnectedFromNetworkEventArgs&& source,
+                        Notification::DisconnectedFromNetworkEventArgs& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Notification
+{
+struct MassClipDeletionFailedEventArgs;
+} // namespace Talvo::Corvane::Notification
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+namespace Generated
+{
+class MassClipDeletionFailedEventArgs;
+} // namespace Generated
+
+/// Replaces a domain `MassClipDeletionFailedEventArgs` by the wire record `MassClipDeletionFailedEventArgs`. The
+/// database revision is read whether set or not.
+///
+/// Failures:
+/// - "Incomplete MassClipDeletionFailedEventArgs - missing fields": the flag of `clipCommand`, `result` or
+///   `machineSerial` is clear; the destination is then unchanged.
+/// - "Missing fields for ClipCommand": from `clipCommand`; the destination by then holds everything else, and
+///   placeholders.
+///
+/// Lost on the way: the high word of `machineSerial`.
+class ThriftToMassClipDeletionFailedEventArgsConverter
+    : public Converter<Generated::MassClipDeletionFailedEventArgs, Notification::MassClipDeletionFailedEventArgs>
+{
+public:
+    ~ThriftToMassClipDeletionFailedEventArgsConverter() override = default;
+
+    ConversionResult To(Generated::MassClipDeletionFailedEventArgs const& source,
+                        Notification::MassClipDeletionFailedEventArgs& destination) const noexcept override;
+
+    ConversionResult To(Generated::MassClipDeletionFailedEventArgs&& source,
+                        Notification::MassClipDeletionFailedEventArgs& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Notification
+{
+struct MassClipUpdateFailedEventArgs;
+} // namespace Talvo::Corvane::Notification
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+namespace Generated
+{
+class MassClipUpdateFailedEventArgs;
+} // namespace Generated
+
+/// Replaces a domain `MassClipUpdateFailedEventArgs` by the wire record `MassClipUpdateFailedEventArgs`. The database
+/// revision is read whether set or not.
+///
+/// Failures:
+/// - "Incomplete MassClipUpdateFailedEventArgs - missing fields": the flag of `clipCommand`, `result` or
+///   `machineSerial` is clear; the destination is then unchanged.
+/// - "Missing fields for ClipCommand": from `clipCommand`; the destination by then holds everything else, and
+///   placeholders.
+///
+/// Lost on the way: the high word of `machineSerial`.
+class ThriftToMassClipUpdateFailedEventArgsConverter
+    : public Converter<Generated::MassClipUpdateFailedEventArgs, Notification::MassClipUpdateFailedEventArgs>
+{
+public:
+    ~ThriftToMassClipUpdateFailedEventArgsConverter() override = default;
+
+    ConversionResult To(Generated::MassClipUpdateFailedEventArgs const& source,
+                        Notification::MassClipUpdateFailedEventArgs& destination) const noexcept override;
+
+    ConversionResult To(Generated::MassClipUpdateFailedEventArgs&& source,
+                        Notification::MassClipUpdateFailedEventArgs& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -1,0 +1,35 @@
+#include "Thrift/Notifier/ToPlayerStateChangedEventArgs.h"
+
+#include "Domain/CorvaneData/Notification/PlayerStateChangedEventArgs.h"
+#include "Thrift/Data/Channels/ToPlayerState.h"
+#include "Thrift/Detail/Results.h"
+#include "Thrift/Detail/SeenFields.h"
+#include "Thrift/Detail/Widths.h"
+#include "generated/PlayerStateChangedEA_types.h"
+
+#include <tuple>
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+using namespace Detail;
+using Corvane::Data::Channels::Guid;
+
+ConversionResult
+ThriftToPlayerStateChangedEventArgsConverter::To(Generated::PlayerStateChangedEventArgs const& source,
+                                                 Notification::PlayerStateChangedEventArgs& destination) const noexcept
+{
+    Data::Channels::ThriftToPlayerStateConverter const toState;
+    auto const& isset = source.__isset;
+    SeenFields seen;
+
+    if (seen(isset.channelIndex && isset.channelSerial))
+        destination.channelGuid =
+            Guid(Guid::Type::ChannelGuidTypePlayer, source.channelIndex, LowWord(source.channelSerial));
+    destination.eventFlags = seen(isset.eventFlags) ? source.eventFlags : 0;
+    // What the state reports is not looked at, although the other direction reports it.
+    if (seen(isset.status)) std::ignore = toState.To(source.status, destination.state);
+    return seen.None() ? Failure("PlayerStateChanged is empty") : Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

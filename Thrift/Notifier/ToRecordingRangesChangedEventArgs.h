@@ -1,0 +1,39 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Notification
+{
+struct RecordingRangesChangedEventArgs;
+} // namespace Talvo::Corvane::Notification
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+namespace Generated
+{
+class RecordingRangesChangedEventArgs;
+} // namespace Generated
+
+/// Replaces a domain `RecordingRangesChangedEventArgs` by the wire record `RecordingRangesChangedEventArgs`. The two
+/// booleans are taken whether their flags are set or not, and a range that fails is kept as an empty one.
+///
+/// Failure: "RecordingRangesChanged is empty" when neither the flag of `recorderId` nor that of `recordingRanges` is
+/// set; the destination is by then taken over, with a default identifier and no ranges.
+class ThriftToRecordingRangesChangedEventArgsConverter
+    : public Converter<Generated::RecordingRangesChangedEventArgs, Notification::RecordingRangesChangedEventArgs>
+{
+public:
+    ~ThriftToRecordingRangesChangedEventArgsConverter() override = default;
+
+    ConversionResult To(Generated::RecordingRangesChangedEventArgs const& source,
+                        Notification::RecordingRangesChangedEventArgs& destination) const noexcept override;
+
+    ConversionResult To(Generated::RecordingRangesChangedEventArgs&& source,
+                        Notification::RecordingRangesChangedEventArgs& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

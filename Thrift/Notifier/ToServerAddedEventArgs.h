@@ -1,0 +1,39 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Notification
+{
+struct ServerAddedEventArgs;
+} // namespace Talvo::Corvane::Notification
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+namespace Generated
+{
+class ServerAddedEventArgs;
+} // namespace Generated
+
+/// Replaces a domain `ServerAddedEventArgs` by the wire record `ServerAddedEventArgs`.
+///
+/// Failures, which leave the destination unchanged:
+/// - "Missing serverId" or "Missing serverInfo": its flag is clear.
+/// - any of ThriftToServerInfoConverter.
+class ThriftToServerAddedEventArgsConverter
+    : public Converter<Generated::ServerAddedEventArgs, Notification::ServerAddedEventArgs>
+{
+public:
+    ~ThriftToServerAddedEventArgsConverter() override = default;
+
+    ConversionResult To(Generated::ServerAddedEventArgs const& source,
+                        Notification::ServerAddedEventArgs& destination) const noexcept override;
+
+    ConversionResult To(Generated::ServerAddedEventArgs&& source,
+                        Notification::ServerAddedEventArgs& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -1,0 +1,22 @@
+#include "Thrift/Notifier/ToServerRemovedEventArgs.h"
+
+#include "Domain/CorvaneData/Notification/ServerRemovedEventArgs.h"
+#include "Thrift/Detail/Results.h"
+#include "generated/ServerRemovedEA_types.h"
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+using namespace Detail;
+
+ConversionResult
+ThriftToServerRemovedEventArgsConverter::To(Generated::ServerRemovedEventArgs const& source,
+                                            Notification::ServerRemovedEventArgs& destination) const noexcept
+{
+    if (!source.__isset.serverId) return Failure("ServerRemoved is empty");
+
+    destination.serverId = Corvane::Data::Servers::ServerId(source.serverId);
+    return Success();
+}
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

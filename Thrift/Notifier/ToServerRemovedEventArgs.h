@@ -1,0 +1,37 @@
+#pragma once
+
+#include "Thrift/Converter.h"
+
+namespace Talvo::Corvane::Notification
+{
+struct ServerRemovedEventArgs;
+} // namespace Talvo::Corvane::Notification
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
+{
+
+namespace Generated
+{
+class ServerRemovedEventArgs;
+} // namespace Generated
+
+/// Replaces a domain `ServerRemovedEventArgs` by the wire record `ServerRemovedEventArgs`.
+///
+/// Failure: "ServerRemoved is empty" when its flag is clear; the destination is then unchanged.
+class ThriftToServerRemovedEventArgsConverter
+    : public Converter<Generated::ServerRemovedEventArgs, Notification::ServerRemovedEventArgs>
+{
+public:
+    ~ThriftToServerRemovedEventArgsConverter() override = default;
+
+    ConversionResult To(Generated::ServerRemovedEventArgs const& source,
+                        Notification::ServerRemovedEventArgs& destination) const noexcept override;
+
+    ConversionResult To(Generated::ServerRemovedEventArgs&& source,
+                        Notification::ServerRemovedEventArgs& destination) const noexcept override
+    {
+        return To(source, destination);
+    }
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
