@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
-// The enumerations of the sequence family; those of tags stand with Tag and TagProperty. A number outside its enumeration
-// is a legal value of these types; the wire never receives one.
+// The enumerations of the sequence family; those of tags stand with Tag and TagProperty. A number outside its
+// enumeration is a legal value of these types; the wire never receives one.
 
 namespace Talvo::Corvane::Data::Sequences
 {

@@ -17,6 +17,10 @@ class Sequence;
 
 /// Writes a domain `Sequence` into the wire record `Sequence`: every field. It can't fail. Texts go out whole, never
 /// trimmed or transcoded.
+///
+/// Lost on the way: domain enumerators outside their table, which travel as 0, and that `timeCodeRegenReference` is
+/// empty, since it travels as the text of `Clip::DefaultTimecode()`. ThriftToSequenceConverter refuses the text of an
+/// undated one, and a `playRate` that is neither over 1 nor a standard rate.
 class SequenceToThriftConverter : public Converter<Corvane::Data::Sequences::Sequence, Generated::Sequence>
 {
 public:

@@ -33,8 +33,8 @@ ConversionResult TagToThriftConverter::To(Corvane::Data::Sequences::Tag const& s
     TALVO_FLAGGED(destination, id) = source.id;
     TALVO_FLAGGED(destination, commandType) = ToGeneratedEnum(source.commandType);
     TALVO_FLAGGED(destination, field) = source.field;
-    // Keys outside the table all travel as Value. So that the outcome does not hang on the order of a hash map, the tag's
-    // own Value goes before them, and of them the lowest.
+    // Keys outside the table all travel as Value. So that the outcome does not hang on the order of a hash map, the
+    // tag's own Value goes before them, and of them the lowest.
     decltype(source.properties)::const_pointer unknown = nullptr;
     for (auto const& entry : source.properties)
     {

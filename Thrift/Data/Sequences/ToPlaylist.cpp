@@ -25,8 +25,8 @@ ConversionResult ThriftToPlaylistConverter::To(Generated::Playlist const& source
     auto const& isset = source.__isset;
     SeenFields seen;
 
-    // What the parts report is not looked at: a track that fails half-way is stored with the elements it reached, and the
-    // header takes what comes before its failure.
+    // What the parts report is not looked at: a track that fails half-way is stored with the elements it reached, and
+    // the header takes what comes before its failure.
     if (seen(isset.audioVideoTrack))
     {
         Track<AudioVideoElement> track;
