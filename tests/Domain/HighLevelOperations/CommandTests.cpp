@@ -1,0 +1,142 @@
+#include "Domain/HighLevelOperations/Commands/AnglesGroupCommandReply.h"
+#include "Domain/HighLevelOperations/Commands/ChannelCommandReply.h"
+#include "Domain/HighLevelOperations/Commands/CreateAnglesGroupCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/FailureReply.h"
+#include "Domain/HighLevelOperations/Commands/GetAnglesGroupsCommandReply.h"
+#include "Domain/HighLevelOperations/Commands/GetChannelsCommandReply.h"
+#include "Domain/HighLevelOperations/Commands/GetClipsCommandReply.h"
+#include "Domain/HighLevelOperations/Commands/GetMultiviewerDataCommandReply.h"
+#include "Domain/HighLevelOperations/Commands/GetPlaylistsCommandReply.h"
+#include "Domain/HighLevelOperations/Commands/GetServersCommandReply.h"
+#include "Domain/HighLevelOperations/Commands/GetTrainsCommandReply.h"
+#include "Domain/HighLevelOperations/Commands/LiveCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/PlaylistCommandReply.h"
+#include "Domain/HighLevelOperations/Commands/SuccessReply.h"
+#include "Domain/HighLevelOperations/Commands/UnknownCommandReply.h"
+
+#include <gtest/gtest.h>
+
+#include <list>
+#include <memory>
+#include <type_traits>
+#include <utility>
+
+namespace Talvo::Tests
+{
+namespace
+{
+
+using namespace Corvane::Zelmar::HighLevelOperations::Commands;
+using Corvane::Data::Guid;
+using Corvane::Data::OperationResult;
+using Corvane::Data::OperationStatus;
+using Corvane::Data::Clips::Clip;
+using Corvane::Data::Clips::Groups::AnglesGroup;
+using Corvane::Data::Sequences::Playlist;
+using Status = OperationStatus::Status;
+
+using GroupGuid = Corvane::Data::Clips::Groups::Guid;
+
+TEST(CommandParams, NewOnesHaveNewIdentifiers)
+{
+    CreateAnglesGroupCommandParams const first, second;
+    EXPECT_NE(first.commandGuid, second.commandGuid);
+    EXPECT_NE(first.commandGuid, first.creationParams.commandGuid);
+    auto const copy = first;
+    EXPECT_EQ(copy, first);
+
+    LiveCommandParams const live;
+    EXPECT_GE(live.players.bucket_count(), 10u);
+    EXPECT_EQ(live.players.max_load_factor(), 1.0f);
+}
+
+TEST(CommandReply, KindsAreNumbered)
+{
+    Guid const guid;
+    auto const kind = [](CommandReply const& reply) { return static_cast<int>(reply.GetType()); };
+    EXPECT_EQ(kind(UnknownCommandReply(guid, "")), 0);
+    EXPECT_EQ(kind(SuccessReply()), 1);
+    EXPECT_EQ(kind(FailureReply(guid, "")), 2);
+    EXPECT_EQ(kind(ClipCommandReply(guid, 0)), 3);
+    EXPECT_EQ(kind(AnglesGroupCommandReply(guid, GroupGuid())), 4);
+    EXPECT_EQ(kind(PlaylistCommandReply(guid, 0)), 5);
+    EXPECT_EQ(kind(ChannelCommandReply(guid)), 6);
+    EXPECT_EQ(kind(GetChannelsCommandReply()), 7);
+    EXPECT_EQ(kind(GetClipsCommandReply(guid, 0, {})), 8);
+    EXPECT_EQ(kind(GetTrainsCommandReply()), 9);
+    EXPECT_EQ(kind(GetAnglesGroupsCommandReply(guid, 0, {})), 10);
+    EXPECT_EQ(kind(GetPlaylistsCommandReply(guid, 0, {})), 11);
+    EXPECT_EQ(kind(GetServersCommandReply()), 12);
+    EXPECT_EQ(kind(GetMultiviewerDataCommandReply()), 13);
+}
+
+/// Items that hold something while they have succeeded.
+template<typename TItem, typename THeld>
+void ExpectItem(std::unique_ptr<THeld> TItem::*const held)
+{
+    static_assert(std::is_nothrow_move_constructible_v<TItem> && !std::is_copy_constructible_v<TItem>);
+    TItem item;
+    EXPECT_EQ(item.OperationStatus(), (OperationStatus{Status::NotStarted, OperationResult::Unknown}));
+    EXPECT_EQ(item.*held, nullptr);
+
+    item.OperationStatus({Status::Succeeded, OperationResult::Success});
+    item.*held = std::make_unique<THeld>();
+    item.OperationStatus({Status::Succeeded, OperationResult::TemporaryError});
+    EXPECT_NE(item.*held, nullptr);
+    for (auto const status : {Status::NotStarted, Status::Pending, Status::Failed})
+    {
+        item.*held = std::make_unique<THeld>();
+        item.OperationStatus({status, OperationResult::Success});
+        EXPECT_EQ(item.*held, nullptr);
+        EXPECT_EQ(item.OperationStatus().status, status);
+    }
+}
+
+TEST(ResultsItem, StatusOtherThanSucceededDestroysWhatIsHeld)
+{
+    ExpectItem(&ClipResultsItem::clip);
+    ExpectItem(&PlaylistResultsItem::playlist);
+}
+
+TEST(ResultsItem, ClipIsReadOnlyFromAnItemThatSucceeded)
+{
+    ClipResultsItem item;
+    item.clip = std::make_unique<Clip>();
+    item.clip->userProtect = 5;
+    EXPECT_EQ(item.Clip(), Clip::Empty());
+    item.OperationStatus({Status::Succeeded, OperationResult::Success});
+    EXPECT_EQ(&item.Clip(), item.clip.get());
+    item.clip.reset();
+    EXPECT_EQ(item.Clip(), Clip::Empty());
+}
+
+TEST(ReplyCursor, GoesOnceFromFrontToBack)
+{
+    std::list<Clip> clips(3);
+    clips.front().userProtect = 1;
+    clips.back().userProtect = 3;
+    GetClipsCommandReply const reply(Guid(), 0, std::move(clips));
+    EXPECT_EQ(reply.RemainingCount(), 3u);
+    ASSERT_TRUE(reply.MoveNext());
+    EXPECT_EQ(reply.CurrentClip().userProtect, 1);
+
+    auto copy = std::make_unique<GetClipsCommandReply>(reply); // with a cursor of its own, where this one stands
+    EXPECT_EQ(copy->CurrentClip().userProtect, 1);
+    ASSERT_TRUE(copy->MoveNext() && copy->MoveNext());
+    EXPECT_EQ(copy->CurrentClip().userProtect, 3);
+    EXPECT_FALSE(copy->MoveNext() || copy->MoveNext());
+    EXPECT_EQ(copy->RemainingCount(), 0u);
+    copy.reset();
+    EXPECT_EQ(reply.RemainingCount(), 2u);
+    EXPECT_EQ(reply.CurrentClip().userProtect, 1);
+    EXPECT_TRUE(reply.MoveNext());
+
+    std::list<AnglesGroup> groups(1, AnglesGroup(GroupGuid()));
+    GetAnglesGroupsCommandReply const groupsReply(Guid(), 0, std::move(groups));
+    ASSERT_TRUE(groupsReply.MoveNext());
+    EXPECT_EQ(groupsReply.CurrentAnglesGroup(), AnglesGroup(GroupGuid()));
+    EXPECT_FALSE(groupsReply.MoveNext());
+}
+
+} // namespace
+} // namespace Talvo::Tests

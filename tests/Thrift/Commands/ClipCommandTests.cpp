@@ -1,0 +1,383 @@
+#include "tests/Thrift/Commands/Values.h"
+
+#include "Domain/CorvaneData/Optional.h"
+#include "Domain/HighLevelOperations/Commands/AnglesGroupCommandReply.h"
+#include "Domain/HighLevelOperations/Commands/CreateAnglesGroupCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/DeleteAnglesGroupCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/DeleteClipsCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/UpdateAnglesGroupCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/UpdateClipsCommandParams.h"
+#include "Thrift/Commands/FromAnglesGroupCommandReply.h"
+#include "Thrift/Commands/FromClipCommandReply.h"
+#include "Thrift/Commands/FromClipResultsItem.h"
+#include "Thrift/Commands/FromCreateAnglesGroupCommandParams.h"
+#include "Thrift/Commands/FromCreateClipsCommandParams.h"
+#include "Thrift/Commands/FromDeleteAnglesGroupCommandParams.h"
+#include "Thrift/Commands/FromDeleteClipsCommandParams.h"
+#include "Thrift/Commands/FromUpdateAnglesGroupCommandParams.h"
+#include "Thrift/Commands/FromUpdateClipsCommandParams.h"
+#include "Thrift/Commands/ToAnglesGroupCommandReply.h"
+#include "Thrift/Commands/ToClipCommandReply.h"
+#include "Thrift/Commands/ToClipResultsItem.h"
+#include "Thrift/Commands/ToCreateAnglesGroupCommandParams.h"
+#include "Thrift/Commands/ToCreateClipsCommandParams.h"
+#include "Thrift/Commands/ToDeleteAnglesGroupCommandParams.h"
+#include "Thrift/Commands/ToDeleteClipsCommandParams.h"
+#include "Thrift/Commands/ToUpdateAnglesGroupCommandParams.h"
+#include "Thrift/Commands/ToUpdateClipsCommandParams.h"
+#include "Thrift/Data/Clips/FromClip.h"
+#include "generated/AnglesGroupCommandReply_types.h"
+#include "generated/CreateAnglesGroupCommandParams_types.h"
+#include "generated/DeleteAnglesGroupCommandParams_types.h"
+#include "generated/DeleteClipsCommandParams_types.h"
+#include "generated/UpdateAnglesGroupCommandParams_types.h"
+#include "generated/UpdateClipsCommandParams_types.h"
+#include "tests/Thrift/Data/Channels/Values.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <tuple>
+#include <utility>
+#include <vector>
+
+namespace Talvo::Tests
+{
+namespace
+{
+
+using namespace Corvane::Zelmar::HighLevelOperations::Commands;
+using namespace Corvane::Zelmar::Serialization::Thrift::Commands;
+using Corvane::Data::Guid;
+using Corvane::Data::OperationResult;
+using Corvane::Data::OperationStatus;
+using Corvane::Data::Clips::Clip;
+using Status = OperationStatus::Status;
+using WireStatusOf = Corvane::Data::Generated::OperationStatusStatus;
+
+namespace Clips = Corvane::Data::Clips;
+
+using CreateClips = Converters<CreateClipsCommandParams, Generated::CreateClipsCommandParams,
+                               CreateClipsCommandParamsToThriftConverter, ThriftToCreateClipsCommandParamsConverter>;
+using UpdateClips = Converters<UpdateClipsCommandParams, Generated::UpdateClipsCommandParams,
+                               UpdateClipsCommandParamsToThriftConverter, ThriftToUpdateClipsCommandParamsConverter>;
+using DeleteClips = Converters<DeleteClipsCommandParams, Generated::DeleteClipsCommandParams,
+                               DeleteClipsCommandParamsToThriftConverter, ThriftToDeleteClipsCommandParamsConverter>;
+using CreateGroup =
+    Converters<CreateAnglesGroupCommandParams, Generated::CreateAnglesGroupCommandParams,
+               CreateAnglesGroupCommandParamsToThriftConverter, ThriftToCreateAnglesGroupCommandParamsConverter>;
+using UpdateGroup =
+    Converters<UpdateAnglesGroupCommandParams, Generated::UpdateAnglesGroupCommandParams,
+               UpdateAnglesGroupCommandParamsToThriftConverter, ThriftToUpdateAnglesGroupCommandParamsConverter>;
+using DeleteGroup =
+    Converters<DeleteAnglesGroupCommandParams, Generated::DeleteAnglesGroupCommandParams,
+               DeleteAnglesGroupCommandParamsToThriftConverter, ThriftToDeleteAnglesGroupCommandParamsConverter>;
+using Item = Converters<ClipResultsItem, Generated::ClipResultsItem, ClipResultsItemToThriftConverter,
+                        ThriftToClipResultsItemConverter>;
+using Reply = Converters<ClipCommandReply, Generated::ClipCommandReply, ClipCommandReplyToThriftConverter,
+                         ThriftToClipCommandReplyConverter>;
+using GroupReply = Converters<AnglesGroupCommandReply, Generated::AnglesGroupCommandReply,
+                              AnglesGroupCommandReplyToThriftConverter, ThriftToAnglesGroupCommandReplyConverter>;
+
+auto const HasClips = [](auto const& wire) { return bool(wire.__isset.clips); };
+
+Clip NamedClip(char const* const umId)
+{
+    auto clip = NestedClip();
+    SetText(clip.umId, umId);
+    return clip;
+}
+
+CreateClipsCommandParams FullCreation(char const id)
+{
+    CreateClipsCommandParams params;
+    params.commandGuid = Id(id);
+    params.clips = {{Id<Clips::Guid>('s'), NestedClip(), true}, {Id<Clips::Guid>('t'), Clip(), false}};
+    return params;
+}
+
+TEST(CreateClipsConversion, FieldsOfAnEntryAreTakenWithoutFlagsAndWhateverTheClipReports)
+{
+    auto const full = FullCreation('c');
+    ExpectList<CreateClips>(full, &CreateClipsCommandParams::clips, &Generated::CreateClipsCommandParams::clips,
+                            HasClips);
+    auto wire = CreateClips::Sent(full);
+    auto& isset = wire.clips[0].__isset;
+    EXPECT_TRUE(isset.sourceId && isset.clip && isset.setTimecodes);
+    isset = {};
+    EXPECT_EQ(CreateClips::Received(wire, full), full);
+
+    wire.clips[0].clip = {}; // fails as empty
+    auto expected = full;
+    expected.clips[0].clip = Clip();
+    EXPECT_EQ(CreateClips::Received(wire, full), expected);
+}
+
+TEST(UpdateClipsConversion, FieldsOfAnEntryAreTakenWithoutFlagsAndWhateverTheClipsReport)
+{
+    UpdateClipsCommandParams full;
+    full.commandGuid = Id('c');
+    full.clips = {{NamedClip("OLD"), NamedClip("NEW")}, {Clip(), NamedClip("SECOND")}};
+    ExpectList<UpdateClips>(full, &UpdateClipsCommandParams::clips, &Generated::UpdateClipsCommandParams::clips,
+                            HasClips);
+    auto wire = UpdateClips::Sent(full);
+    EXPECT_EQ(wire.clips[0].oldClip.umId, "OLD");
+    EXPECT_TRUE(wire.clips[0].__isset.oldClip && wire.clips[0].__isset.newClip);
+    wire.clips[0].__isset = {};
+    EXPECT_EQ(UpdateClips::Received(wire, full), full);
+
+    wire.clips[0].oldClip = wire.clips[1].newClip = {};
+    auto expected = full;
+    expected.clips[0].oldClip = expected.clips[1].newClip = Clip();
+    EXPECT_EQ(UpdateClips::Received(wire, full), expected);
+}
+
+TEST(DeleteClipsConversion, RoundTrip)
+{
+    DeleteClipsCommandParams full;
+    full.commandGuid = Id('c');
+    full.clips = {Id<Clips::Guid>('b'), Id<Clips::Guid>('a'), Id<Clips::Guid>('b')};
+    ExpectList<DeleteClips>(full, &DeleteClipsCommandParams::clips, &Generated::DeleteClipsCommandParams::clips,
+                            HasClips);
+}
+
+TEST(AnglesGroupParamsConversion, CreationIsTakenWithoutFlags)
+{
+    CreateAnglesGroupCommandParams full;
+    full.commandGuid = Id('c');
+    full.groupKviIndex = -7;
+    full.creationParams = FullCreation('d');
+    ExpectParams<CreateGroup>(full, full);
+    auto const wire = CreateGroup::Sent(full);
+    EXPECT_TRUE(wire.__isset.groupKviIndex && wire.__isset.creationParams);
+    EXPECT_EQ(CreateGroup::Sent(full, wire).creationParams.clips.size(), 4u);
+}
+
+TEST(AnglesGroupParamsConversion, AngleWithoutFlagStaysAsItWas)
+{
+    UpdateAnglesGroupCommandParams full;
+    full.commandGuid = Id('c');
+    full.groupGuid = Id<Clips::Groups::Guid>('g');
+    auto onlyPrimary = full;
+    auto const taken = full;
+    full.primaryAngle = onlyPrimary.primaryAngle = Id<Clips::Guid>('p');
+    full.secondaryAngle = Id<Clips::Guid>('s');
+    ExpectParams<UpdateGroup>(full, taken, full);
+    ExpectRoundTrip<UpdateGroup::ToWire, UpdateGroup::ToDomain, UpdateGroup::Wire>(onlyPrimary);
+    EXPECT_EQ(Printed(UpdateGroup::Sent(onlyPrimary)),
+              "UpdateAnglesGroupCommandParams(commandGuid=Guid(value=cccccccccccccccc), "
+              "groupGuid=Guid(value=gggggggggggggggg), primaryAngle=Guid(value=pppppppppppppppp), "
+              "secondaryAngle=<null>)");
+
+    DeleteAnglesGroupCommandParams deletion;
+    deletion.commandGuid = Id('c');
+    deletion.groupGuid = Id<Clips::Groups::Guid>('g');
+    ExpectParams<DeleteGroup>(deletion, deletion);
+    EXPECT_EQ(DeleteGroup::Sent(deletion).groupGuid.value, std::string(16, 'g'));
+}
+
+ClipResultsItem SomeItem(OperationStatus const& status, std::unique_ptr<Clip> clip = nullptr)
+{
+    ClipResultsItem item;
+    item.OperationStatus(status);
+    item.clip = std::move(clip);
+    return item;
+}
+
+std::unique_ptr<Clip> Held(Clip const& clip)
+{
+    return std::make_unique<Clip>(clip);
+}
+
+/// What an item holds, the clip even where it does not count.
+std::pair<OperationStatus, Corvane::Data::Optional<Clip>> Shown(ClipResultsItem const& item)
+{
+    if (item.clip == nullptr) return {item.OperationStatus(), {}};
+    return {item.OperationStatus(), *item.clip};
+}
+
+auto Shown(ClipCommandReply const& reply)
+{
+    std::vector<std::pair<OperationStatus, Corvane::Data::Optional<Clip>>> items;
+    for (auto const& item : reply.results) items.push_back(Shown(item));
+    return std::pair(reply.commandGuid, items);
+}
+
+auto Shown(AnglesGroupCommandReply const& reply)
+{
+    return std::tuple(reply.commandGuid, Guid(reply.groupGuid), reply.operationStatus, Shown(reply.clipCommandReply));
+}
+
+auto const Show = [](auto const& value) { return Shown(value); };
+
+OperationStatus const Succeeded{Status::Succeeded, OperationResult::Success};
+OperationStatus const Refused{Status::Failed, OperationResult::UsedResource};
+OperationStatus const StartOfAnItem{Status::Failed, OperationResult::DefaultError};
+
+TEST(ClipResultsItemConversion, OnlyAClipOfAnItemThatSucceededTravels)
+{
+    auto const expectSent = [](OperationStatus const& status, std::unique_ptr<Clip> clip, bool const isSent)
+    {
+        Generated::ClipResultsItem wire;
+        wire.__isset.clip = true; // a used record
+        auto const item = SomeItem(status, std::move(clip));
+        EXPECT_TRUE(ClipResultsItemToThriftConverter().To(item, wire).success);
+        EXPECT_TRUE(wire.__isset.operationStatus);
+        EXPECT_EQ(wire.__isset.clip, isSent);
+        EXPECT_EQ(wire.clip.umId, isSent ? "UMID0001" : "");
+    };
+    expectSent(Succeeded, Held(NestedClip()), true);
+    expectSent(Succeeded, Held(Clip()), false); // nothing but defaults
+    expectSent(Succeeded, nullptr, false);
+    expectSent(Refused, Held(NestedClip()), false);
+    expectSent({Status::Pending, OperationResult::Unknown}, Held(NestedClip()), false);
+}
+
+TEST(ClipResultsItemConversion, ReceivedClipIsKeptByAnItemThatHasSucceededByThen)
+{
+    auto const sent = Item::Sent(SomeItem(Succeeded, Held(NamedClip("SENT"))));
+    auto const expectReceived = [&](bool const hasStatus, bool const hasClip, OperationStatus const& held,
+                                    OperationStatus const& status, char const* const umId,
+                                    WireStatusOf::type const wireStatus)
+    {
+        auto wire = sent;
+        wire.operationStatus = WireStatus(wireStatus);
+        wire.__isset.operationStatus = hasStatus;
+        wire.__isset.clip = hasClip;
+        auto item = SomeItem(held, Held(NamedClip("HELD")));
+        EXPECT_EQ(Item::Told(wire, item), hasStatus || hasClip ? "" : "ClipResultsItem is empty");
+        EXPECT_EQ(item.OperationStatus(), status);
+        EXPECT_STREQ(item.clip == nullptr ? "none" : item.clip->umId.data(), umId);
+    };
+    expectReceived(true, true, Refused, Succeeded, "SENT", WireStatusOf::Succeeded);
+    expectReceived(true, true, Succeeded, StartOfAnItem, "none", WireStatusOf::Failed); // the clip is dropped
+    expectReceived(true, false, Succeeded, Succeeded, "HELD", WireStatusOf::Succeeded);
+    expectReceived(true, false, Succeeded, StartOfAnItem, "none", WireStatusOf::Failed);
+    expectReceived(false, true, Succeeded, Succeeded, "SENT", WireStatusOf::Failed); // keeps its status
+    expectReceived(false, true, Refused, Refused, "HELD", WireStatusOf::Succeeded);
+    expectReceived(false, false, Refused, Refused, "HELD", WireStatusOf::Succeeded); // untouched
+
+    // A status without content is the one that an item starts with; a clip that fails is kept with what was applied.
+    auto wire = sent;
+    wire.operationStatus = {};
+    auto item = SomeItem(Succeeded, Held(NamedClip("HELD")));
+    EXPECT_EQ(Item::Told(wire, item), "");
+    EXPECT_EQ(Shown(item), Shown(SomeItem(StartOfAnItem)));
+    wire = sent;
+    wire.clip = {};
+    EXPECT_EQ(Shown(Item::Received(wire, SomeItem(Refused, Held(NestedClip())))),
+              Shown(SomeItem(Succeeded, Held(Clip::Empty()))));
+}
+
+TEST(ClipResultsItemConversionDeathTest, BadTimeCodeOfAClipThatWouldBeDroppedEndsTheProcess)
+{
+    Generated::ClipResultsItem wire;
+    wire.operationStatus = WireStatus(WireStatusOf::Failed);
+    wire.clip.inBoundTodTimecode = "noon";
+    wire.clip.__isset.inBoundTodTimecode = true;
+    wire.__isset.operationStatus = wire.__isset.clip = true;
+    ClipResultsItem item;
+    EXPECT_DEATH(std::ignore = ThriftToClipResultsItemConverter().To(wire, item), "terminate");
+    wire.__isset.clip = false;
+    EXPECT_EQ(Item::Told(wire, item), "");
+}
+
+/// An item each: one that succeeded with its clip, one that failed, one that waits.
+ClipCommandReply FullReply(char const id)
+{
+    ClipCommandReply reply(Id(id), 3);
+    reply.results[0] = SomeItem(Succeeded, Held(NestedClip()));
+    reply.results[1] = SomeItem(Refused);
+    reply.results[2] = SomeItem({Status::Pending, OperationResult::Unknown});
+    return reply;
+}
+
+TEST(ClipCommandReplyConversion, RoundTripReplacesTheReply)
+{
+    auto const fresh = [] { return FullReply('h'); };
+    ExpectReplyRoundTrip<Reply>([] { return FullReply('c'); }, Show, fresh);
+    ExpectReplyRoundTrip<Reply>([] { return ClipCommandReply(Id('c'), 0); }, Show, fresh);
+    EXPECT_TRUE(Reply::Sent(ClipCommandReply(Id('c'), 0)).__isset.results);
+    auto const wire = Reply::Sent(FullReply('c'));
+    EXPECT_TRUE(wire.__isset.guid);
+    EXPECT_EQ(Reply::Sent(FullReply('c'), wire).results.size(), 6u);
+}
+
+TEST(ClipCommandReplyConversion, NeedsBothFieldsAndKeepsAnEmptyItemAsFailed)
+{
+    auto wire = Reply::Sent(FullReply('c'));
+    for (auto const field : {0, 1, 2})
+    {
+        auto partial = wire;
+        partial.__isset.guid = field == 1;
+        partial.__isset.results = field == 2;
+        auto reply = FullReply('h');
+        EXPECT_EQ(Reply::Told(partial, reply), "ClipCommandReply is empty");
+        EXPECT_EQ(Shown(reply), Shown(FullReply('h')));
+    }
+
+    wire.results[1] = {};
+    wire.results[2].__isset.operationStatus = false; // a clip alone would be dropped
+    wire.results[2].__isset.clip = true;
+    auto expected = FullReply('c');
+    expected.results[1] = SomeItem(StartOfAnItem);
+    expected.results[2] = SomeItem(StartOfAnItem);
+    EXPECT_EQ(Shown(Reply::Received(wire, FullReply('h'))), Shown(expected));
+}
+
+/// Under one identifier, which is also that of the group.
+AnglesGroupCommandReply FullGroupReply(char const id)
+{
+    AnglesGroupCommandReply reply(Id(id), Id<Clips::Groups::Guid>(id));
+    reply.operationStatus = Refused;
+    reply.clipCommandReply = FullReply('d');
+    return reply;
+}
+
+TEST(AnglesGroupCommandReplyConversion, IdentifierTravelsTwiceAndThatOfTheGroupNever)
+{
+    auto const fresh = [] { return FullGroupReply('h'); };
+    ExpectReplyRoundTrip<GroupReply>([] { return FullGroupReply('c'); }, Show, fresh);
+
+    auto source = FullGroupReply('c');
+    source.groupGuid = Id<Clips::Groups::Guid>('g');
+    auto wire = GroupReply::Sent(std::move(source));
+    EXPECT_EQ(wire.commandGuid, WireId(std::string(16, 'c')));
+    EXPECT_EQ(wire.groupGuid, WireId(std::string(16, 'c')));
+    auto const& isset = wire.__isset;
+    EXPECT_TRUE(isset.commandGuid && isset.groupGuid && isset.operationStatus && isset.clipCommandReply);
+
+    wire.groupGuid = WireId(std::string(16, 'w')); // coming in the two are told apart
+    EXPECT_EQ(GroupReply::Received(wire, fresh()).groupGuid, Id<Clips::Groups::Guid>('w'));
+}
+
+TEST(AnglesGroupCommandReplyConversion, NeedsBothIdentifiersAndReplacesTheReply)
+{
+    auto const wire = GroupReply::Sent(FullGroupReply('c'));
+    for (auto const field : {0, 1, 2})
+    {
+        auto partial = wire;
+        partial.__isset.commandGuid = field == 1;
+        partial.__isset.groupGuid = field == 2;
+        auto reply = FullGroupReply('h');
+        EXPECT_EQ(GroupReply::Told(partial, reply), "AnglesGroupCommandReply is empty");
+        EXPECT_EQ(Shown(reply), Shown(FullGroupReply('h')));
+    }
+
+    auto const expectNoItems = [](Generated::AnglesGroupCommandReply const& sent)
+    {
+        EXPECT_EQ(Shown(GroupReply::Received(sent, FullGroupReply('h'))),
+                  Shown(AnglesGroupCommandReply(Id('c'), Id<Clips::Groups::Guid>('c'))));
+    };
+    auto bare = wire;
+    bare.__isset.operationStatus = bare.__isset.clipCommandReply = false;
+    expectNoItems(bare);
+    auto failing = wire; // the nested reply fails, which is not looked at
+    failing.operationStatus = {};
+    failing.clipCommandReply.__isset.guid = false;
+    expectNoItems(failing);
+}
+
+} // namespace
+} // namespace Talvo::Tests

@@ -1,0 +1,119 @@
+#include "tests/Thrift/Data/MultiviewerValues.h"
+
+#include "Domain/HighLevelOperations/Commands/GetMultiviewerDataCommandReply.h"
+#include "Domain/HighLevelOperations/Commands/SetMultiviewerDataCommandParams.h"
+#include "Thrift/Commands/FromGetMultiviewerDataCommandReply.h"
+#include "Thrift/Commands/FromSetMultiviewerDataCommandParams.h"
+#include "Thrift/Commands/ToGetMultiviewerDataCommandReply.h"
+#include "Thrift/Commands/ToSetMultiviewerDataCommandParams.h"
+#include "generated/GetMultiviewerDataCommandReply_types.h"
+#include "generated/SetMultiViewerDataCommandParams_types.h"
+#include "tests/Thrift/Commands/Values.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace Talvo::Tests
+{
+namespace
+{
+
+using namespace Corvane::Zelmar::HighLevelOperations::Commands;
+using namespace Corvane::Zelmar::Serialization::Thrift::Commands;
+using Corvane::Data::OperationResult;
+using Corvane::Data::OperationStatus;
+
+using Get =
+    Converters<GetMultiviewerDataCommandReply, Generated::GetMultiviewerDataCommandReply,
+               GetMultiviewerDataCommandReplyToThriftConverter, ThriftToGetMultiviewerDataCommandReplyConverter>;
+using Set =
+    Converters<SetMultiviewerDataCommandParams, Generated::SetMultiviewerDataCommandParams,
+               SetMultiviewerDataCommandParamsToThriftConverter, ThriftToSetMultiviewerDataCommandParamsConverter>;
+
+/// Entries of the players a and b, each filed under its player.
+template<typename TDomain>
+TDomain Full()
+{
+    TDomain full;
+    full.commandGuid = Id('c');
+    full.playersDataOverrides = {{PlayerGuid('a'), FullOverrides('a')}, {PlayerGuid('b'), NoOverrides('b')}};
+    return full;
+}
+
+GetMultiviewerDataCommandReply FullReply()
+{
+    auto reply = Full<GetMultiviewerDataCommandReply>();
+    reply.operationStatus = {OperationStatus::Status::Failed, OperationResult::UsedResource};
+    return reply;
+}
+
+/// Adds keys that become the identifier of the player a, behind the one that is it.
+void AddKeysOfPlayerA(auto& wireMap)
+{
+    auto const other = wireMap.at(WireId(std::string(16, 'b')));
+    wireMap[WireId(std::string(17, 'a'))] = other;
+    wireMap[WireId(std::string(1'000'000, 'a'))] = other;
+}
+
+TEST(GetMultiviewerDataReplyConversion, RoundTripReplacesTheReply)
+{
+    ExpectRoundTrip<Get::ToWire, Get::ToDomain, Get::Wire>(FullReply());
+    GetMultiviewerDataCommandReply empty;
+    empty.commandGuid = Id('c');
+    ExpectRoundTrip<Get::ToWire, Get::ToDomain, Get::Wire>(empty, FullReply());
+    EXPECT_EQ(Get::Received({}, FullReply()),
+              GetMultiviewerDataCommandReply()); // a status without content is a new one
+}
+
+TEST(GetMultiviewerDataReplyConversion, EqualKeyKeepsItsEntry)
+{
+    auto wire = Get::Sent(FullReply());
+    auto other = FullReply();
+    other.playersDataOverrides[PlayerGuid('a')] = NoOverrides('a');
+    EXPECT_EQ(Get::Sent(other, wire).playersDataOverrides, wire.playersDataOverrides);
+    AddKeysOfPlayerA(wire.playersDataOverrides);
+    EXPECT_EQ(Get::Received(wire), FullReply());
+}
+
+TEST(SetMultiviewerDataConversion, IdentifierDoesNotTravel)
+{
+    for (auto const& params : {Full<SetMultiviewerDataCommandParams>(), SetMultiviewerDataCommandParams()})
+    {
+        Generated::SetMultiviewerDataCommandParams filled;
+        filled.commandGuid = WireId("by the caller");
+        auto const wire = Set::Sent(params, filled);
+        EXPECT_EQ(wire.commandGuid, WireId("by the caller"));
+        for (auto const& protocol : Protocols())
+        {
+            auto const read = Read<Generated::SetMultiviewerDataCommandParams>(Written(wire, *protocol), *protocol);
+            auto const held = Full<SetMultiviewerDataCommandParams>();
+            auto const first = Set::Received(read, held);
+            auto const second = Set::Received(read, held);
+            EXPECT_EQ(first.playersDataOverrides, params.playersDataOverrides);
+            EXPECT_NE(first.commandGuid, second.commandGuid);
+            EXPECT_NE(first.commandGuid, held.commandGuid);
+        }
+    }
+    Generated::SetMultiviewerDataCommandParams wire;
+    auto const full = Full<SetMultiviewerDataCommandParams>();
+    EXPECT_TRUE(Set::ToWire().To(Full<SetMultiviewerDataCommandParams>(), wire).success);
+    EXPECT_EQ(wire, Set::Sent(full));
+    SetMultiviewerDataCommandParams params;
+    EXPECT_TRUE(Set::ToDomain().To(std::move(wire), params).success);
+    EXPECT_EQ(params.playersDataOverrides, full.playersDataOverrides);
+}
+
+TEST(SetMultiviewerDataConversion, EqualKeyIsReplacedGoingOutAndKeptComingIn)
+{
+    auto const full = Full<SetMultiviewerDataCommandParams>();
+    auto other = full;
+    other.playersDataOverrides[PlayerGuid('a')] = NoOverrides('a');
+    auto wire = Set::Sent(full, Set::Sent(other));
+    EXPECT_EQ(wire, Set::Sent(full));
+    AddKeysOfPlayerA(wire.playersDataOverrides);
+    EXPECT_EQ(Set::Received(wire).playersDataOverrides, full.playersDataOverrides);
+}
+
+} // namespace
+} // namespace Talvo::Tests

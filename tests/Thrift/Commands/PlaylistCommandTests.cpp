@@ -1,0 +1,214 @@
+#include "tests/Thrift/Commands/Values.h"
+
+#include "Domain/CorvaneData/Optional.h"
+#include "Domain/HighLevelOperations/Commands/CreatePlaylistsCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/DeletePlaylistsCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/PlaylistCommandReply.h"
+#include "Domain/HighLevelOperations/Commands/UpdatePlaylistsCommandParams.h"
+#include "Thrift/Commands/FromCreatePlaylistsCommandParams.h"
+#include "Thrift/Commands/FromDeletePlaylistsCommandParams.h"
+#include "Thrift/Commands/FromPlaylistCommandReply.h"
+#include "Thrift/Commands/FromPlaylistResultsItem.h"
+#include "Thrift/Commands/FromUpdatePlaylistsCommandParams.h"
+#include "Thrift/Commands/ToCreatePlaylistsCommandParams.h"
+#include "Thrift/Commands/ToDeletePlaylistsCommandParams.h"
+#include "Thrift/Commands/ToPlaylistCommandReply.h"
+#include "Thrift/Commands/ToPlaylistResultsItem.h"
+#include "Thrift/Commands/ToUpdatePlaylistsCommandParams.h"
+#include "generated/CreatePlaylistsCommandParams_types.h"
+#include "generated/DeletePlaylistsCommandParams_types.h"
+#include "generated/PlaylistCommandReply_types.h"
+#include "generated/UpdatePlaylistsCommandParams_types.h"
+#include "tests/Thrift/Data/Sequences/Values.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace Talvo::Tests
+{
+namespace
+{
+
+using namespace Corvane::Zelmar::HighLevelOperations::Commands;
+using namespace Corvane::Zelmar::Serialization::Thrift::Commands;
+using Corvane::Data::OperationResult;
+using Corvane::Data::OperationStatus;
+using Corvane::Data::Sequences::Playlist;
+using Status = OperationStatus::Status;
+using WireStatusOf = Corvane::Data::Generated::OperationStatusStatus;
+using SequenceGuid = Corvane::Data::Sequences::Guid;
+
+using Create = Converters<CreatePlaylistsCommandParams, Generated::CreatePlaylistsCommandParams,
+                          CreatePlaylistsCommandParamsToThriftConverter, ThriftToCreatePlaylistsCommandParamsConverter>;
+using Update = Converters<UpdatePlaylistsCommandParams, Generated::UpdatePlaylistsCommandParams,
+                          UpdatePlaylistsCommandParamsToThriftConverter, ThriftToUpdatePlaylistsCommandParamsConverter>;
+using Delete = Converters<DeletePlaylistsCommandParams, Generated::DeletePlaylistsCommandParams,
+                          DeletePlaylistsCommandParamsToThriftConverter, ThriftToDeletePlaylistsCommandParamsConverter>;
+using Item = Converters<PlaylistResultsItem, Generated::PlaylistResultsItem, PlaylistResultsItemToThriftConverter,
+                        ThriftToPlaylistResultsItemConverter>;
+using Reply = Converters<PlaylistCommandReply, Generated::PlaylistCommandReply, PlaylistCommandReplyToThriftConverter,
+                         ThriftToPlaylistCommandReplyConverter>;
+
+auto const HasPlaylists = [](auto const& wire) { return bool(wire.__isset.playlists); };
+auto const HasParams = [](auto const& wire) { return bool(wire.__isset.params); };
+
+Playlist NamedPlaylist(char const* const umId)
+{
+    auto playlist = FullPlaylist();
+    playlist.umId = SomeUmId(umId);
+    return playlist;
+}
+
+TEST(PlaylistParamsConversion, ListsTravelWhateverThePlaylistsReport)
+{
+    CreatePlaylistsCommandParams creation;
+    creation.commandGuid = Id('c');
+    creation.playlists = {FullPlaylist(), Playlist()};
+    ExpectList<Create>(creation, &CreatePlaylistsCommandParams::playlists,
+                       &Generated::CreatePlaylistsCommandParams::playlists, HasPlaylists);
+    auto wireCreation = Create::Sent(creation);
+    wireCreation.playlists[0] = {}; // fails as empty
+    creation.playlists[0] = Playlist();
+    EXPECT_EQ(Create::Received(wireCreation), creation);
+
+    UpdatePlaylistsCommandParams update;
+    update.commandGuid = Id('c');
+    update.params = {{NamedPlaylist("OLD"), NamedPlaylist("NEW")}, {Playlist(), FullPlaylist()}};
+    ExpectList<Update>(update, &UpdatePlaylistsCommandParams::params, &Generated::UpdatePlaylistsCommandParams::params,
+                       HasParams);
+    auto wireUpdate = Update::Sent(update);
+    EXPECT_EQ(wireUpdate.params[0].oldPlaylist.sequence.umId, "OLD");
+    EXPECT_TRUE(wireUpdate.params[0].__isset.oldPlaylist && wireUpdate.params[0].__isset.newPlaylist);
+    wireUpdate.params[0].__isset = {}; // the inner flags are not read
+    wireUpdate.params[1].newPlaylist = {};
+    update.params[1].newPlaylist = Playlist();
+    EXPECT_EQ(Update::Received(wireUpdate), update);
+
+    DeletePlaylistsCommandParams deletion;
+    deletion.commandGuid = Id('c');
+    deletion.playlists = {Id<SequenceGuid>('b'), Id<SequenceGuid>('a')};
+    ExpectList<Delete>(deletion, &DeletePlaylistsCommandParams::playlists,
+                       &Generated::DeletePlaylistsCommandParams::playlists, HasPlaylists);
+}
+
+PlaylistResultsItem SomeItem(OperationStatus const& status, std::unique_ptr<Playlist> playlist = nullptr)
+{
+    PlaylistResultsItem item;
+    item.OperationStatus(status);
+    item.playlist = std::move(playlist);
+    return item;
+}
+
+std::unique_ptr<Playlist> Held(Playlist const& playlist)
+{
+    return std::make_unique<Playlist>(playlist);
+}
+
+std::pair<OperationStatus, Corvane::Data::Optional<Playlist>> Shown(PlaylistResultsItem const& item)
+{
+    if (item.playlist == nullptr) return {item.OperationStatus(), {}};
+    return {item.OperationStatus(), *item.playlist};
+}
+
+auto Shown(PlaylistCommandReply const& reply)
+{
+    std::vector<std::pair<OperationStatus, Corvane::Data::Optional<Playlist>>> items;
+    for (auto const& item : reply.results) items.push_back(Shown(item));
+    return std::pair(reply.commandGuid, items);
+}
+
+OperationStatus const Succeeded{Status::Succeeded, OperationResult::Success};
+OperationStatus const Refused{Status::Failed, OperationResult::UsedResource};
+OperationStatus const StartOfAnItem{Status::Failed, OperationResult::DefaultError};
+
+TEST(PlaylistResultsItemConversion, EveryHeldPlaylistTravelsWhateverTheStatus)
+{
+    for (auto const& status : {Succeeded, Refused})
+    {
+        for (auto const& playlist : {FullPlaylist(), Playlist::Empty()})
+        {
+            auto const wire = Item::Sent(SomeItem(status, Held(playlist)));
+            EXPECT_TRUE(wire.__isset.operationStatus && wire.__isset.playlist);
+            EXPECT_EQ(Shown(Item::Received(wire)), Shown(SomeItem(status, Held(playlist))));
+        }
+        Generated::PlaylistResultsItem used;
+        used.__isset.playlist = true;
+        EXPECT_TRUE(PlaylistResultsItemToThriftConverter().To(SomeItem(status), used).success);
+        EXPECT_FALSE(used.__isset.playlist);
+    }
+}
+
+TEST(PlaylistResultsItemConversion, ReceivedPlaylistIsKeptWhateverTheStatus)
+{
+    auto const sent = Item::Sent(SomeItem(Succeeded, Held(NamedPlaylist("SENT"))));
+    auto const expectReceived =
+        [&](bool const hasStatus, bool const hasPlaylist, OperationStatus const& status, char const* const umId)
+    {
+        auto wire = sent;
+        wire.operationStatus = WireStatus(WireStatusOf::Failed);
+        wire.__isset.operationStatus = hasStatus;
+        wire.__isset.playlist = hasPlaylist;
+        auto item = SomeItem(Refused, Held(NamedPlaylist("HELD")));
+        EXPECT_EQ(Item::Told(wire, item), hasStatus || hasPlaylist ? "" : "PlaylistResultsItem is empty");
+        EXPECT_EQ(item.OperationStatus(), status);
+        EXPECT_STREQ(item.playlist == nullptr ? "none" : item.playlist->umId.GetUmId(), umId);
+    };
+    expectReceived(true, true, StartOfAnItem, "SENT"); // a failed item that holds a playlist
+    expectReceived(true, false, StartOfAnItem, "none");
+    expectReceived(false, true, Refused, "SENT");
+    expectReceived(false, false, Refused, "HELD"); // untouched
+
+    auto wire = sent;
+    wire.operationStatus = {};
+    wire.playlist = {};
+    EXPECT_EQ(Shown(Item::Received(wire, SomeItem(Succeeded))),
+              Shown(SomeItem(StartOfAnItem, Held(Playlist::Empty()))));
+}
+
+PlaylistCommandReply FullReply(char const id)
+{
+    PlaylistCommandReply reply(Id(id), 3);
+    reply.results[0] = SomeItem(Succeeded, Held(FullPlaylist()));
+    reply.results[1] = SomeItem(Refused, Held(NamedPlaylist("FAILED")));
+    reply.results[2] = SomeItem({Status::Pending, OperationResult::Unknown});
+    return reply;
+}
+
+TEST(PlaylistCommandReplyConversion, RoundTripReplacesTheReply)
+{
+    auto const show = [](auto const& value) { return Shown(value); };
+    auto const fresh = [] { return FullReply('h'); };
+    ExpectReplyRoundTrip<Reply>([] { return FullReply('c'); }, show, fresh);
+    ExpectReplyRoundTrip<Reply>([] { return PlaylistCommandReply(Id('c'), 0); }, show, fresh);
+    EXPECT_TRUE(Reply::Sent(PlaylistCommandReply(Id('c'), 0)).__isset.results);
+    auto const wire = Reply::Sent(FullReply('c'));
+    EXPECT_TRUE(wire.__isset.guid);
+    EXPECT_EQ(Reply::Sent(FullReply('c'), wire).results.size(), 6u);
+}
+
+TEST(PlaylistCommandReplyConversion, NeedsBothFieldsAndKeepsAnEmptyItemAsFailed)
+{
+    auto wire = Reply::Sent(FullReply('c'));
+    for (auto const field : {0, 1, 2})
+    {
+        auto partial = wire;
+        partial.__isset.guid = field == 1;
+        partial.__isset.results = field == 2;
+        auto reply = FullReply('h');
+        EXPECT_EQ(Reply::Told(partial, reply), "PlaylistCommandReply is empty");
+        EXPECT_EQ(Shown(reply), Shown(FullReply('h')));
+    }
+
+    wire.results[0] = {};
+    wire.results[1].__isset.operationStatus = false;
+    auto expected = FullReply('c');
+    expected.results[0] = SomeItem(StartOfAnItem);
+    expected.results[1] = SomeItem(StartOfAnItem, Held(NamedPlaylist("FAILED")));
+    EXPECT_EQ(Shown(Reply::Received(wire, FullReply('h'))), Shown(expected));
+}
+
+} // namespace
+} // namespace Talvo::Tests
