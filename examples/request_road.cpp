@@ -1,0 +1,192 @@
+// The road of one request: what a server does between the bytes that a client sent and the bytes that it answers with.
+//
+//     request_road REQUEST FOLDER
+//
+// REQUEST holds the parameters of a command that creates clips, in Thrift's binary protocol. The reply and the events of
+// the clips go into FOLDER, with a list of them in samples.txt.
+
+#include "Domain/CorvaneData/Clips/Clip.h"
+#include "Domain/CorvaneData/Notification/ClipCreationFailedEventArgs.h"
+#include "Domain/CorvaneData/Notification/ClipCreationFinishedEventArgs.h"
+#include "Domain/HighLevelOperations/Commands/ClipCommandReply.h"
+#include "Domain/HighLevelOperations/Commands/CreateClipsCommandParams.h"
+#include "Thrift/Commands/FromClipCommandReply.h"
+#include "Thrift/Commands/ToCreateClipsCommandParams.h"
+#include "Thrift/Notifier/FromClipCreationFailedEventArgs.h"
+#include "Thrift/Notifier/FromClipCreationFinishedEventArgs.h"
+#include "generated/ClipCommandReply_types.h"
+#include "generated/ClipCreationEventArgs_types.h"
+#include "generated/CreateClipsCommandParams_types.h"
+
+#include <thrift/protocol/TBinaryProtocol.h>
+#include <thrift/transport/TBufferTransports.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <exception>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace
+{
+
+using apache::thrift::transport::TMemoryBuffer;
+using Protocol = apache::thrift::protocol::TBinaryProtocolT<TMemoryBuffer>;
+
+using Talvo::Corvane::Data::OperationResult;
+using Talvo::Corvane::Data::OperationStatus;
+using Talvo::Corvane::Data::Clips::Clip;
+using Talvo::Corvane::Notification::ClipCommandEventArgs;
+using Talvo::Corvane::Notification::ClipCreationEventArgs;
+using Talvo::Corvane::Notification::ClipCreationFailedEventArgs;
+using Talvo::Corvane::Notification::ClipCreationFinishedEventArgs;
+using Talvo::Corvane::Zelmar::HighLevelOperations::Commands::ClipCommandReply;
+using Talvo::Corvane::Zelmar::HighLevelOperations::Commands::CreateClipsCommandParams;
+namespace WireCommands = Talvo::Corvane::Zelmar::Serialization::Thrift::Commands;
+namespace WireEvents = Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier;
+
+/// The clips of a server, each identifier once.
+class ClipStore
+{
+public:
+    OperationResult Create(Clip const& clip)
+    {
+        bool const isTaken = std::ranges::any_of(clips_, [&](Clip const& other) { return other.umId == clip.umId; });
+        if (isTaken) return OperationResult::UsedResource;
+        clips_.push_back(clip);
+        return OperationResult::Success;
+    }
+
+    /// Changes with every clip.
+    std::int64_t Revision() const { return static_cast<std::int64_t>(clips_.size()); }
+
+private:
+    std::vector<Clip> clips_;
+};
+
+/// Writes the wire records that leave the server, a file each.
+class Outbox
+{
+public:
+    explicit Outbox(std::filesystem::path folder)
+        : folder_(std::move(folder))
+    {
+        std::filesystem::create_directories(folder_);
+        list_.open(folder_ / "samples.txt");
+    }
+
+    template<typename TWireRecord>
+    void Send(std::string const& name, std::string const& recordName, TWireRecord const& record)
+    {
+        auto const buffer = std::make_shared<TMemoryBuffer>();
+        Protocol protocol(buffer);
+        auto const size = record.write(&protocol);
+        std::ofstream(folder_ / (name + ".binary"), std::ios::binary) << buffer->getBufferAsString();
+        list_ << name << ".binary " << recordName << std::endl;
+        if (!list_) throw std::runtime_error("can't write into " + folder_.string());
+        std::cout << "sent      " << recordName << ", " << size << " bytes\n";
+    }
+
+private:
+    std::filesystem::path folder_;
+    std::ofstream list_;
+};
+
+/// What a conversion reports, as an exception.
+void Require(Talvo::Common::Serialization::ConversionResult const& result)
+{
+    if (!result.success) throw std::runtime_error(result.message);
+}
+
+WireCommands::Generated::CreateClipsCommandParams ReadRequest(char const* const path)
+{
+    std::ifstream file(path, std::ios::binary);
+    std::string bytes(std::istreambuf_iterator<char>(file), {});
+    auto const buffer = std::make_shared<TMemoryBuffer>(reinterpret_cast<std::uint8_t*>(bytes.data()),
+                                                        static_cast<std::uint32_t>(bytes.size()));
+    Protocol protocol(buffer);
+    WireCommands::Generated::CreateClipsCommandParams request;
+    request.read(&protocol);
+    return request;
+}
+
+void Serve(char const* const requestPath, char const* const folder)
+{
+    // 1. The request comes from the wire into the domain.
+    CreateClipsCommandParams request;
+    Require(WireCommands::ThriftToCreateClipsCommandParamsConverter().To(ReadRequest(requestPath), request));
+    std::cout << "received  CreateClipsCommandParams, " << request.clips.size() << " clips\n";
+
+    // 2. The server carries it out, and says of each clip what became of it.
+    ClipStore store;
+    Outbox outbox(folder);
+    ClipCommandReply reply(request.commandGuid, request.clips.size());
+    for (std::size_t i = 0; i < request.clips.size(); ++i)
+    {
+        auto const& clip = request.clips[i].clip;
+        auto const result = store.Create(clip);
+        bool const isCreated = result == OperationResult::Success;
+        std::cout << (isCreated ? "created   " : "refused   ") << clip.umId.data() << '\n';
+
+        auto& item = reply.results[i];
+        item.OperationStatus(
+            {isCreated ? OperationStatus::Status::Succeeded : OperationStatus::Status::Failed, result});
+        if (isCreated) item.clip = std::make_unique<Clip>(clip);
+
+        // 3. Whoever listens hears of it by an event, which goes back to the wire.
+        auto const name = "clip-creation-" + std::to_string(i);
+        if (isCreated)
+        {
+            ClipCreationFinishedEventArgs const event(
+                310042, ClipCommandEventArgs::RequestSource::Network, static_cast<unsigned int>(i), 1,
+                request.commandGuid, store.Revision(), Clip::Empty(), clip, ClipCreationEventArgs::CreationType::Make,
+                ClipCreationEventArgs::NetworkType::Unknown);
+            WireEvents::Generated::ClipCreationFinishedEventArgs wireEvent;
+            Require(WireEvents::ClipCreationFinishedEventArgsToThriftConverter().To(event, wireEvent));
+            outbox.Send(name, "ClipCreationFinishedEventArgs", wireEvent);
+        }
+        else
+        {
+            ClipCreationFailedEventArgs const event(
+                310042, ClipCommandEventArgs::RequestSource::Network, static_cast<unsigned int>(i), 1,
+                request.commandGuid, store.Revision(), result, 0, Clip::Empty(), clip,
+                ClipCreationEventArgs::CreationType::Make, ClipCreationEventArgs::NetworkType::Unknown);
+            WireEvents::Generated::ClipCreationFailedEventArgs wireEvent;
+            Require(WireEvents::ClipCreationFailedEventArgsToThriftConverter().To(event, wireEvent));
+            outbox.Send(name, "ClipCreationFailedEventArgs", wireEvent);
+        }
+    }
+
+    // 4. The reply goes back to the wire.
+    WireCommands::Generated::ClipCommandReply wireReply;
+    Require(WireCommands::ClipCommandReplyToThriftConverter().To(reply, wireReply));
+    outbox.Send("clip-command-reply", "ClipCommandReply", wireReply);
+}
+
+} // namespace
+
+int main(int const argc, char** const argv)
+{
+    if (argc != 3)
+    {
+        std::cerr << "usage: request_road REQUEST FOLDER\n";
+        return 2;
+    }
+    try
+    {
+        Serve(argv[1], argv[2]);
+        return 0;
+    }
+    catch (std::exception const& error)
+    {
+        std::cerr << "request_road: " << error.what() << '\n';
+        return 1;
+    }
+}
