@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <fstream>
 #include <sstream>
 
@@ -45,7 +46,15 @@ Outcome RunTool(std::vector<std::string> arguments, std::string const& input, st
 
 std::string TemporaryPath(std::string const& name)
 {
-    return testing::TempDir() + "talvo-wire-" + std::to_string(getpid()) + "-" + name;
+    struct Folder
+    {
+        std::filesystem::path path = testing::TempDir() + "talvo-wire-" + std::to_string(getpid());
+
+        Folder() { std::filesystem::create_directory(path); }
+        ~Folder() { std::filesystem::remove_all(path); }
+    };
+    static Folder const folder;
+    return folder.path / name;
 }
 
 std::string Read(std::string const& path)
