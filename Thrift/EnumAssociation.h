@@ -17,7 +17,8 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift
 /// enumerator. A lookup can't fail, takes no lock and costs one probe.
 ///
 /// Tables are constant data (declare them `constinit`), so they serve the static initialisers of other files too. A
-/// table that repeats a value in either column, or that does not fit, does not compile.
+/// table with a pair that would not be found both ways, since a value is repeated or shares the slot of another one,
+/// does not compile then.
 template<typename A, typename B>
 class EnumAssociation
 {
@@ -28,6 +29,11 @@ public:
         {
             forward_.Insert(domain, wire);
             backward_.Insert(wire, domain);
+        }
+        for (auto const& [domain, wire] : pairs)
+        {
+            if (ToGeneratedEnum(domain) != wire || FromGeneratedEnum(wire) != domain)
+                throw std::logic_error("A pair is not found both ways");
         }
     }
 
@@ -43,12 +49,7 @@ private:
     class Column
     {
     public:
-        constexpr void Insert(Key key, Value value)
-        {
-            auto& slot = slots_[Index(key)];
-            if (slot != Slot{}) throw std::logic_error("Two keys share a slot");
-            slot = {key, value};
-        }
+        constexpr void Insert(Key key, Value value) noexcept { slots_[Index(key)] = {key, value}; }
 
         constexpr Value Find(Key key) const noexcept
         {
@@ -61,7 +62,6 @@ private:
         {
             Key key{};
             Value value{};
-            bool operator==(Slot const&) const = default;
         };
 
         static constexpr std::size_t SlotCount = 32;

@@ -3,12 +3,14 @@
 #include "Thrift/Data/OperationResultConverter.h"
 #include "Thrift/Data/OperationStatusConverter.h"
 #include "Thrift/Data/Sequences/EnumConverter.h"
+#include "Thrift/EnumAssociation.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdint>
 #include <functional>
 #include <limits>
+#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -173,6 +175,28 @@ TEST(EnumTables, AllOutputsAreAMaskInTheDomain)
     using Thrift::Data::Sequences::EnumConverter::ToGeneratedEnum;
     for (auto const number : {3, 31, 65534}) // the wire's number, one that shares the slot of the mask, one less
         EXPECT_EQ(ToGeneratedEnum(static_cast<TimeCodeRegenOutput>(number)), WireSequences::TimeCodeRegenOutput::None);
+}
+
+// In constant data, as all tables are, these don't compile.
+TEST(EnumTables, PairsThatWouldNotBeFoundBothWaysAreRefused)
+{
+    enum class Left
+    {
+        Zero,
+        One,
+        SharesTheSlotOfOne = 33
+    };
+    enum class Right
+    {
+        Zero,
+        One,
+        Two
+    };
+    using Association = Thrift::EnumAssociation<Left, Right>;
+    EXPECT_THROW((Association{{Left::Zero, Right::Zero}, {Left::Zero, Right::One}}), std::logic_error);
+    EXPECT_THROW((Association{{Left::Zero, Right::Zero}, {Left::One, Right::Zero}}), std::logic_error);
+    EXPECT_THROW((Association{{Left::Zero, Right::One}, {Left::One, Right::One}}), std::logic_error);
+    EXPECT_THROW((Association{{Left::One, Right::One}, {Left::SharesTheSlotOfOne, Right::Two}}), std::logic_error);
 }
 
 } // namespace

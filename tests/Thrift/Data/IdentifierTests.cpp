@@ -145,8 +145,9 @@ TEST(ConverterFrame, RvalueFormGoesThroughTheConstForm)
         }
     };
     Wire::Guid wire;
-    EXPECT_EQ(Refusing().To(Guid(), wire).message, "refused");
-    EXPECT_STREQ(Refusing().GetLastConversionError(), "");
+    Refusing const refusing;
+    EXPECT_EQ(refusing.To(Guid(), wire).message, "refused");
+    EXPECT_STREQ(refusing.GetLastConversionError(), "");
 }
 
 } // namespace

@@ -250,7 +250,7 @@ TEST(ClipConversion, ListsPatchTheSlotsThatTheyReach)
     EXPECT_EQ(Text(few.keywords[0].payload), std::string(12, '\0'));
     EXPECT_EQ(Text(few.keywords[1].payload), "longer than ");
     EXPECT_TRUE(few.keywords[1].isUtf16);
-    for (auto const slot : {2, 3, 4}) EXPECT_EQ(few.keywords[slot], Clip().keywords[slot]);
+    for (auto const slot : {2u, 3u, 4u}) EXPECT_EQ(few.keywords[slot], Clip().keywords[slot]);
     EXPECT_THAT(few.userBits, ElementsAre(0xFF, 0x34, 0, 0, 0, 0, 0, 0));
 
     wire.keywords.assign(5, wire.keywords[1]);
@@ -360,6 +360,12 @@ TEST(ClipConversionDeathTest, TimeCodeTextsAreReadUnguarded)
     wire.__set_inBoundUserTimecode("2024-01-01T00:00:00:00@99999999999");
     EXPECT_DEATH(std::ignore = ThriftToClipConverter().To(wire, clip), "terminate");
     wire.__set_inBoundUserTimecode("2023-02-29T00:00:00:00@50");
+    EXPECT_DEATH(std::ignore = ThriftToClipConverter().To(wire, clip), "terminate");
+
+    // An undated time code is read, but what it is sent as is not.
+    wire.__set_inBoundUserTimecode("01:02:03:04@25");
+    wire = Sent(Received(wire));
+    EXPECT_EQ(wire.inBoundUserTimecode, "-1-0-1-0-1T01:02:03:04@25");
     EXPECT_DEATH(std::ignore = ThriftToClipConverter().To(wire, clip), "terminate");
 }
 
