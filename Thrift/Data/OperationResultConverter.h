@@ -3,8 +3,8 @@
 #include "Domain/CorvaneData/OperationStatus.h"
 #include "generated/OperationResult_types.h"
 
-/// The results of operations between the domain and the wire, whose numbers differ from 2 to 8. It can't fail: a value
-/// outside the table gives `Success`.
+/// The results of operations between the domain and the wire, whose numbers differ from 2 to 8. No call can fail: a
+/// value outside the table gives `Success`.
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::OperationResultConverter
 {
 

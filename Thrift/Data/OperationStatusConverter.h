@@ -3,7 +3,7 @@
 #include "Domain/CorvaneData/OperationStatus.h"
 #include "generated/OperationStatusStatus_types.h"
 
-/// The states of operations between the domain and the wire. It can't fail: a value outside the table gives
+/// The states of operations between the domain and the wire. No call can fail: a value outside the table gives
 /// `NotStarted`.
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::OperationStatusConverter
 {

@@ -23,9 +23,11 @@ class Clip;
 /// - `keywords` always has five elements. `userBits` are appended to what the destination holds, each 0 to 255.
 /// - The 32-bit `legacyTimecodeOffset`, `userLock`, `thumbnailOffset`, `sequence` and `machineSerial` are
 ///   zero-extended.
-/// - These stay off the wire: an optional enumeration that holds 0 (so `HdrProfile::Unknown`), a time code or time
-///   point that is empty, an essence that is `NotPresent`.
+/// - These are not written: a time code or time point that is empty, an essence that is `NotPresent`, and an
+///   enumeration that holds 0 (so `HdrProfile::Unknown`), but for `trainStatus`, `archiveStatus`, `videoFormat`,
+///   `videoStandard` and `userTimecodeType`.
 /// - Lost on the way: the reserved fields, and domain enumerators outside their table, which travel as 0.
+/// - An undated time code goes out as a text that can't be read again: ThriftToClipConverter ends the process on it.
 class ClipToThriftConverter : public Converter<Corvane::Data::Clips::Clip, Generated::Clip>
 {
 public:

@@ -20,7 +20,7 @@ class Train;
 /// - Without a clip the flag of `trainData` is cleared.
 /// - Ranges are appended to those that the destination holds, and the flag of `recordingRanges` says whether there is
 ///   any.
-/// - `lastKnownTimeCode` stays off the wire when it is empty.
+/// - `lastKnownTimeCode` is not written when it is empty. An undated one goes out as a text that reads back as empty.
 class TrainToThriftConverter : public Converter<Corvane::Data::Clips::Train, Generated::Train>
 {
 public:

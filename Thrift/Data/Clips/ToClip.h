@@ -24,7 +24,7 @@ class Clip;
 /// - "Clip is empty": no field was there. An empty `keywords` or `userBits` counts for nothing, nor do
 ///   `sourceInBoundTodTimecode` and `sourceInBoundUserTimecode`, which are never read.
 ///
-/// Ends the process: an `inBoundTodTimecode` or `inBoundUserTimecode` that is no time code text.
+/// Ends the process: an `inBoundTodTimecode` or `inBoundUserTimecode` that TalvoTimeCodeParser refuses.
 ///
 /// Lost on the way: identifiers above 8 bytes, text slots above their size and the keywords and user bits beyond the
 /// fifth and the eighth are cut; shorter texts are filled with zeros, not blanks; the high word of the numbers that are

@@ -19,7 +19,7 @@ class RecordingRange;
 ///
 /// Failures, which leave the destination unchanged:
 /// - "RecordingRange is empty": one of the four flags is clear.
-/// - "Invalid TimeCode format": a time code text can't be parsed, whatever is wrong with it.
+/// - "Invalid TimeCode format": a time code is not one that TalvoTimeCodeParser reads, whatever is wrong with it.
 class ThriftToRecordingRangeConverter
     : public Converter<Generated::RecordingRange, Corvane::Data::Clips::RecordingRange>
 {
