@@ -1,4 +1,5 @@
 #include "benchmarks/Comparison.h"
+#include "benchmarks/PeakGrowth.h"
 #include "benchmarks/Records.h"
 
 #include "Domain/CorvaneData/Clips/Clip.h"
@@ -10,11 +11,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-#include <array>
 #include <cstddef>
 #include <cstdio>
 #include <memory>
@@ -86,34 +82,6 @@ void LookUp(Clip const& clip)
     LookUp(clip.longGopEssence);
 }
 
-/// The MB by which the memory of the process grows while `work` runs, at the highest: seen in a process of its own, whose
-/// high-water mark starts anew.
-double PeakGrowth(auto const& work)
-{
-    auto const peak = []
-    {
-        rusage usage{};
-        getrusage(RUSAGE_SELF, &usage);
-        return static_cast<double>(usage.ru_maxrss) / 1024;
-    };
-
-    std::array<int, 2> ends{};
-    if (pipe(ends.data()) != 0) return 0;
-    if (fork() == 0)
-    {
-        auto const before = peak();
-        work();
-        auto const growth = peak() - before;
-        _exit(write(ends[1], &growth, sizeof(growth)) == sizeof(growth) ? 0 : 1);
-    }
-    close(ends[1]);
-    double growth = 0;
-    if (read(ends[0], &growth, sizeof(growth)) != sizeof(growth)) growth = 0;
-    close(ends[0]);
-    wait(nullptr);
-    return growth;
-}
-
 } // namespace
 
 void PrintPeakMemory()
@@ -129,7 +97,8 @@ void PrintPeakMemory()
 void AddClips(Comparisons& rows)
 {
     AddRecord<ClipToThriftConverter, ThriftToClipConverter, Generated::Clip>(
-        rows, "clip", ClipWithTwoEssences(), {}, [](Generated::Clip& wire) { wire.userBits.clear(); });
+        rows, "clip", ClipWithTwoEssences(), {.toNewRecord = 0.50, .toUsedRecord = 0.30, .toDomain = 0.20},
+        [](Generated::Clip& wire) { wire.userBits.clear(); });
 
     benchmark::RegisterBenchmark("34 enumeration lookups",
                                  [](benchmark::State& state)

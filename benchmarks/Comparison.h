@@ -20,8 +20,14 @@ using Comparisons = std::vector<Comparison>;
 // Each registers its benchmarks and adds the rows that show them.
 void AddTimeCodes(Comparisons& rows);
 void AddClips(Comparisons& rows);
+void AddStatesAndEvents(Comparisons& rows);
+void AddPlaylists(Comparisons& rows);
+void AddCommands(Comparisons& rows);
 
 /// Prints what memory 100,000 clips take on their way to a wire list, at the highest.
 void PrintPeakMemory();
+
+/// Prints what memory a reply of 100,000 clips takes on its way to the wire, at the highest.
+void PrintPeakMemoryOfReply();
 
 } // namespace Talvo::Benchmarks

@@ -96,6 +96,7 @@ int main(int argc, char** argv)
     if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) return 2;
 
     PrintPeakMemory(); // first, in a heap that nothing has used
+    PrintPeakMemoryOfReply();
 
     // A warm heap: long lists get memory that the process has already, as in a server that runs on. What the kernel takes
     // to hand out new memory is none of ours, and as much for every way to fill it.
@@ -105,6 +106,9 @@ int main(int argc, char** argv)
     Comparisons rows;
     AddTimeCodes(rows);
     AddClips(rows);
+    AddStatesAndEvents(rows);
+    AddPlaylists(rows);
+    AddCommands(rows);
     TimesReporter times;
     benchmark::RunSpecifiedBenchmarks(&times);
     Print(rows, times);

@@ -6,20 +6,24 @@
 #include <thrift/protocol/TBinaryProtocol.h>
 #include <thrift/transport/TBufferTransports.h>
 
+#include <cstddef>
 #include <memory>
 #include <optional>
 #include <string>
 #include <tuple>
+#include <type_traits>
 
 namespace Talvo::Benchmarks
 {
 
-/// What a conversion may cost of Thrift's own work on the same record.
+/// What a conversion may cost of Thrift's own work on the same record, and of plain copies.
 struct RecordTargets
 {
-    std::optional<double> toNewRecord = 0.50;  ///< of `write`
-    std::optional<double> toUsedRecord = 0.30; ///< of `write`
-    std::optional<double> toDomain = 0.20;     ///< of `read`
+    std::optional<double> toNewRecord = {};       ///< of `write`
+    std::optional<double> toNewRecordOfCopy = {}; ///< of a copy of the wire record
+    std::optional<double> toUsedRecord = {};      ///< of `write`
+    std::optional<double> toDomain = {};          ///< of `read`
+    std::optional<double> toDomainOfCopy = {};    ///< of a copy of the domain object
 };
 
 /// A buffer that can be read again and again, at no cost that would count as Thrift's.
@@ -37,52 +41,53 @@ using WireProtocol = apache::thrift::protocol::TBinaryProtocolT<apache::thrift::
 
 /// Registers what is measured of one record and adds its rows: both directions against `write` and `read` (binary
 /// protocol, which writes into a buffer that is large enough) and against a copy of the wire record. All but the used
-/// record start from a new destination and include its destruction. `clear` empties the fields of a used record that
-/// the conversion appends to.
+/// record start from a new destination, which `make` makes, and include its destruction. `clear` empties the fields of a
+/// used record that the conversion appends to.
 template<typename TToWire, typename TToDomain, typename TWire, typename TDomain>
 void AddRecord(
-    Comparisons& rows, std::string const& name, TDomain const& value, RecordTargets const& targets = {},
-    void (*clear)(TWire&) = [](TWire&) {})
+    Comparisons& rows, std::string const& name, TDomain const& value, RecordTargets const& targets,
+    void (*clear)(TWire&), std::type_identity_t<TDomain> (*make)() = [] { return TDomain(); })
 {
-    TWire sent;
-    std::ignore = TToWire().To(value, sent);
+    auto const source = std::make_shared<TDomain const>(value);
+    auto const sent = std::make_shared<TWire>();
+    std::ignore = TToWire().To(value, *sent);
 
     auto const toNewRecord = name + " to wire, new record";
     benchmark::RegisterBenchmark(toNewRecord.c_str(),
-                                 [value](benchmark::State& state)
+                                 [source](benchmark::State& state)
                                  {
                                      TToWire const converter;
                                      for (auto _ : state)
                                      {
                                          TWire wire;
-                                         std::ignore = converter.To(value, wire);
+                                         std::ignore = converter.To(*source, wire);
                                          benchmark::DoNotOptimize(wire);
                                      }
                                  });
 
     auto const toUsedRecord = name + " to wire, used record";
     benchmark::RegisterBenchmark(toUsedRecord.c_str(),
-                                 [value, clear](benchmark::State& state)
+                                 [source, clear](benchmark::State& state)
                                  {
                                      TToWire const converter;
                                      TWire wire;
                                      for (auto _ : state)
                                      {
                                          clear(wire);
-                                         std::ignore = converter.To(value, wire);
+                                         std::ignore = converter.To(*source, wire);
                                          benchmark::DoNotOptimize(wire);
                                      }
                                  });
 
     auto const toDomain = "wire to " + name;
     benchmark::RegisterBenchmark(toDomain.c_str(),
-                                 [sent](benchmark::State& state)
+                                 [sent, make](benchmark::State& state)
                                  {
                                      TToDomain const converter;
                                      for (auto _ : state)
                                      {
-                                         TDomain domain;
-                                         std::ignore = converter.To(sent, domain);
+                                         auto domain = make();
+                                         std::ignore = converter.To(*sent, domain);
                                          benchmark::DoNotOptimize(domain);
                                      }
                                  });
@@ -93,8 +98,22 @@ void AddRecord(
                                  {
                                      for (auto _ : state)
                                      {
-                                         TWire wire(sent);
+                                         TWire wire(*sent);
                                          benchmark::DoNotOptimize(wire);
+                                     }
+                                 });
+
+    // What is copied is what a conversion gave, so its memory lies as that of the conversion that is measured.
+    auto const received = std::make_shared<TDomain>(make());
+    std::ignore = TToDomain().To(*sent, *received);
+    auto const domainCopy = "copy of " + name;
+    benchmark::RegisterBenchmark(domainCopy.c_str(),
+                                 [received](benchmark::State& state)
+                                 {
+                                     for (auto _ : state)
+                                     {
+                                         TDomain domain(*received);
+                                         benchmark::DoNotOptimize(domain);
                                      }
                                  });
 
@@ -107,7 +126,7 @@ void AddRecord(
                                      for (auto _ : state)
                                      {
                                          buffer->resetBuffer();
-                                         sent.write(&protocol);
+                                         sent->write(&protocol);
                                          benchmark::ClobberMemory();
                                      }
                                  });
@@ -118,7 +137,7 @@ void AddRecord(
                                  {
                                      auto const buffer = std::make_shared<WireBuffer>();
                                      WireProtocol protocol(buffer);
-                                     sent.write(&protocol);
+                                     sent->write(&protocol);
                                      for (auto _ : state)
                                      {
                                          buffer->Rewind();
@@ -129,11 +148,32 @@ void AddRecord(
                                  });
 
     rows.insert(rows.end(), {{toNewRecord, write, targets.toNewRecord},
-                             {toNewRecord, copy, {}},
+                             {toNewRecord, copy, targets.toNewRecordOfCopy},
                              {toUsedRecord, write, targets.toUsedRecord},
                              {toUsedRecord, copy, {}},
                              {toDomain, read, targets.toDomain},
-                             {toDomain, copy, {}}});
+                             {toDomain, domainCopy, targets.toDomainOfCopy}});
+}
+
+/// Registers `work(count)` for a list of `many` elements and for as many in lists of `few`, and adds the row that shows
+/// whether a long list costs more an element than a short one.
+template<typename TMakeWork>
+void AddLinear(Comparisons& rows, std::string const& name, std::size_t few, std::size_t many, TMakeWork const& makeWork)
+{
+    auto const longList = name + ", " + std::to_string(many) + " at once";
+    auto const shortLists = name + ", " + std::to_string(few) + " at once";
+    benchmark::RegisterBenchmark(longList.c_str(),
+                                 [work = makeWork(many)](benchmark::State& state)
+                                 {
+                                     for (auto _ : state) work();
+                                 });
+    benchmark::RegisterBenchmark(shortLists.c_str(),
+                                 [work = makeWork(few), rounds = many / few](benchmark::State& state)
+                                 {
+                                     for (auto _ : state)
+                                         for (std::size_t round = 0; round < rounds; ++round) work();
+                                 });
+    rows.push_back({longList, shortLists, 1.3});
 }
 
 } // namespace Talvo::Benchmarks

@@ -1,0 +1,158 @@
+#include "benchmarks/Comparison.h"
+#include "benchmarks/PeakGrowth.h"
+#include "benchmarks/Records.h"
+
+#include "Domain/HighLevelOperations/Commands/GetClipsCommandReply.h"
+#include "Domain/HighLevelOperations/Commands/PlayCommandParams.h"
+#include "Thrift/Commands/FromGetClipsCommandReply.h"
+#include "Thrift/Commands/FromPlayCommandParams.h"
+#include "Thrift/Commands/ToGetClipsCommandReply.h"
+#include "Thrift/Commands/ToPlayCommandParams.h"
+#include "generated/GetClipsCommandReply_types.h"
+#include "generated/PlayCommandParams_types.h"
+#include "tests/Thrift/Data/Clips/Values.h"
+
+#include <benchmark/benchmark.h>
+
+#include <cstddef>
+#include <cstdio>
+#include <list>
+#include <memory>
+#include <tuple>
+#include <vector>
+
+namespace Talvo::Benchmarks
+{
+
+namespace
+{
+
+using namespace Corvane::Zelmar::Serialization::Thrift::Commands;
+using Corvane::Data::Clips::Clip;
+using Corvane::Zelmar::HighLevelOperations::Commands::GetClipsCommandReply;
+using Corvane::Zelmar::HighLevelOperations::Commands::PlayCommandParams;
+
+constexpr std::size_t ListSize = 100'000;
+
+GetClipsCommandReply ReplyOf(std::size_t const count)
+{
+    return {Corvane::Data::Guid::Generate(), 1, std::list<Clip>(count, Tests::FullClip())};
+}
+
+/// A reply is read once, so each conversion takes a copy, which shares the clips.
+void ToWire(GetClipsCommandReply const reply, Generated::GetClipsCommandReply& wire)
+{
+    std::ignore = GetClipsCommandReplyToThriftConverter().To(reply, wire);
+    benchmark::DoNotOptimize(wire);
+}
+
+GetClipsCommandReply ToDomain(Generated::GetClipsCommandReply const& wire)
+{
+    GetClipsCommandReply reply(Corvane::Data::Guid::Empty(), 0, {});
+    std::ignore = ThriftToGetClipsCommandReplyConverter().To(wire, reply);
+    return reply;
+}
+
+} // namespace
+
+void PrintPeakMemoryOfReply()
+{
+    auto const reply = ReplyOf(ListSize);
+    auto const conversion = PeakGrowth(
+        [&reply]
+        {
+            Generated::GetClipsCommandReply wire;
+            ToWire(reply, wire);
+        });
+    Generated::GetClipsCommandReply sent;
+    ToWire(reply, sent);
+    auto const wire = PeakGrowth([&sent] { benchmark::DoNotOptimize(Generated::GetClipsCommandReply(sent)); });
+    std::printf(
+        "GetClipsCommandReply of 100,000 clips to wire: peak memory %.0f MB beside the reply; a copy of the wire "
+        "record: %.0f MB; ratio %.2f\n\n",
+        conversion, wire, conversion / wire);
+}
+
+void AddCommands(Comparisons& rows)
+{
+    PlayCommandParams play;
+    for (int player = 0; player < 8; ++player)
+        play.players.emplace(Corvane::Data::Channels::Guid::Type::ChannelGuidTypePlayer, player, 310042u);
+    play.speedNumerator = 1;
+    AddRecord<PlayCommandParamsToThriftConverter, ThriftToPlayCommandParamsConverter, Generated::PlayCommandParams>(
+        rows, "play command", play, {.toNewRecordOfCopy = 1.3},
+        [](Generated::PlayCommandParams& wire) { wire.players.clear(); });
+
+    // What a conversion leaves is destroyed outside the time that counts.
+    auto const reply = std::make_shared<GetClipsCommandReply>(ReplyOf(ListSize));
+    auto const sent = std::make_shared<Generated::GetClipsCommandReply>();
+    ToWire(*reply, *sent);
+    benchmark::RegisterBenchmark("reply of 100,000 to wire",
+                                 [reply](benchmark::State& state)
+                                 {
+                                     for (auto _ : state)
+                                     {
+                                         auto wire = std::make_unique<Generated::GetClipsCommandReply>();
+                                         ToWire(*reply, *wire);
+                                         state.PauseTiming();
+                                         wire.reset();
+                                         state.ResumeTiming();
+                                     }
+                                 });
+    benchmark::RegisterBenchmark("write reply of 100,000",
+                                 [sent](benchmark::State& state)
+                                 {
+                                     auto const buffer = std::make_shared<WireBuffer>();
+                                     WireProtocol protocol(buffer);
+                                     sent->write(&protocol);
+                                     for (auto _ : state)
+                                     {
+                                         buffer->resetBuffer();
+                                         sent->write(&protocol);
+                                         benchmark::ClobberMemory();
+                                     }
+                                 });
+    benchmark::RegisterBenchmark("wire to reply of 100,000",
+                                 [sent](benchmark::State& state)
+                                 {
+                                     for (auto _ : state)
+                                     {
+                                         auto received = std::make_unique<GetClipsCommandReply>(ToDomain(*sent));
+                                         benchmark::DoNotOptimize(received);
+                                         state.PauseTiming();
+                                         received.reset();
+                                         state.ResumeTiming();
+                                     }
+                                 });
+    benchmark::RegisterBenchmark("read reply of 100,000",
+                                 [sent](benchmark::State& state)
+                                 {
+                                     auto const buffer = std::make_shared<WireBuffer>();
+                                     WireProtocol protocol(buffer);
+                                     sent->write(&protocol);
+                                     for (auto _ : state)
+                                     {
+                                         buffer->Rewind();
+                                         auto wire = std::make_unique<Generated::GetClipsCommandReply>();
+                                         wire->read(&protocol);
+                                         benchmark::DoNotOptimize(wire);
+                                         state.PauseTiming();
+                                         wire.reset();
+                                         state.ResumeTiming();
+                                     }
+                                 });
+    rows.insert(rows.end(), {{"reply of 100,000 to wire", "write reply of 100,000", 0.60},
+                             {"wire to reply of 100,000", "read reply of 100,000", 0.45}});
+
+    AddLinear(rows, "clips of a reply to wire", 1'000, ListSize,
+              [](std::size_t const count)
+              {
+                  return [source = std::make_shared<GetClipsCommandReply>(ReplyOf(count))]
+                  {
+                      Generated::GetClipsCommandReply wire;
+                      ToWire(*source, wire);
+                  };
+              });
+}
+
+} // namespace Talvo::Benchmarks
