@@ -16,7 +16,8 @@ class CreateAnglesGroupCommandParams;
 } // namespace Generated
 
 /// Reads a domain `CreateAnglesGroupCommandParams` from the wire record `CreateAnglesGroupCommandParams`. It can't
-/// fail. No flag is read: what was not sent is taken as the wire record holds it.
+/// fail. No flag of this record is read: what was not sent is taken as the wire record
+/// holds it. The clips' own command is read as ThriftToCreateClipsCommandParamsConverter says.
 ///
 /// Ends the process: what ends it in ThriftToClipConverter.
 class ThriftToCreateAnglesGroupCommandParamsConverter
