@@ -286,6 +286,8 @@ void ExpectQueryReply(auto const& make, std::string const& name, std::int64_t co
                 SetFlags(partial, {guid, revision, list});
                 auto reply = make(1);
                 reply.commandGuid = Id('h');
+                if constexpr (requires { reply.revision; }) reply.revision = 5;
+                if constexpr (requires { reply.dbRevision; }) reply.dbRevision = 5;
                 bool const counts = guid || list || (revision && revisionCounts);
                 EXPECT_EQ(TConverters::Told(partial, reply), counts ? "" : name + " is empty");
                 auto const& [shownGuid, shownRevision, items] = Shown(reply); // replaced even by a failure
