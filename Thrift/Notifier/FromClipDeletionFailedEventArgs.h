@@ -16,6 +16,8 @@ class ClipDeletionFailedEventArgs;
 } // namespace Generated
 
 /// Writes a domain `ClipDeletionFailedEventArgs` into the wire record `ClipDeletionFailedEventArgs`. It can't fail.
+///
+/// Lost on the way: the two reserved bytes, which no wire field carries.
 class ClipDeletionFailedEventArgsToThriftConverter
     : public Converter<Notification::ClipDeletionFailedEventArgs, Generated::ClipDeletionFailedEventArgs>
 {

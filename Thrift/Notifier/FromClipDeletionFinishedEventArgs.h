@@ -16,6 +16,8 @@ class ClipDeletionFinishedEventArgs;
 } // namespace Generated
 
 /// Writes a domain `ClipDeletionFinishedEventArgs` into the wire record `ClipDeletionFinishedEventArgs`. It can't fail.
+///
+/// Lost on the way: the two reserved bytes, which no wire field carries.
 class ClipDeletionFinishedEventArgsToThriftConverter
     : public Converter<Notification::ClipDeletionFinishedEventArgs, Generated::ClipDeletionFinishedEventArgs>
 {
