@@ -1,0 +1,309 @@
+#include "tests/Thrift/Notifier/Values.h"
+
+#include "Domain/CorvaneData/Notification/DisconnectedFromNetworkEventArgs.h"
+#include "Domain/CorvaneData/Notification/PlayerStateChangedEventArgs.h"
+#include "Domain/CorvaneData/Notification/RecorderStateChangedEventArgs.h"
+#include "Domain/CorvaneData/Notification/RecordingRangesChangedEventArgs.h"
+#include "Domain/CorvaneData/Notification/ServerAddedEventArgs.h"
+#include "Domain/CorvaneData/Notification/ServerRemovedEventArgs.h"
+#include "Thrift/Notifier/FromDisconnectedFromNetworkEventArgs.h"
+#include "Thrift/Notifier/FromPlayerStateChangedEventArgs.h"
+#include "Thrift/Notifier/FromRecorderStateChangedEventArgs.h"
+#include "Thrift/Notifier/FromRecordingRangesChangedEventArgs.h"
+#include "Thrift/Notifier/FromServerAddedEventArgs.h"
+#include "Thrift/Notifier/FromServerRemovedEventArgs.h"
+#include "Thrift/Notifier/ToDisconnectedFromNetworkEventArgs.h"
+#include "Thrift/Notifier/ToPlayerStateChangedEventArgs.h"
+#include "Thrift/Notifier/ToRecorderStateChangedEventArgs.h"
+#include "Thrift/Notifier/ToRecordingRangesChangedEventArgs.h"
+#include "Thrift/Notifier/ToServerAddedEventArgs.h"
+#include "Thrift/Notifier/ToServerRemovedEventArgs.h"
+#include "generated/DisconnectedFromNetworkEA_types.h"
+#include "generated/PlayerStateChangedEA_types.h"
+#include "generated/RecorderStateChangedEA_types.h"
+#include "generated/RecordingRangesChangedEA_types.h"
+#include "generated/ServerAddedEA_types.h"
+#include "generated/ServerRemovedEA_types.h"
+#include "tests/Thrift/Data/Channels/Values.h"
+#include "tests/Thrift/Data/Servers/Values.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <tuple>
+#include <utility>
+
+namespace Talvo::Tests
+{
+namespace
+{
+
+using namespace Corvane::Zelmar::Serialization::Thrift::Notifier;
+using namespace Corvane::Notification;
+using Corvane::Data::Clips::RecordingRange;
+using Corvane::Data::Servers::ServerId;
+using Corvane::Data::Servers::ServerInfo;
+using Channel = Corvane::Data::Channels::Guid;
+
+struct Player : Converters<PlayerStateChangedEventArgs, Generated::PlayerStateChangedEventArgs,
+                           PlayerStateChangedEventArgsToThriftConverter, ThriftToPlayerStateChangedEventArgsConverter>
+{
+    static constexpr auto Name = "PlayerStateChanged";
+    static constexpr auto Type = Channel::Type::ChannelGuidTypePlayer;
+    static auto State() { return FullPlayerState(); }
+    static auto& Clip(Wire& wire)
+    {
+        wire.status.pgmOnAir.__isset.clipOnAir = true;
+        return wire.status.pgmOnAir.clipOnAir;
+    }
+};
+
+struct Recorder
+    : Converters<RecorderStateChangedEventArgs, Generated::RecorderStateChangedEventArgs,
+                 RecorderStateChangedEventArgsToThriftConverter, ThriftToRecorderStateChangedEventArgsConverter>
+{
+    static constexpr auto Name = "RecorderStateChanged";
+    static constexpr auto Type = Channel::Type::ChannelGuidTypeRecorder;
+    static auto State() { return FullRecorderState(); }
+    static auto& Clip(Wire& wire) { return wire.status.recorderTrain; }
+};
+
+template<typename TChannel>
+class StateChangedConversion : public testing::Test
+{
+protected:
+    using Domain = typename TChannel::Domain;
+
+    Domain const full{Channel(TChannel::Type, -5, 0xFFFFFFFE), 0x40, TChannel::State()};
+    Domain const held{Channel(TChannel::Type, 6, 7), 8, {}};
+
+    static typename TChannel::Wire Sent(Domain const& event) { return TChannel::Sent(event); }
+};
+using Channels = testing::Types<Player, Recorder>;
+TYPED_TEST_SUITE(StateChangedConversion, Channels, );
+
+TYPED_TEST(StateChangedConversion, RoundTrip)
+{
+    ExpectRoundTrip<typename TypeParam::ToWire, typename TypeParam::ToDomain, typename TypeParam::Wire>(this->full);
+    auto const wire = this->Sent(this->full);
+    EXPECT_EQ(Shown(wire, {{Printed(wire.status), "<state>"}}),
+              std::string(TypeParam::Name) +
+                  "EventArgs(channelIndex=-5, channelSerial=4294967294, eventFlags=64, status=<state>)");
+
+    auto noFlags = this->full;
+    noFlags.eventFlags = 0;
+    EXPECT_FALSE(this->Sent(noFlags).__isset.eventFlags);
+    EXPECT_EQ(TypeParam::Received(this->Sent(noFlags), this->full), noFlags);
+}
+
+TYPED_TEST(StateChangedConversion, TakesWhatWasSentAndNeedsAWholeIdentifier)
+{
+    auto const sent = this->Sent(this->full);
+    auto const empty = std::string(TypeParam::Name) + " is empty";
+    auto const expectTaken = [&](auto const& setFlags, std::string const& message, auto const& expected)
+    {
+        auto wire = sent;
+        wire.__isset = {};
+        setFlags(wire.__isset);
+        auto event = this->held;
+        EXPECT_EQ(TypeParam::Told(wire, event), message);
+        EXPECT_EQ(event, expected);
+    };
+    auto expected = this->held;
+    expected.eventFlags = 0;
+    expectTaken([](auto&) {}, empty, expected);
+    expectTaken([](auto& isset) { isset.channelIndex = true; }, empty, expected);
+    expectTaken([](auto& isset) { isset.channelSerial = true; }, empty, expected);
+
+    expected.channelGuid = this->full.channelGuid;
+    expectTaken([](auto& isset) { isset.channelIndex = isset.channelSerial = true; }, "", expected);
+
+    expected = this->held;
+    expected.eventFlags = this->full.eventFlags;
+    expectTaken([](auto& isset) { isset.eventFlags = true; }, "", expected);
+    expectTaken([](auto& isset) { isset.eventFlags = isset.channelIndex = true; }, "", expected);
+
+    expected.eventFlags = 0;
+    expected.state = this->full.state;
+    expectTaken([](auto& isset) { isset.status = true; }, "", expected);
+}
+
+TYPED_TEST(StateChangedConversion, DropsTheFailureOfAState)
+{
+    auto wire = this->Sent(this->full);
+    wire.channelSerial = 0x100000005;
+    wire.status.__isset = {};
+    auto expected = this->full;
+    expected.channelGuid = Channel(TypeParam::Type, -5, 5);
+    EXPECT_EQ(TypeParam::Received(wire, this->full), expected);
+
+    // Not so what ends the process.
+    wire = this->Sent(this->full);
+    TypeParam::Clip(wire).__set_inBoundTodTimecode("noon");
+    TypeParam::Clip(wire).__isset.inBoundTodTimecode = true;
+    EXPECT_DEATH(std::ignore = typename TypeParam::ToDomain().To(wire, expected), "terminate");
+}
+
+using Ranges =
+    Converters<RecordingRangesChangedEventArgs, Generated::RecordingRangesChangedEventArgs,
+               RecordingRangesChangedEventArgsToThriftConverter, ThriftToRecordingRangesChangedEventArgsConverter>;
+
+RecordingRange RangeTo(std::int64_t const timepoint)
+{
+    return {{1}, {timepoint}, ParsedTimeCode("2001-01-01T01:02:03:04@25"), ParsedTimeCode("2001-01-01T01:02:04:05@25")};
+}
+
+RecordingRangesChangedEventArgs FullRanges()
+{
+    RecordingRangesChangedEventArgs event;
+    event.recorderId = Id<Channel>('r');
+    event.recordingRanges = {RangeTo(2), RangeTo(3)};
+    event.isInBoundMoving = true;
+    return event;
+}
+
+RecordingRangesChangedEventArgs HeldRanges()
+{
+    RecordingRangesChangedEventArgs event;
+    event.recorderId = Id<Channel>('h');
+    event.recordingRanges = {RangeTo(4)};
+    event.isOutBoundMoving = true;
+    return event;
+}
+
+TEST(RecordingRangesChangedConversion, RoundTripReplacesTheDestination)
+{
+    for (auto const& [value, fresh] : {std::pair(FullRanges(), HeldRanges()), {HeldRanges(), FullRanges()}})
+        ExpectRoundTrip<Ranges::ToWire, Ranges::ToDomain, Ranges::Wire>(value, fresh);
+    auto const wire = Ranges::Sent(FullRanges());
+    EXPECT_EQ(
+        Shown(wire, {{Printed(wire.recordingRanges[0]), "<to 2>"}, {Printed(wire.recordingRanges[1]), "<to 3>"}}),
+        "RecordingRangesChangedEventArgs(recorderId=Guid(value=rrrrrrrrrrrrrrrr), recordingRanges=[<to 2>, <to 3>], "
+        "isInBoundMoving=1, isOutBoundMoving=0)");
+}
+
+TEST(RecordingRangesChangedConversion, AppendsAndFlagsRangesOnlyIfThereAreAny)
+{
+    auto empty = FullRanges();
+    empty.recordingRanges.clear();
+    auto wire = Ranges::Sent(empty);
+    EXPECT_FALSE(wire.__isset.recordingRanges);
+    EXPECT_TRUE(wire.__isset.recorderId && wire.__isset.isInBoundMoving && wire.__isset.isOutBoundMoving);
+    wire.__isset.recordingRanges = true;
+    EXPECT_FALSE(Ranges::Sent(empty, wire).__isset.recordingRanges);
+
+    wire = Ranges::Sent(HeldRanges(), Ranges::Sent(FullRanges()));
+    ASSERT_EQ(wire.recordingRanges.size(), 3u);
+    EXPECT_EQ(wire.recordingRanges.back().outBoundTimepoint, 4);
+    wire.__isset.recordingRanges = false;
+    wire = Ranges::Sent(empty, wire);
+    EXPECT_TRUE(wire.__isset.recordingRanges);
+    EXPECT_EQ(wire.recordingRanges.size(), 3u);
+}
+
+TEST(RecordingRangesChangedConversion, TakesTheDestinationOverEvenIfItFails)
+{
+    auto const full = Ranges::Sent(FullRanges());
+    auto const expectTaken = [&](bool const hasId, bool const hasRanges, std::string const& message)
+    {
+        auto wire = full;
+        wire.__isset = {}; // that of the two booleans do not count
+        wire.__isset.recorderId = hasId;
+        wire.__isset.recordingRanges = hasRanges;
+        auto event = HeldRanges();
+        EXPECT_EQ(Ranges::Told(wire, event), message);
+        auto expected = FullRanges();
+        if (!hasId) expected.recorderId = Channel();
+        if (!hasRanges) expected.recordingRanges.clear();
+        EXPECT_EQ(event, expected);
+    };
+    expectTaken(true, true, "");
+    expectTaken(true, false, "");
+    expectTaken(false, true, "");
+    expectTaken(false, false, "RecordingRangesChanged is empty");
+
+    Ranges::Wire onlyEmptyList;
+    onlyEmptyList.__isset.recordingRanges = true;
+    EXPECT_EQ(Ranges::Received(onlyEmptyList, HeldRanges()), RecordingRangesChangedEventArgs());
+}
+
+TEST(RecordingRangesChangedConversion, ABadRangeIsKeptEmpty)
+{
+    auto wire = Ranges::Sent(FullRanges());
+    wire.recordingRanges[0].inBoundTimecode = "noon";
+    wire.recordingRanges.emplace_back();
+    EXPECT_THAT(Ranges::Received(wire, HeldRanges()).recordingRanges,
+                testing::ElementsAre(RecordingRange(), RangeTo(3), RecordingRange()));
+}
+
+using Added = Converters<ServerAddedEventArgs, Generated::ServerAddedEventArgs, ServerAddedEventArgsToThriftConverter,
+                         ThriftToServerAddedEventArgsConverter>;
+
+TEST(ServerAddedConversion, RoundTripKeepsBothIdentifiers)
+{
+    ServerAddedEventArgs const full(ServerId(9), FullServerInfo());
+    ExpectRoundTrip<Added::ToWire, Added::ToDomain, Added::Wire>(full, {ServerId::None(), ServerInfo()});
+    auto const wire = Added::Sent(full);
+    EXPECT_EQ(Shown(wire, {{Printed(wire.serverInfo), "<info>"}}),
+              "ServerAddedEventArgs(serverId=9, serverInfo=<info>)");
+}
+
+TEST(ServerAddedConversion, MissingOrBadFieldsLeaveTheDestination)
+{
+    ServerAddedEventArgs const held(ServerId(3), ServerInfo());
+    auto const full = Added::Sent({ServerId(9), FullServerInfo()});
+    auto const expectRefused = [&held](Added::Wire const& wire, char const* const message)
+    {
+        auto event = held;
+        EXPECT_EQ(Added::Told(wire, event), message);
+        EXPECT_EQ(event, held);
+    };
+    auto wire = full;
+    wire.__isset.serverId = false;
+    expectRefused(wire, "Missing serverId");
+    wire.__isset.serverInfo = false;
+    expectRefused(wire, "Missing serverId");
+    wire.__isset.serverId = true;
+    expectRefused(wire, "Missing serverInfo");
+    wire = full;
+    wire.serverInfo.gbeIpAddresses.pop_back();
+    expectRefused(wire, "Invalid GBE IP address count.");
+    wire.serverInfo = {};
+    expectRefused(wire, "ServerInfo is empty");
+}
+
+template<typename TConverters>
+void ExpectServerNumber(std::string const& name)
+{
+    using Domain = typename TConverters::Domain;
+    for (auto const id : {-1, 0, 7, static_cast<int>(0x80000000)})
+    {
+        Domain const event{ServerId(id)};
+        ExpectRoundTrip<typename TConverters::ToWire, typename TConverters::ToDomain, typename TConverters::Wire>(
+            event, Domain{ServerId(3)});
+        EXPECT_EQ(Printed(TConverters::Sent(event)), name + "EventArgs(serverId=" + std::to_string(id) + ')');
+    }
+    auto wire = TConverters::Sent({ServerId(7)});
+    wire.__isset.serverId = false;
+    Domain event{ServerId(3)};
+    EXPECT_EQ(TConverters::Told(wire, event), name + " is empty");
+    EXPECT_EQ(event, Domain{ServerId(3)});
+}
+
+TEST(ServerRemovedConversion, HasTheNumberOnly)
+{
+    ExpectServerNumber<Converters<ServerRemovedEventArgs, Generated::ServerRemovedEventArgs,
+                                  ServerRemovedEventArgsToThriftConverter, ThriftToServerRemovedEventArgsConverter>>(
+        "ServerRemoved");
+}
+
+TEST(DisconnectedFromNetworkConversion, HasTheNumberOnly)
+{
+    ExpectServerNumber<Converters<DisconnectedFromNetworkEventArgs, Generated::DisconnectedFromNetworkEventArgs,
+                                  DisconnectedFromNetworkEventArgsToThriftConverter,
+                                  ThriftToDisconnectedFromNetworkEventArgsConverter>>("DisconnectedFromNetwork");
+}
+
+} // namespace
+} // namespace Talvo::Tests
