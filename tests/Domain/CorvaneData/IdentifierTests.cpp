@@ -164,7 +164,7 @@ TEST(UmId, HoldsEightCharactersAndForgetsTheTextBefore)
     EXPECT_EQ(umId, Clips::UmId());
 }
 
-TEST(DomainNumbers, DifferFromTheWireWhereTheContractSaysSo)
+TEST(DomainNumbers, DifferFromTheWireWhereTheyMust)
 {
     EXPECT_EQ(OperationResult{2}, OperationResult::ResourceNotFound);
     EXPECT_EQ(OperationResult{7}, OperationResult::TemporaryError);
