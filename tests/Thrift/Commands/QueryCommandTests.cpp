@@ -275,7 +275,7 @@ void ExpectQueryReply(auto const& make, std::string const& name, std::int64_t co
     EXPECT_EQ(FlagsOf(TConverters::Sent(none())),
               (Flags{true, true, false})); // the list's follows whether there is any
     auto again = TConverters::Sent(full(), wire);
-    EXPECT_EQ(List(again).size(), 4u);
+    ASSERT_EQ(List(again).size(), 4u);
     EXPECT_EQ(List(again)[1], List(again)[3]);
 
     for (bool const guid : {true, false})

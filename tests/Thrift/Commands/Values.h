@@ -122,7 +122,7 @@ void ExpectList(typename TConverters::Domain const& full, auto const list, auto 
     EXPECT_TRUE(isFlagged(wire));
     EXPECT_FALSE(isFlagged(TConverters::Sent(empty)));
     auto const again = TConverters::Sent(full, wire);
-    EXPECT_EQ((again.*wireList).size(), 2 * (full.*list).size());
+    ASSERT_EQ((again.*wireList).size(), 2 * (full.*list).size());
     EXPECT_EQ((again.*wireList).front(), (wire.*wireList).front());
     (wire.*wireList).clear();
     EXPECT_EQ(TConverters::Received(wire, full), empty);
