@@ -80,7 +80,9 @@ TEST(Tool, ListsEveryRecordOnceWithItsDirections)
                              "PlayerState", "RecorderState", "RecordingRange", "ServerInfo", "Train"})
         EXPECT_TRUE(both.contains(name)) << name;
     EXPECT_EQ(listed.at("AsciiOrUtf16String"), "-");
-    EXPECT_EQ(listed.at("ClipCommandEventArgs"), "-");
+    EXPECT_EQ(listed.at("ClipCommandEventArgs"), "both");
+    EXPECT_EQ(listed.at("AnglesGroupCreationFailedEventArgs"), "to wire");
+    EXPECT_EQ(listed.at("AnglesGroupUpdateEventArgs"), "-");
 }
 
 TEST(Tool, ReadsEverySampleAndWritesItInTheOtherProtocolByteForByte)
