@@ -239,8 +239,20 @@ export const samples = [
                 commandGuid: guid(50), subCommandIndex: 1 },
             sourceClip: { ...clip, intraEssence }, newClip: shortClip('NEW00001', 'Copy'),
             creationType: 'Copy', networkType: 'Local', databaseRevision: 9007199254740993n },
-        shows: 'an event with the clip that was copied and the new one' },
+        shows: 'an event with the clip that was copied and the new one; words that are not known become Unknown, and a '
+            + 'ticket of -1 becomes 65535' },
+    { name: 'clip-deletion-failed', record: 'ClipDeletionFailedEventArgs',
+        value: {
+            clipCommand: { localMachineSerial: 310042n, requestSource: 'Network', operationNumber: 6, userTicket: 70000,
+                commandGuid: guid(51) },
+            removedClip: shortClip('A1B2C3D4', 'Final sprint'), result: 'ProtectedResource', essenceBitmap: 0x1ff,
+            fromUCode: false, forceForPlaylist: true, databaseRevision: 9007199254740995n },
+        shows: 'an event without its internal result, which becomes -1; of a ticket and a bitmap the low bits count' },
     { name: 'player-state-changed', record: 'PlayerStateChangedEventArgs',
         value: { channelIndex: 2, channelSerial: 310042n, eventFlags: 0x40, status: playerState },
         shows: 'an event with a whole player state inside' },
+    { name: 'recording-ranges-changed', record: 'RecordingRangesChangedEventArgs',
+        value: { recorderId: guid(52), recordingRanges: [range(10, 12), { ...range(13, 14), inBoundTimecode: 'noon' }],
+            isOutBoundMoving: true },
+        shows: 'an event with a good range and one with a malformed time code, which becomes empty' },
 ];
