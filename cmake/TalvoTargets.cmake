@@ -1,11 +1,12 @@
 set(TALVO_WARNINGS -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wold-style-cast -Wnon-virtual-dtor -Werror)
+set(TALVO_LAYER_OPTIONS "" CACHE STRING "Further compile options of the layers of the library")
 
 # talvo_add_layer(NAME SOURCES... [LINK TARGETS...]): the object target of one folder of the library.
 function(talvo_add_layer name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
     add_library(${name} OBJECT ${ARG_SOURCES})
     target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
-    target_compile_options(${name} PRIVATE ${TALVO_WARNINGS})
+    target_compile_options(${name} PRIVATE ${TALVO_WARNINGS} ${TALVO_LAYER_OPTIONS})
     target_link_libraries(${name} PUBLIC ${ARG_LINK})
     # A conversion calls many small functions of other files (enumeration lookups, time codes): inlined when the library
     # is linked, which saves a sixth of its time. Not with clang, which needs a linker of its own for that.
