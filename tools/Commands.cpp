@@ -61,6 +61,16 @@ bool Report(RecordType const& type, char const* direction, Common::Serialization
     return result.success;
 }
 
+/// Tells the values that would end the process inside a converter; false if there is any.
+bool ReportHazards(RecordType const& type, WireRecord const& record)
+{
+    auto const hazards = type.findHazards(record);
+    for (auto const& hazard : hazards)
+        std::cerr << "talvo-wire: " << type.name << " is not converted: " << hazard.path
+                  << " would end the process: " << hazard.reason << '\n';
+    return hazards.empty();
+}
+
 /// What became of the values of a record on a round trip.
 struct Tally
 {
@@ -119,6 +129,7 @@ ExitStatus Convert(Source const& source, Target const& target)
                       " has no converters in both directions; talvo-wire list tells which have");
 
     auto const decoded = LoadRecord(source, type);
+    if (!ReportHazards(type, *decoded.record)) return ExitStatus::ConversionFailed;
     auto const trip = type.throughDomain(*decoded.record);
     if (!Report(type, "wire to domain", trip.toDomain)) return ExitStatus::ConversionFailed;
     if (!Report(type, "domain to wire", *trip.toWire)) return ExitStatus::ConversionFailed;

@@ -40,8 +40,8 @@ void List();
 void Print(Source const& source);
 
 /// Converts a record to the domain and back, prints what each conversion said and every value that came back different,
-/// and writes the record that came back. A time code that its converter reads unguarded ends the process when it is
-/// malformed, as it does in any other caller of the converter.
+/// and writes the record that came back. A record with a value that would end the process inside a converter is not
+/// converted: a line on standard error tells each of them.
 ExitStatus Convert(Source const& source, Target const& target);
 
 /// Writes a record in another protocol. Notes on standard error where that protocol can't carry it unchanged.

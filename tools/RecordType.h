@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Common/Serialization/ConversionResult.h"
+#include "Thrift/Hazards.h"
 
 #include <thrift/protocol/TProtocol.h>
 
@@ -9,6 +10,7 @@
 #include <string_view>
 #include <type_traits>
 #include <utility>
+#include <vector>
 
 namespace Talvo::Tools
 {
@@ -31,6 +33,9 @@ struct RoundTrip
     std::unique_ptr<WireRecord> record; ///< What came back: null unless both succeeded.
 };
 
+/// The values of a record that would end the process inside a converter.
+using Hazards = std::vector<Corvane::Zelmar::Serialization::Thrift::Hazard>;
+
 /// A record type as the tool knows it.
 struct RecordType
 {
@@ -39,6 +44,7 @@ struct RecordType
     bool toDomain;          ///< There is a converter to the domain.
     bool toWire;            ///< There is a converter from the domain.
     std::unique_ptr<WireRecord> (*make)();
+    Hazards (*findHazards)(WireRecord const&);     ///< Null without a converter to the domain.
     RoundTrip (*throughDomain)(WireRecord const&); ///< Null unless there are both converters.
 };
 
@@ -58,6 +64,12 @@ template<typename TWire, typename TDomain>
 TDomain NewDomain(TWire const&)
 {
     return TDomain();
+}
+
+template<typename TWire>
+Hazards HazardsOf(WireRecord const& source)
+{
+    return Corvane::Zelmar::Serialization::Thrift::FindHazards(static_cast<WireRecordOf<TWire> const&>(source).record);
 }
 
 /// Converts a record into a newly built domain object, and that into a newly built wire record.
@@ -85,8 +97,9 @@ RecordType Record(std::string_view name)
     constexpr bool HasToWire = !std::is_void_v<TToWire>;
     constexpr bool HasToDomain = !std::is_void_v<TToDomain>;
 
-    RecordType type{name, {}, HasToDomain, HasToWire, nullptr, nullptr};
+    RecordType type{name, {}, HasToDomain, HasToWire, nullptr, nullptr, nullptr};
     type.make = []() -> std::unique_ptr<WireRecord> { return std::make_unique<WireRecordOf<TWire>>(); };
+    if constexpr (HasToDomain) type.findHazards = &HazardsOf<TWire>;
     if constexpr (HasToWire && HasToDomain)
         type.throughDomain = &ThroughDomain<TWire, TToWire, TToDomain, TDomain, newDomain>;
     return type;

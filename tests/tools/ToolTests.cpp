@@ -184,6 +184,18 @@ TEST(Tool, ConvertTellsWhatWasKeptChangedGoneAndAdded)
     EXPECT_FALSE(std::ifstream(none));
 }
 
+TEST(Tool, DoesNotConvertWhatWouldEndTheProcess)
+{
+    // A SequenceId whose location is 110, and a Clip whose inBoundTodTimecode is "noon".
+    auto const location = RunTool({"convert", "SequenceId"}, "\x08\0\1\0\0\0\x6e\0"s);
+    EXPECT_EQ(location.status, 1);
+    EXPECT_THAT(location.output, IsEmpty());
+    EXPECT_THAT(location.errors, OneLine("location would end the process: SequenceId.Location : invalid location"));
+    auto const timeCode = RunTool({"convert", "Clip"}, "\x0b\0\x2a\0\0\0\4noon\0"s);
+    EXPECT_EQ(timeCode.status, 1);
+    EXPECT_THAT(timeCode.errors, OneLine("inBoundTodTimecode would end the process: TalvoTimeCodeParser the string"));
+}
+
 TEST(Tool, TranscodesThroughAllProtocolsAndTellsWhatJsonLoses)
 {
     auto const binary = Sample("train.binary");
