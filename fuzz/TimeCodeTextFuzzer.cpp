@@ -1,0 +1,28 @@
+// Any text as a time code: the parser answers as its two expressions, std::stoi and the builder do.
+
+#include "TimePoints/TalvoTimeCodeParser.h"
+#include "tests/TimePoints/TimeCodeDefinition.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* const data, std::size_t const size)
+{
+    using namespace Talvo::TimePoints;
+
+    std::string const text(reinterpret_cast<char const*>(data), size);
+    TalvoTimeCodeParser const parser;
+    auto const found = Outcome([&] { return Describe(parser.Parse(text)); });
+    if (size > 256) return 0; // std::regex recurses once a character
+
+    auto const expected = Outcome([&] { return Describe(ReferenceParse(text)); });
+    if (found != expected || parser.TryParse(text).first != (expected.find(": ") == std::string::npos))
+    {
+        std::fprintf(stderr, "'%s': %s, expected %s\n", text.c_str(), found.c_str(), expected.c_str());
+        std::abort();
+    }
+    return 0;
+}
