@@ -26,7 +26,7 @@ namespace
 std::string CompareWithDefinition(std::string const& text)
 {
     TalvoTimeCodeParser const parser;
-    auto const expected = Outcome([&] { return Describe(ReferenceParse(text)); });
+    auto expected = Outcome([&] { return Describe(ReferenceParse(text)); });
     bool const good = expected.find(": ") == std::string::npos;
 
     EXPECT_EQ(Outcome([&] { return Describe(parser.Parse(text)); }), expected) << text;
@@ -171,7 +171,7 @@ TEST(TimeCodeText, LongTextsNeedNoDeepStack)
     pthread_attr_t attributes;
     ASSERT_EQ(pthread_attr_init(&attributes), 0);
     ASSERT_EQ(pthread_attr_setstacksize(&attributes, 256 * 1024), 0);
-    pthread_t thread;
+    pthread_t thread{};
     ASSERT_EQ(pthread_create(&thread, &attributes, ReadLongTexts, nullptr), 0);
     EXPECT_EQ(pthread_join(thread, nullptr), 0);
     pthread_attr_destroy(&attributes);

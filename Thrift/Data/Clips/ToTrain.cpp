@@ -45,13 +45,13 @@ ConversionResult ThriftToTrainConverter::To(Generated::Train const& source,
 
     bool const isInMoving = seen(isset.isInMoving) && source.isInMoving;
     bool const isOutMoving = seen(isset.isOutMoving) && source.isOutMoving;
-    auto lastKnownTimeCode = seen(isset.lastKnownTimeCode)
-                                 ? ReadTimeCode(source.lastKnownTimeCode).value_or(TimeCode::Empty())
-                                 : TimeCode::Empty();
+    auto const lastKnownTimeCode = seen(isset.lastKnownTimeCode)
+                                       ? ReadTimeCode(source.lastKnownTimeCode).value_or(TimeCode::Empty())
+                                       : TimeCode::Empty();
 
     // The destination is taken over even when nothing was seen: a train that fails is left empty, not as it was.
     destination = Corvane::Data::Clips::Train(std::move(trainClip), std::move(trainRanges), isInMoving, isOutMoving,
-                                              std::move(lastKnownTimeCode));
+                                              TimeCode(lastKnownTimeCode));
     return seen.None() ? Failure("Train is empty") : Success();
 }
 

@@ -25,7 +25,7 @@ ConversionResult TagToThriftConverter::To(Corvane::Data::Sequences::Tag const& s
     {
         auto const [entry, isNew] = destination.properties.try_emplace(key);
         if (!isNew) return Success();
-        auto const result = fromProperty.To(property, entry->second);
+        auto result = fromProperty.To(property, entry->second);
         if (!result.success) destination.properties.erase(entry);
         return result;
     };

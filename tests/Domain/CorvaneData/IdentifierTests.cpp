@@ -85,6 +85,7 @@ TEST(Guid, GeneratesUniqueVersion4FromAnyThread)
     std::array<std::vector<std::string>, 4> generated;
     {
         std::vector<std::thread> threads;
+        threads.reserve(generated.size());
         for (auto& own : generated)
             threads.emplace_back(
                 [&own]
