@@ -7,6 +7,7 @@
 #include "Thrift/Data/ToOperationStatus.h"
 #include "TimePoints/TalvoTimeCodeFormatter.h"
 #include "TimePoints/TalvoTimeCodeParser.h"
+#include "TimePoints/TimeCodeText.h"
 #include "generated/Clip_types.h"
 #include "generated/OperationStatus_types.h"
 
@@ -86,6 +87,16 @@ TEST(Allocations, OfATimeCodeAreTheResultOnly)
     std::string const text = "2024-02-29T23:58:57;28@30";
     TimePoints::TimeCode timeCode;
     EXPECT_EQ(Allocations([&] { timeCode = TimePoints::TalvoTimeCodeParser().Parse(text); }), 0);
+    std::string const bad = "2024-02-30T23:58:57;28@30";
+    EXPECT_EQ(Allocations(
+                  [&]
+                  {
+                      TimePoints::TalvoTimeCodeParser const parser;
+                      ASSERT_TRUE(parser.IsStringFormatValid(text) && parser.TryParse(text).first);
+                      ASSERT_FALSE(parser.IsStringFormatValid(bad) || TimePoints::ReadTimeCode(bad));
+                      ASSERT_EQ(TimePoints::TimeCodeText(timeCode).View(), text);
+                  }),
+              0);
 
     std::string formatted;
     EXPECT_EQ(Allocations([&] { formatted = TimePoints::TalvoTimeCodeFormatter().Format(timeCode); }), 1);

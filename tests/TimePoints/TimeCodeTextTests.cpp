@@ -2,7 +2,6 @@
 #include "TimePoints/TalvoTimeCodeParser.h"
 #include "TimePoints/TimeCodeBuilder.h"
 #include "TimePoints/TimeCodeText.h"
-#include "tests/TimePoints/AllocationCount.h"
 #include "tests/TimePoints/TimeCodeDefinition.h"
 
 #include <gtest/gtest.h>
@@ -175,29 +174,6 @@ TEST(TimeCodeText, LongTextsNeedNoDeepStack)
     ASSERT_EQ(pthread_create(&thread, &attributes, ReadLongTexts, nullptr), 0);
     EXPECT_EQ(pthread_join(thread, nullptr), 0);
     pthread_attr_destroy(&attributes);
-}
-
-TEST(TimeCodeText, AllocatesTheFormattedTextOnly)
-{
-    TalvoTimeCodeParser const parser;
-    TalvoTimeCodeFormatter const formatter;
-    std::string const text = "2000-01-01T00:01:00;02@30";
-    std::string const bad = "2000-01-01T00:01:00;00@30";
-
-    auto const before = AllocationCount();
-    auto const timeCode = parser.Parse(text);
-    bool const valid = parser.IsStringFormatValid(text) && parser.TryParse(text).first;
-    bool const skipped = !parser.IsStringFormatValid(bad) && !ReadTimeCode(bad);
-    TimeCodeText const buffer{timeCode};
-    auto const afterReading = AllocationCount();
-    auto const formatted = formatter.Format(timeCode);
-    auto const afterFormatting = AllocationCount();
-
-    EXPECT_TRUE(valid && skipped);
-    EXPECT_EQ(afterReading - before, 0u);
-    EXPECT_EQ(afterFormatting - afterReading, 1u);
-    EXPECT_EQ(formatted, text);
-    EXPECT_EQ(buffer.View(), text);
 }
 
 } // namespace
