@@ -18,7 +18,7 @@ class ChannelCommandReply;
 /// Applies the wire record `ChannelCommandReply` to a domain `ChannelCommandReply`.
 ///
 /// An identifier replaces the whole destination by a new reply; without one the results are put among those that it
-/// holds. A result of a channel that is there takes its place.
+/// holds. A result of a channel that is there takes its place. An empty list counts as one default result.
 ///
 /// Failure: "ChannelCommandReply is empty" when the flag of `guid` is clear. With that of `channelResults` clear too
 /// the destination is unchanged, else the results have been put there all the same.

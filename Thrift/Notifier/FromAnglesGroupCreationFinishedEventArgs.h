@@ -16,7 +16,7 @@ class AnglesGroupCreationFinishedEventArgs;
 } // namespace Generated
 
 /// Writes a domain `AnglesGroupCreationFinishedEventArgs` into the wire record `AnglesGroupCreationFinishedEventArgs`.
-/// As AnglesGroupCreationEventArgsToThriftConverter.
+/// It can't fail.
 class AnglesGroupCreationFinishedEventArgsToThriftConverter
     : public Converter<Notification::AnglesGroupCreationFinishedEventArgs,
                        Generated::AnglesGroupCreationFinishedEventArgs>

@@ -15,8 +15,11 @@ namespace Generated
 class AnglesGroupCreationFinishedEventArgs;
 } // namespace Generated
 
-/// Reads a domain `AnglesGroupCreationFinishedEventArgs` from the wire record `AnglesGroupCreationFinishedEventArgs`,
-/// as ThriftToAnglesGroupCreationEventArgsConverter does.
+/// Replaces a domain `AnglesGroupCreationFinishedEventArgs` by the wire record `AnglesGroupCreationFinishedEventArgs`,
+/// as ThriftToAnglesGroupCreationEventArgsConverter does with its `creationEventArgs`, the only field.
+///
+/// Failure: "Missing fields for ClipCommand", from the `clipCommandEventArgs` in it; the destination by then holds
+/// everything else, and placeholders.
 class ThriftToAnglesGroupCreationFinishedEventArgsConverter
     : public Converter<Generated::AnglesGroupCreationFinishedEventArgs,
                        Notification::AnglesGroupCreationFinishedEventArgs>

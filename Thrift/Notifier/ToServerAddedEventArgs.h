@@ -17,7 +17,7 @@ class ServerAddedEventArgs;
 
 /// Replaces a domain `ServerAddedEventArgs` by the wire record `ServerAddedEventArgs`.
 ///
-/// Failures, which leave the destination unchanged:
+/// Failures, with the destination unchanged:
 /// - "Missing serverId" or "Missing serverInfo": its flag is clear.
 /// - any of ThriftToServerInfoConverter.
 class ThriftToServerAddedEventArgsConverter

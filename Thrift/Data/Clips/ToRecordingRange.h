@@ -17,7 +17,7 @@ class RecordingRange;
 
 /// Replaces a domain `RecordingRange` by the wire record `RecordingRange`.
 ///
-/// Failures, which leave the destination unchanged:
+/// Failures, with the destination unchanged:
 /// - "RecordingRange is empty": one of the four flags is clear.
 /// - "Invalid TimeCode format": a time code is not one that TalvoTimeCodeParser reads, whatever is wrong with it.
 class ThriftToRecordingRangeConverter
