@@ -217,3 +217,23 @@ function sorted(elements)
     const keyed = elements.map(element => [JSON.stringify(element), element]);
     return keyed.sort(([left], [right]) => (left < right ? -1 : Number(left > right))).map(([, element]) => element);
 }
+
+/** The value as a reader that knows the schema has it: an absent field that is not optional is there with zeros. */
+export function withDefaults(type, value)
+{
+    switch (type.kind) {
+    case 'bool': return value ?? false;
+    case 'i16':
+    case 'i32':
+    case 'enum': return value ?? 0;
+    case 'i64': return value ?? 0n;
+    case 'string': return value ?? '';
+    case 'list':
+    case 'set': return (value ?? []).map(element => withDefaults(type.element, element));
+    case 'map': return (value ?? []).map(pair => [withDefaults(type.key, pair[0]), withDefaults(type.value, pair[1])]);
+    case 'record':
+        return Object.fromEntries(type.fields
+            .filter(({ name, requiredness }) => requiredness !== 'optional' || value?.[name] !== undefined)
+            .map(field => [field.name, withDefaults(field.type, value?.[field.name])]));
+    }
+}
