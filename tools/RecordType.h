@@ -5,6 +5,7 @@
 
 #include <thrift/protocol/TProtocol.h>
 
+#include <concepts>
 #include <memory>
 #include <optional>
 #include <string_view>
@@ -46,6 +47,8 @@ struct RecordType
     std::unique_ptr<WireRecord> (*make)();
     Hazards (*findHazards)(WireRecord const&);     ///< Null without a converter to the domain.
     RoundTrip (*throughDomain)(WireRecord const&); ///< Null unless there are both converters.
+    /// Whether both records become equal domain objects; null without a converter to the domain or without equality there.
+    bool (*sameDomain)(WireRecord const&, WireRecord const&);
 };
 
 template<typename TWire>
@@ -87,6 +90,18 @@ RoundTrip ThroughDomain(WireRecord const& source)
     return trip;
 }
 
+/// Whether both records convert, each into a newly built domain object, and these are equal.
+template<typename TWire, typename TToDomain, typename TDomain, TDomain (*newDomain)(TWire const&)>
+bool SameDomain(WireRecord const& left, WireRecord const& right)
+{
+    auto const& leftWire = static_cast<WireRecordOf<TWire> const&>(left).record;
+    auto const& rightWire = static_cast<WireRecordOf<TWire> const&>(right).record;
+    TDomain leftDomain = newDomain(leftWire);
+    TDomain rightDomain = newDomain(rightWire);
+    return TToDomain().To(leftWire, leftDomain).success && TToDomain().To(rightWire, rightDomain).success &&
+           leftDomain == rightDomain;
+}
+
 /// The registry's line for one record: `Record<Wire>("Wire")` for a record without converters,
 /// `Record<Wire, WireToThriftConverter, ThriftToWireConverter, Domain>("Wire")` for one with both; where one direction
 /// is missing, void stands for it. A domain class without default constructor adds the function that builds a new one.
@@ -97,11 +112,13 @@ RecordType Record(std::string_view name)
     constexpr bool HasToWire = !std::is_void_v<TToWire>;
     constexpr bool HasToDomain = !std::is_void_v<TToDomain>;
 
-    RecordType type{name, {}, HasToDomain, HasToWire, nullptr, nullptr, nullptr};
+    RecordType type{name, {}, HasToDomain, HasToWire, nullptr, nullptr, nullptr, nullptr};
     type.make = []() -> std::unique_ptr<WireRecord> { return std::make_unique<WireRecordOf<TWire>>(); };
     if constexpr (HasToDomain) type.findHazards = &HazardsOf<TWire>;
     if constexpr (HasToWire && HasToDomain)
         type.throughDomain = &ThroughDomain<TWire, TToWire, TToDomain, TDomain, newDomain>;
+    if constexpr (HasToDomain && std::equality_comparable<TDomain>)
+        type.sameDomain = &SameDomain<TWire, TToDomain, TDomain, newDomain>;
     return type;
 }
 
