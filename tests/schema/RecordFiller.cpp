@@ -23,6 +23,13 @@ RecordFiller::RecordFiller(Filter offered)
 {
 }
 
+RecordFiller RecordFiller::Convertible(std::int16_t const number)
+{
+    RecordFiller filler;
+    filler.onlyNumber_ = number;
+    return filler;
+}
+
 std::uint32_t RecordFiller::readStructBegin(std::string&)
 {
     open_.emplace_back();
@@ -110,25 +117,28 @@ std::uint32_t RecordFiller::readBool(std::vector<bool>::reference value)
 
 std::uint32_t RecordFiller::readI16(std::int16_t& value)
 {
-    value = static_cast<std::int16_t>(-++count_);
+    value = onlyNumber_ != 0 ? onlyNumber_ : static_cast<std::int16_t>(-++count_);
     return 0;
 }
 
 std::uint32_t RecordFiller::readI32(std::int32_t& value)
 {
-    value = 0x10001 * ++count_;
+    value = onlyNumber_ != 0 ? onlyNumber_ : 0x10001 * ++count_;
     return 0;
 }
 
 std::uint32_t RecordFiller::readI64(std::int64_t& value)
 {
-    value = -0x100000001 * ++count_;
+    value = onlyNumber_ != 0 ? onlyNumber_ : -0x100000001 * ++count_;
     return 0;
 }
 
 std::uint32_t RecordFiller::readString(std::string& value)
 {
-    value = "text " + std::to_string(++count_) + " \"\\\x01\x7F\x80\xFF";
+    if (onlyNumber_ != 0)
+        value = "2024-06-15T10:00:00:00@50";
+    else
+        value = "text " + std::to_string(++count_) + " \"\\\x01\x7F\x80\xFF";
     return 0;
 }
 

@@ -27,6 +27,10 @@ public:
 
     explicit RecordFiller(Filter offered = [](std::int16_t) { return true; });
 
+    /// Fills a record that converters take: every number is `number` and every text a time code. Of a map or a set one
+    /// element is left.
+    static RecordFiller Convertible(std::int16_t number);
+
     /// The field ids of the outermost record that were read.
     std::set<std::int16_t> const& FieldIds() const { return fieldIds_; }
 
@@ -63,6 +67,7 @@ private:
     std::vector<OpenRecord> open_;
     std::set<std::int16_t> fieldIds_;
     std::int16_t count_ = 0;
+    std::int16_t onlyNumber_ = 0; ///< 0: distinct values.
 };
 
 } // namespace Talvo::Tests
