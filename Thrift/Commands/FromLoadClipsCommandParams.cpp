@@ -18,7 +18,7 @@ namespace
 {
 
 /// Only the time point has its flag set; the others stay as they are.
-void SendParam(LoadClipsCommandParams::PlayerParam const& source, Generated::LoadClipCommandParam& destination)
+void SendClipsParam(LoadClipsCommandParams::PlayerParam const& source, Generated::LoadClipCommandParam& destination)
 {
     SendGuid(source.clip, destination.clip);
     TALVO_FLAGGED(destination, timepoint) = source.timepoint.position;
@@ -33,7 +33,7 @@ LoadClipsCommandParamsToThriftConverter::To(HighLevelOperations::Commands::LoadC
                                             Generated::LoadClipsCommandParams& destination) const noexcept
 {
     SendGuid(source.commandGuid, TALVO_FLAGGED(destination, commandGuid));
-    if (SendByChannel(source.playersParameters, destination.playersParameters, SendParam))
+    if (SendByChannel(source.playersParameters, destination.playersParameters, SendClipsParam))
         destination.__isset.playersParameters = true;
     return Success();
 }

@@ -17,7 +17,8 @@ namespace
 {
 
 /// The flag of the sequence stays as it is.
-void SendParam(LoadSequencesCommandParams::PlayerParam const& source, Generated::LoadSequenceCommandParam& destination)
+void SendSequenceParam(LoadSequencesCommandParams::PlayerParam const& source,
+                       Generated::LoadSequenceCommandParam& destination)
 {
     SendGuid(source.sequence, destination.sequence);
     TALVO_FLAGGED(destination, durationFromBeginning) = source.durationFromBeginning;
@@ -31,7 +32,7 @@ LoadSequencesCommandParamsToThriftConverter::To(HighLevelOperations::Commands::L
                                                 Generated::LoadSequencesCommandParams& destination) const noexcept
 {
     SendGuid(source.commandGuid, TALVO_FLAGGED(destination, commandGuid));
-    if (SendByChannel(source.playersParameters, destination.playersParameters, SendParam))
+    if (SendByChannel(source.playersParameters, destination.playersParameters, SendSequenceParam))
         destination.__isset.playersParameters = true;
     return Success();
 }

@@ -17,8 +17,8 @@ using HighLevelOperations::Commands::SetLoadBoundariesCommandParams;
 namespace
 {
 
-void SendParam(SetLoadBoundariesCommandParams::PlayerParam const& source,
-               Generated::SetLoadBoundariesCommandParam& destination)
+void SendBoundaryParam(SetLoadBoundariesCommandParams::PlayerParam const& source,
+                       Generated::SetLoadBoundariesCommandParam& destination)
 {
     SendBoundary(source.inBoundary, TALVO_FLAGGED(destination, inBoundary));
     SendBoundary(source.outBoundary, TALVO_FLAGGED(destination, outBoundary));
@@ -31,7 +31,7 @@ ConversionResult SetLoadBoundariesCommandParamsToThriftConverter::To(
     Generated::SetLoadBoundariesCommandParams& destination) const noexcept
 {
     SendGuid(source.commandGuid, TALVO_FLAGGED(destination, commandGuid));
-    if (SendByChannel(source.playersParameters, destination.playersParameters, SendParam))
+    if (SendByChannel(source.playersParameters, destination.playersParameters, SendBoundaryParam))
         destination.__isset.playersParameters = true;
     return Success();
 }

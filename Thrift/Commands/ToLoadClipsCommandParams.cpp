@@ -17,7 +17,7 @@ namespace
 {
 
 /// Only the flag of the time point is read.
-LoadClipsCommandParams::PlayerParam ReadParam(Generated::LoadClipCommandParam const& source)
+LoadClipsCommandParams::PlayerParam ReadClipsParam(Generated::LoadClipCommandParam const& source)
 {
     return {ReadGuidAs<Corvane::Data::Clips::Guid>(source.clip),
             source.__isset.timepoint ? TimePoints::TimePoint{source.timepoint} : TimePoints::TimePoint::Empty(),
@@ -31,7 +31,8 @@ ConversionResult ThriftToLoadClipsCommandParamsConverter::To(
     HighLevelOperations::Commands::LoadClipsCommandParams& destination) const noexcept
 {
     ReadGuid(source.commandGuid, destination.commandGuid);
-    ReadByChannel(source.__isset.playersParameters, source.playersParameters, destination.playersParameters, ReadParam);
+    ReadByChannel(source.__isset.playersParameters, source.playersParameters, destination.playersParameters,
+                  ReadClipsParam);
     return Success();
 }
 

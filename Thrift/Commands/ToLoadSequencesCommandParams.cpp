@@ -16,7 +16,7 @@ namespace
 {
 
 /// The flag of the sequence is not read.
-LoadSequencesCommandParams::PlayerParam ReadParam(Generated::LoadSequenceCommandParam const& source)
+LoadSequencesCommandParams::PlayerParam ReadSequenceParam(Generated::LoadSequenceCommandParam const& source)
 {
     return {ReadGuidAs<Corvane::Data::Sequences::Guid>(source.sequence),
             source.__isset.durationFromBeginning ? source.durationFromBeginning : 0,
@@ -30,7 +30,8 @@ ConversionResult ThriftToLoadSequencesCommandParamsConverter::To(
     HighLevelOperations::Commands::LoadSequencesCommandParams& destination) const noexcept
 {
     ReadGuid(source.commandGuid, destination.commandGuid);
-    ReadByChannel(source.__isset.playersParameters, source.playersParameters, destination.playersParameters, ReadParam);
+    ReadByChannel(source.__isset.playersParameters, source.playersParameters, destination.playersParameters,
+                  ReadSequenceParam);
     return Success();
 }
 

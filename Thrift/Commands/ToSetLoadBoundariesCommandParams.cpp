@@ -17,7 +17,7 @@ namespace
 {
 
 /// The flags inside are not read.
-SetLoadBoundariesCommandParams::PlayerParam ReadParam(Generated::SetLoadBoundariesCommandParam const& source)
+SetLoadBoundariesCommandParams::PlayerParam ReadBoundaryParam(Generated::SetLoadBoundariesCommandParam const& source)
 {
     return {ReadBoundary(source.inBoundary), ReadBoundary(source.outBoundary)};
 }
@@ -29,7 +29,8 @@ ConversionResult ThriftToSetLoadBoundariesCommandParamsConverter::To(
     HighLevelOperations::Commands::SetLoadBoundariesCommandParams& destination) const noexcept
 {
     ReadGuid(source.commandGuid, destination.commandGuid);
-    ReadByChannel(source.__isset.playersParameters, source.playersParameters, destination.playersParameters, ReadParam);
+    ReadByChannel(source.__isset.playersParameters, source.playersParameters, destination.playersParameters,
+                  ReadBoundaryParam);
     return Success();
 }
 
