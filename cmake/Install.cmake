@@ -1,13 +1,21 @@
-# The install tree can be moved: no file in it holds an absolute path.
+# The install tree can be moved: no file in it holds an absolute path. Components: library, development, tool.
 include(CMakePackageConfigHelpers)
+
+set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME development)
 
 set(package TalvoCorvaneZelmarSerializationThrift)
 set(includeRoot ${CMAKE_INSTALL_INCLUDEDIR}/Talvo.Corvane.Zelmar.Serialization.Thrift)
 set(packageFolder ${CMAKE_INSTALL_LIBDIR}/cmake/${package})
 set(schemaFolder ${CMAKE_INSTALL_DATADIR}/Talvo.Corvane.Zelmar.Serialization.Thrift/schema)
 
-install(TARGETS ${package} EXPORT ${package} INCLUDES DESTINATION ${includeRoot})
-install(DIRECTORY Common TimePoints Domain Thrift DESTINATION ${includeRoot}
+install(TARGETS ${package} EXPORT ${package}
+    LIBRARY COMPONENT library NAMELINK_COMPONENT development
+    INCLUDES DESTINATION ${includeRoot})
+set(headerFolders Common TimePoints Thrift)
+if(NOT TALVO_EXTERNAL_SIBLINGS)
+    list(APPEND headerFolders Domain)
+endif()
+install(DIRECTORY ${headerFolders} DESTINATION ${includeRoot}
     FILES_MATCHING PATTERN "*.h"
     PATTERN Thrift/Detail EXCLUDE
     REGEX "TimePoints/(SampleCounting|TimeCodeBreakdown|TimeCodeText)\\.h$" EXCLUDE)
@@ -17,7 +25,7 @@ install(DIRECTORY schema/ DESTINATION ${schemaFolder} FILES_MATCHING PATTERN "*.
 
 if(TARGET talvo-wire)
     set_target_properties(talvo-wire PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
-    install(TARGETS talvo-wire)
+    install(TARGETS talvo-wire COMPONENT tool)
 endif()
 
 install(EXPORT ${package} NAMESPACE Talvo:: DESTINATION ${packageFolder} FILE ${package}Targets.cmake)
@@ -30,6 +38,9 @@ install(FILES
     cmake/FindThrift.cmake
     DESTINATION ${packageFolder})
 
+if(TALVO_EXTERNAL_SIBLINGS)
+    set(siblingModules "talvo-high-level-operations talvo-corvane-data")
+endif()
 file(RELATIVE_PATH toPrefix /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
 configure_file(cmake/talvo.pc.in talvo-corvane-zelmar-serialization-thrift.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/talvo-corvane-zelmar-serialization-thrift.pc

@@ -5,7 +5,7 @@ set(TALVO_LAYER_OPTIONS "" CACHE STRING "Further compile options of the layers o
 function(talvo_add_layer name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
     add_library(${name} OBJECT ${ARG_SOURCES})
-    target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
+    target_include_directories(${name} PUBLIC ${TALVO_INCLUDE_ROOT})
     target_compile_options(${name} PRIVATE ${TALVO_WARNINGS} ${TALVO_LAYER_OPTIONS})
     target_link_libraries(${name} PUBLIC ${ARG_LINK})
     # A conversion calls many small functions of other files (enumeration lookups, time codes): inlined when the library
@@ -27,9 +27,10 @@ endfunction()
 function(talvo_add_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
-    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
+    target_include_directories(${name} PRIVATE ${TALVO_INCLUDE_ROOT})
     target_compile_options(${name} PRIVATE ${TALVO_WARNINGS})
     target_link_libraries(${name} PRIVATE
         Talvo::CorvaneZelmarSerializationThrift Thrift::thrift GTest::gmock GTest::gtest_main ${ARG_LINK})
+    set_target_properties(${name} PROPERTIES UNITY_BUILD OFF) # files of tests name their helpers alike
     add_test(NAME ${name} COMMAND ${name})
 endfunction()
