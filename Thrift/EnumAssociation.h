@@ -23,6 +23,7 @@ template<typename A, typename B>
 class EnumAssociation
 {
 public:
+    /// Each value of either side once.
     constexpr EnumAssociation(std::initializer_list<std::pair<A const, B const>> pairs)
     {
         for (auto const& [domain, wire] : pairs)

@@ -136,7 +136,7 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift
 struct Hazard
 {
     /// The field, from the record on: `clips[3].clip.inBoundTodTimecode`. Entries of a map stand under their keys, raw
-    /// bytes that can't be printed as \x1f: `players["\x00A..."].pgmOnAir.todCurTimecodeOnAir`.
+    /// bytes that can't be printed as `\x1f`: `players["\x00A..."].pgmOnAir.todCurTimecodeOnAir`.
     std::string path;
 
     /// What is wrong with the value, in the words of what would be thrown.
@@ -145,16 +145,20 @@ struct Hazard
     bool operator==(Hazard const&) const = default;
 };
 
-// Some values that a peer can send end the process, since a converter never throws: the time codes of a clip and of a
-// clip on air that are none, the reference time code of a sequence that has the form of a time code but names none, and
-// locations above 109. Whoever reads records from peers that are not trusted asks here first, and refuses those that
-// hold one.
-//
-// Where FindHazards() returns nothing, the converter of the record returns, whatever its destination held (an
-// allocation that fails aside). What it returns would end the process as soon as the converter reaches the field. A
-// field whose flag is clear, or that no converter reads, is no hazard; a record whose result its converter drops is
-// looked into all the same. Nothing is allocated for a record without hazards.
+/// @name Hazards
+///
+/// Some values that a peer can send end the process, since a converter never throws: the time codes of a clip and of a
+/// clip on air that are none, the reference time code of a sequence that has the form of a time code but names none, and
+/// locations above 109. Whoever reads records from peers that are not trusted asks here first, and refuses those that
+/// hold one.
+///
+/// Where FindHazards() returns nothing, the converter of the record returns, whatever its destination held (an
+/// allocation that fails aside). What it returns would end the process as soon as the converter reaches the field. A
+/// field whose flag is clear, or that no converter reads, is no hazard; a record whose result its converter drops is
+/// looked into all the same. Nothing is allocated for a record without hazards.
+/// @{
 
+/// What would end the process inside the converter of the record.
 std::vector<Hazard> FindHazards(Corvane::Data::Generated::Guid const& record);
 std::vector<Hazard> FindHazards(Corvane::Data::Generated::MultiviewerDataOverrides const& record);
 std::vector<Hazard> FindHazards(Corvane::Data::Generated::OperationStatus const& record);
@@ -256,5 +260,7 @@ std::vector<Hazard> FindHazards(Notifier::Generated::RecorderStateChangedEventAr
 std::vector<Hazard> FindHazards(Notifier::Generated::RecordingRangesChangedEventArgs const& record);
 std::vector<Hazard> FindHazards(Notifier::Generated::ServerAddedEventArgs const& record);
 std::vector<Hazard> FindHazards(Notifier::Generated::ServerRemovedEventArgs const& record);
+
+/// @}
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift

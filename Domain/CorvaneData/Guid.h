@@ -18,8 +18,8 @@ public:
     /// Sixteen zero bytes.
     constexpr Guid() noexcept = default;
 
-    /// Takes the first sixteen bytes at most; what is missing is zero.
-    /// @param bytes readable for `size` bytes; not looked at if `size` is 0
+    /// Takes the first sixteen bytes at most; what is missing is zero. `bytes` is readable for `size` bytes, and not
+    /// looked at if `size` is 0.
     Guid(unsigned char const* bytes, unsigned int size) noexcept;
 
     /// Sixteen zero bytes.

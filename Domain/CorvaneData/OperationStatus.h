@@ -25,6 +25,7 @@ enum class OperationResult : std::int32_t
 /// How far an operation has come, and with which result. A new one has not started and its result is unknown.
 struct OperationStatus
 {
+    /// How far the operation has come.
     enum class Status : std::int32_t
     {
         NotStarted = 0,

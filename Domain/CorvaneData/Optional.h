@@ -13,10 +13,14 @@ template<typename T>
 class Optional
 {
 public:
+    /// Null.
     Optional() noexcept {}
+    /// Holds a copy of the value.
     Optional(T const& value) { Hold(value); }
+    /// Holds the value, moved.
     Optional(T&& value) { Hold(std::move(value)); }
 
+    /// Holds a copy of what the other one holds.
     Optional(Optional const& other)
     {
         if (other.hasValue_) Hold(other.value_);
@@ -38,6 +42,7 @@ public:
 
     ~Optional() { Delete(); }
 
+    /// Whether it holds a value.
     bool HasValue() const noexcept { return hasValue_; }
 
     /// The held value, valid until the object is changed or destroyed.

@@ -8,7 +8,12 @@
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::OperationResultConverter
 {
 
+/// @{
+
+/// The result on the other side, by name.
 Corvane::Data::OperationResult To(Corvane::Data::Generated::OperationResult::type value) noexcept;
 Corvane::Data::Generated::OperationResult::type To(Corvane::Data::OperationResult value) noexcept;
+
+/// @}
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::OperationResultConverter

@@ -8,7 +8,12 @@
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::OperationStatusConverter
 {
 
+/// @{
+
+/// The state on the other side, by name.
 Corvane::Data::OperationStatus::Status To(Corvane::Data::Generated::OperationStatusStatus::type value) noexcept;
 Corvane::Data::Generated::OperationStatusStatus::type To(Corvane::Data::OperationStatus::Status value) noexcept;
+
+/// @}
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::OperationStatusConverter

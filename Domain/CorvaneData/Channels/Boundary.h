@@ -20,11 +20,13 @@ public:
         RelativeToOppositeLoadBoundary = 2
     };
 
+    /// Takes any time point.
     static Boundary AbsoluteBoundary(TimePoints::TimePoint const& timepoint) noexcept;
 
     /// Takes any reference and any count of fields.
     static Boundary RelativeBoundary(RelativeTo relativeTo, unsigned int fieldCount) noexcept;
 
+    /// Whether it is a time point; else it is relative.
     bool IsAbsolute() const noexcept { return !isRelative_; }
 
     /// The time point of an absolute boundary; TimePoint::Empty() of a relative one.

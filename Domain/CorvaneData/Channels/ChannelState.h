@@ -14,6 +14,7 @@ class ChannelState
 public:
     virtual ~ChannelState() = default;
 
+    /// Player or recorder, as the class is.
     virtual Guid::Type ChannelType() const noexcept = 0;
 
     bool operator==(ChannelState const&) const = default;

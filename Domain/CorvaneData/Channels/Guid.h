@@ -17,6 +17,7 @@ namespace Talvo::Corvane::Data::Channels
 class Guid : public Data::Guid
 {
 public:
+    /// What the channel is.
     enum class Type : std::int32_t
     {
         ChannelGuidTypePlayer = 0,
@@ -33,7 +34,9 @@ public:
     /// Overwrites all sixteen bytes, whatever they say of the parts.
     using Data::Guid::operator=;
 
+    /// The channel index in the bytes.
     int ChannelIndex() const noexcept;
+    /// The serial number in the bytes.
     unsigned int MachineSerial() const noexcept;
 
     bool operator==(Guid const&) const = default;
@@ -46,6 +49,7 @@ public:
 template<>
 struct std::hash<Talvo::Corvane::Data::Channels::Guid>
 {
+    /// The hash of the sixteen bytes.
     std::size_t operator()(Talvo::Corvane::Data::Channels::Guid const& guid) const noexcept
     {
         std::uint32_t value = 0;

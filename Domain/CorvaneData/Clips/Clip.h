@@ -32,16 +32,24 @@ public:
 
         Essences::Type Type() const noexcept { return type_; } ///< set by Clear() alone
 
+        /// Metadata of the encoding. This setter and the next three store any value, also one of another type.
         Essences::Metadata Metadata() const noexcept { return metadata_; }
+        /// Stores the value.
         void Metadata(Essences::Metadata value) noexcept { metadata_ = value; }
 
+        /// Compression of the video.
         Essences::VideoCompressionType VideoCompressionType() const noexcept { return videoCompressionType_; }
+        /// Stores the value.
         void VideoCompressionType(Essences::VideoCompressionType value) noexcept { videoCompressionType_ = value; }
 
+        /// Compression of the audio.
         Essences::AudioCompressionType AudioCompressionType() const noexcept { return audioCompressionType_; }
+        /// Stores the value.
         void AudioCompressionType(Essences::AudioCompressionType value) noexcept { audioCompressionType_ = value; }
 
+        /// Details of the compression of the video.
         Essences::VideoCompressionInfo VideoCompressionInfo() const noexcept { return videoCompressionInfo_; }
+        /// Stores the value.
         void VideoCompressionInfo(Essences::VideoCompressionInfo value) noexcept { videoCompressionInfo_ = value; }
 
         bool operator==(Essence const&) const = default;
@@ -82,12 +90,15 @@ public:
     /// 1900-01-01T00:00:00:00 at 50/1, dated, non-drop. It counts as present: it differs from TimeCode::Empty().
     static TimePoints::TimeCode DefaultTimecode() noexcept;
 
+    /// The standard that TrySetInBoundTodTimecode() and TrySetInBoundUserTimecode() check against.
     Clips::VideoStandard VideoStandard() const noexcept { return videoStandard_; }
 
     /// Stores the standard, no more: the time codes are neither checked again nor changed.
     void VideoStandard(Clips::VideoStandard standard) noexcept;
 
+    /// The time-of-day time code of the in bound.
     TimePoints::TimeCode const& InBoundTodTimecode() const noexcept { return inBoundTodTimecode_; }
+    /// The user time code of the in bound.
     TimePoints::TimeCode const& InBoundUserTimecode() const noexcept { return inBoundUserTimecode_; }
 
     /// Stores the time code and returns true, or stores nothing and returns false if its rate does not agree with the

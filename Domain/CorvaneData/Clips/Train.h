@@ -14,6 +14,7 @@ namespace Talvo::Corvane::Data::Clips
 class Train
 {
 public:
+    /// Takes any values; `clip` may be null.
     Train(std::unique_ptr<Clip>&& clip, std::vector<RecordingRange>&& ranges, bool inMoving, bool outMoving,
           TimePoints::TimeCode&& lastTimeCode) noexcept;
 

@@ -10,10 +10,14 @@ namespace Talvo::Corvane::Multiviewer
 class ClipCreationBoundaries
 {
 public:
+    /// The in point.
     Data::Optional<TimePoints::TimePoint> TimePointIn() const { return timePointIn_; }
+    /// Sets the in point.
     void TimePointIn(TimePoints::TimePoint&& value) { timePointIn_ = value; }
 
+    /// The out point.
     Data::Optional<TimePoints::TimePoint> TimePointOut() const { return timePointOut_; }
+    /// Sets the out point.
     void TimePointOut(TimePoints::TimePoint&& value) { timePointOut_ = value; }
 
     bool operator==(ClipCreationBoundaries const&) const = default;

@@ -17,6 +17,7 @@ public:
 
     /// The entry of that player. Nothing is checked: `index` is below `playerCount`.
     PlayerDataOverrides& operator[](unsigned int const index) noexcept { return players_[index]; }
+    /// The entry of that player, as above.
     PlayerDataOverrides const& operator[](unsigned int const index) const noexcept { return players_[index]; }
 
     bool operator==(MultiviewerDataOverrides const&) const = default;

@@ -32,6 +32,7 @@ struct ClipCreationEventArgs : ClipCommandEventArgs
         PushUnknown = 5
     };
 
+    /// The block of ClipCommandEventArgs, then the own fields in their order.
     ClipCreationEventArgs(unsigned int machineSerialNumber, RequestSource source, unsigned int number,
                           unsigned short ticket, Data::Guid const& guid, long long revision,
                           Data::Clips::Clip const& firstClip, Data::Clips::Clip const& secondClip,

@@ -11,6 +11,7 @@ namespace Talvo::Corvane::Notification
 /// A clip could not be made.
 struct ClipCreationFailedEventArgs : ClipCreationEventArgs
 {
+    /// The block of ClipCommandEventArgs, then result and internal result, then the fields of ClipCreationEventArgs.
     ClipCreationFailedEventArgs(unsigned int machineSerialNumber, RequestSource source, unsigned int number,
                                 unsigned short ticket, Data::Guid const& guid, long long revision,
                                 Data::OperationResult operationResult, short internal,

@@ -8,6 +8,7 @@ namespace Talvo::Corvane::Notification
 /// A clip was made.
 struct ClipCreationFinishedEventArgs : ClipCreationEventArgs
 {
+    /// As ClipCreationEventArgs.
     using ClipCreationEventArgs::ClipCreationEventArgs;
 
     bool operator==(ClipCreationFinishedEventArgs const&) const = default;

@@ -11,6 +11,7 @@ namespace Talvo::Corvane::Notification
 /// A clip is being deleted.
 struct ClipDeletionEventArgs : ClipCommandEventArgs
 {
+    /// The block of ClipCommandEventArgs, then the own fields in their order.
     ClipDeletionEventArgs(unsigned int machineSerialNumber, RequestSource source, unsigned int number,
                           unsigned short ticket, Data::Guid const& guid, long long revision,
                           Data::Clips::Clip const& clip, unsigned char byteA, unsigned char byteB)

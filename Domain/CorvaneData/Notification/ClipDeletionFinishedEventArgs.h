@@ -8,6 +8,7 @@ namespace Talvo::Corvane::Notification
 /// A clip was deleted.
 struct ClipDeletionFinishedEventArgs : ClipDeletionEventArgs
 {
+    /// As ClipDeletionEventArgs.
     using ClipDeletionEventArgs::ClipDeletionEventArgs;
 
     bool operator==(ClipDeletionFinishedEventArgs const&) const = default;

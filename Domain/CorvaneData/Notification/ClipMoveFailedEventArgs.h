@@ -11,6 +11,7 @@ namespace Talvo::Corvane::Notification
 /// A clip could not be moved.
 struct ClipMoveFailedEventArgs : ClipMoveEventArgs
 {
+    /// The block of ClipCommandEventArgs, then result and internal result, then the fields of ClipMoveEventArgs.
     ClipMoveFailedEventArgs(unsigned int machineSerialNumber, RequestSource source, unsigned int number,
                             unsigned short ticket, Data::Guid const& guid, long long revision,
                             Data::OperationResult operationResult, short internal, Data::Clips::Clip const& firstClip,

@@ -8,6 +8,7 @@ namespace Talvo::Corvane::Notification
 /// A clip was moved.
 struct ClipMoveFinishedEventArgs : ClipMoveEventArgs
 {
+    /// As ClipMoveEventArgs.
     using ClipMoveEventArgs::ClipMoveEventArgs;
 
     bool operator==(ClipMoveFinishedEventArgs const&) const = default;

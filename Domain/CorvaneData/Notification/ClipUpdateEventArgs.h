@@ -9,6 +9,7 @@ namespace Talvo::Corvane::Notification
 /// A clip is being changed.
 struct ClipUpdateEventArgs : ClipCommandEventArgs
 {
+    /// The block of ClipCommandEventArgs, then the own fields in their order.
     ClipUpdateEventArgs(unsigned int machineSerialNumber, RequestSource source, unsigned int number,
                         unsigned short ticket, Data::Guid const& guid, long long revision,
                         Data::Clips::Clip const& firstClip, Data::Clips::Clip const& secondClip)

@@ -8,6 +8,7 @@ namespace Talvo::Corvane::Notification
 /// A clip was changed.
 struct ClipUpdateFinishedEventArgs : ClipUpdateEventArgs
 {
+    /// The block of ClipCommandEventArgs, then the own field, then those of ClipUpdateEventArgs.
     ClipUpdateFinishedEventArgs(unsigned int machineSerialNumber, RequestSource source, unsigned int number,
                                 unsigned short ticket, Data::Guid const& guid, long long revision, bool endOfGrowing,
                                 Data::Clips::Clip const& firstClip, Data::Clips::Clip const& secondClip)

@@ -8,6 +8,7 @@ namespace Talvo::Corvane::Notification
 /// What became of a command.
 struct CommandEventArgs
 {
+    /// Of the command with that identifier.
     explicit CommandEventArgs(Data::Guid const& guid)
         : commandGuid(guid)
     {

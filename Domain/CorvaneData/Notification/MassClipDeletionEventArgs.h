@@ -10,6 +10,7 @@ namespace Talvo::Corvane::Notification
 /// All clips of a machine were deleted.
 struct MassClipDeletionEventArgs : ClipCommandEventArgs
 {
+    /// The block of ClipCommandEventArgs, then the own field.
     MassClipDeletionEventArgs(unsigned int machineSerialNumber, RequestSource source, unsigned int number,
                               unsigned short ticket, Data::Guid const& guid, long long revision, unsigned int serial)
         : ClipCommandEventArgs(machineSerialNumber, source, number, ticket, guid, revision)

@@ -10,6 +10,7 @@ namespace Talvo::Corvane::Notification
 /// A server was added.
 struct ServerAddedEventArgs : ServerStatusEventArgs
 {
+    /// Takes any values.
     ServerAddedEventArgs(Data::Servers::ServerId id, Data::Servers::ServerInfo const& info)
         : serverId(id)
         , serverInfo(info)

@@ -19,6 +19,7 @@ public:
     /// Throws std::invalid_argument "SequenceId.Location : invalid location number" if the location is above 109.
     SequenceId(Servers::ServerId server, std::uint32_t location);
 
+    /// The location number, 0 to MaxLocation.
     std::uint32_t Location() const noexcept { return location_; }
 
     bool operator==(SequenceId const&) const = default;

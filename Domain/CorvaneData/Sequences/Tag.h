@@ -11,6 +11,7 @@ namespace Talvo::Corvane::Data::Sequences
 /// A command at a field position of an element, with its properties, of which each key has one at most.
 struct Tag
 {
+    /// What the tag asks for.
     enum class CommandType : std::int32_t
     {
         Custom = 0,

@@ -9,6 +9,7 @@ namespace Talvo::Corvane::Data::Sequences
 /// One property of a tag: a list of integers and the type that says how to read it.
 struct TagProperty
 {
+    /// How the integers are read. No converter looks at it.
     enum class Type : std::int32_t
     {
         Boolean = 0,
@@ -17,6 +18,7 @@ struct TagProperty
         Vector = 3
     };
 
+    /// What the property is about; the key of Tag::properties.
     enum class Key : std::int32_t
     {
         Value = 0,

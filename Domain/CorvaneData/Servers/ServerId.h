@@ -9,6 +9,7 @@ namespace Talvo::Corvane::Data::Servers
 class ServerId
 {
 public:
+    /// Takes any number.
     explicit constexpr ServerId(std::int32_t value) noexcept
         : value_(value)
     {
@@ -17,6 +18,7 @@ public:
     /// No server: -1.
     static ServerId const& None() noexcept;
 
+    /// The number.
     std::int32_t Value() const noexcept { return value_; }
 
     bool operator==(ServerId const&) const = default;

@@ -12,6 +12,7 @@ namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 class ClipResultsItem
 {
 public:
+    /// What became of it.
     Corvane::Data::OperationStatus const& OperationStatus() const noexcept { return operationStatus_; }
 
     /// A status other than `Succeeded` destroys the held clip.

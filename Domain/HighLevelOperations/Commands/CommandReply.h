@@ -29,8 +29,10 @@ enum class ReplyType : std::int32_t
 /// What the server answers to a command.
 struct CommandReply
 {
+    /// Answers Guid::Empty().
     CommandReply() noexcept = default;
 
+    /// Answers the command with that identifier.
     explicit CommandReply(Corvane::Data::Guid const& guid) noexcept
         : commandGuid(guid)
     {
@@ -42,6 +44,7 @@ struct CommandReply
     CommandReply& operator=(CommandReply&&) = default;
     virtual ~CommandReply();
 
+    /// The kind of the reply, fixed for each class.
     virtual ReplyType GetType() const noexcept = 0;
 
     bool operator==(CommandReply const&) const = default;

@@ -13,6 +13,7 @@ namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 /// Asks for clips to be created.
 struct CreateClipsCommandParams : CommandParams
 {
+    /// One clip to be created.
     struct CreateClipParams
     {
         Corvane::Data::Clips::Guid sourceId{std::string()};

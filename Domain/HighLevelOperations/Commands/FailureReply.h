@@ -11,6 +11,7 @@ namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 /// The command was refused.
 struct FailureReply : CommandReply
 {
+    /// Answers that command with that text.
     FailureReply(Corvane::Data::Guid const& guid, std::string text)
         : CommandReply(guid)
         , error(std::move(text))

@@ -17,6 +17,7 @@ namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 class GetAnglesGroupsCommandReply : public CommandReply
 {
 public:
+    /// Answers that command with those items.
     GetAnglesGroupsCommandReply(Corvane::Data::Guid const& guid, long long revisionNumber,
                                 std::list<Corvane::Data::Clips::Groups::AnglesGroup>&& items)
         : CommandReply(guid)

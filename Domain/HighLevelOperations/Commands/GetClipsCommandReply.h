@@ -17,6 +17,7 @@ namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 class GetClipsCommandReply : public CommandReply
 {
 public:
+    /// Answers that command with those items.
     GetClipsCommandReply(Corvane::Data::Guid const& guid, long long revisionNumber,
                          std::list<Corvane::Data::Clips::Clip>&& items)
         : CommandReply(guid)

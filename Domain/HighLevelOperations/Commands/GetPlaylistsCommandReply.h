@@ -13,6 +13,7 @@ namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 /// The playlists that were asked for.
 struct GetPlaylistsCommandReply : CommandReply
 {
+    /// Answers that command with those items.
     GetPlaylistsCommandReply(Corvane::Data::Guid const& guid, long long revisionNumber,
                              std::vector<Corvane::Data::Sequences::Playlist>&& items)
         : CommandReply(guid)

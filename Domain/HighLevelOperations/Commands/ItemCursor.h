@@ -14,6 +14,7 @@ template<typename T>
 class ItemCursor
 {
 public:
+    /// Stands before the first item.
     explicit ItemCursor(std::list<T>&& items)
         : items_(std::make_shared<std::list<T> const>(std::move(items)))
         , next_(items_->begin())
@@ -21,6 +22,7 @@ public:
     {
     }
 
+    /// Goes on to the next item, and tells whether there is one.
     bool MoveNext() const noexcept
     {
         if (remainingCount_ == 0) return false;
@@ -29,8 +31,10 @@ public:
         return true;
     }
 
+    /// The item that the last MoveNext() went on to.
     T const& Current() const noexcept { return *current_; }
 
+    /// How many items MoveNext() still has to give.
     std::size_t RemainingCount() const noexcept { return remainingCount_; }
 
 private:

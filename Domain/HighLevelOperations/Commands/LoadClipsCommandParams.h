@@ -14,6 +14,7 @@ namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 /// Loads players with a clip each.
 struct LoadClipsCommandParams : CommandParams
 {
+    /// What one player gets.
     struct PlayerParam
     {
         Corvane::Data::Clips::Guid clip;

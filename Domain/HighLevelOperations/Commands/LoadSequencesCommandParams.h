@@ -13,6 +13,7 @@ namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 /// Loads players with a sequence each.
 struct LoadSequencesCommandParams : CommandParams
 {
+    /// What one player gets.
     struct PlayerParam
     {
         Corvane::Data::Sequences::Guid sequence;

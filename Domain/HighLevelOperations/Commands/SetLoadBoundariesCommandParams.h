@@ -12,6 +12,7 @@ namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 /// Sets where the loads of players start and end.
 struct SetLoadBoundariesCommandParams : CommandParams
 {
+    /// What one player gets.
     struct PlayerParam
     {
         Corvane::Data::Channels::Boundary inBoundary;

@@ -11,6 +11,7 @@ namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 /// The server does not know the command.
 struct UnknownCommandReply : CommandReply
 {
+    /// Answers that command; `text` becomes `commandType`.
     UnknownCommandReply(Corvane::Data::Guid const& guid, std::string text)
         : CommandReply(guid)
         , commandType(std::move(text))

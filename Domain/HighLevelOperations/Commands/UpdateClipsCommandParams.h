@@ -11,6 +11,7 @@ namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 /// Asks for clips to be changed.
 struct UpdateClipsCommandParams : CommandParams
 {
+    /// One clip to be changed, as it was and as it shall be.
     struct UpdateClipParams
     {
         Corvane::Data::Clips::Clip oldClip;

@@ -12,6 +12,7 @@ namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 struct UpdatePlaylistsCommandParams : CommandParams
 {
     /// Spelled so.
+    /// One playlist to be changed, as it was and as it shall be.
     struct UpdatPlaylistsParams
     {
         Corvane::Data::Sequences::Playlist oldPlaylist;

@@ -11,6 +11,9 @@
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Channels::EnumConverter
 {
 
+/// @{
+
+/// The value on the other side, by the table of the enumeration.
 Generated::PlayerModeStatus::type ToGeneratedEnum(Corvane::Data::Channels::PlayerModeStatus value) noexcept;
 Corvane::Data::Channels::PlayerModeStatus FromGeneratedEnum(Generated::PlayerModeStatus::type value) noexcept;
 
@@ -25,4 +28,7 @@ Corvane::Data::Channels::PlayoutConfig FromGeneratedEnum(Generated::PlayoutConfi
 
 Generated::RecorderModeStatus::type ToGeneratedEnum(Corvane::Data::Channels::RecorderModeStatus value) noexcept;
 Corvane::Data::Channels::RecorderModeStatus FromGeneratedEnum(Generated::RecorderModeStatus::type value) noexcept;
+
+/// @}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Channels::EnumConverter

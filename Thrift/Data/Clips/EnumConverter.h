@@ -10,6 +10,9 @@
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips::EnumConverter
 {
 
+/// @{
+
+/// The value on the other side, by the table of the enumeration.
 Generated::TrainStatus::type ToGeneratedEnum(Corvane::Data::Clips::TrainStatus value) noexcept;
 Corvane::Data::Clips::TrainStatus FromGeneratedEnum(Generated::TrainStatus::type value) noexcept;
 
@@ -91,4 +94,7 @@ FromGeneratedEnum(Generated::VideoCompressionInfo::type value) noexcept;
 Generated::AudioConfiguration::type ToGeneratedEnum(Corvane::Data::Clips::Essences::AudioConfiguration value) noexcept;
 Corvane::Data::Clips::Essences::AudioConfiguration
 FromGeneratedEnum(Generated::AudioConfiguration::type value) noexcept;
+
+/// @}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips::EnumConverter

@@ -14,6 +14,9 @@
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences::EnumConverter
 {
 
+/// @{
+
+/// The value on the other side, by the table of the enumeration.
 Generated::TagPropertyType::type ToGeneratedEnum(Corvane::Data::Sequences::TagProperty::Type value) noexcept;
 Corvane::Data::Sequences::TagProperty::Type FromGeneratedEnum(Generated::TagPropertyType::type value) noexcept;
 
@@ -49,4 +52,7 @@ Corvane::Data::Sequences::TimeCodeRegenOutput FromGeneratedEnum(Generated::TimeC
 
 Generated::TimeCodeRegenType::type ToGeneratedEnum(Corvane::Data::Sequences::TimeCodeRegenType value) noexcept;
 Corvane::Data::Sequences::TimeCodeRegenType FromGeneratedEnum(Generated::TimeCodeRegenType::type value) noexcept;
+
+/// @}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences::EnumConverter

@@ -15,6 +15,7 @@ namespace Talvo::Corvane::Data::Clips::Groups
 class AnglesGroup
 {
 public:
+    /// The place of one camera. A new one is free.
     struct AngleSlot
     {
         bool isFree = true;
