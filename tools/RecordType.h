@@ -107,12 +107,24 @@ bool SameDomain(WireRecord const& left, WireRecord const& right)
 /// is missing, void stands for it. A domain class without default constructor adds the function that builds a new one.
 template<typename TWire, typename TToWire = void, typename TToDomain = void, typename TDomain = void,
          TDomain (*newDomain)(TWire const&) = &NewDomain<TWire, TDomain>>
-RecordType Record(std::string_view name)
+struct Record
+{
+    constexpr explicit Record(std::string_view const shown)
+        : name(shown)
+    {
+    }
+
+    std::string_view name;
+};
+
+/// A line of the registry as the tool knows it.
+template<typename TWire, typename TToWire, typename TToDomain, typename TDomain, TDomain (*newDomain)(TWire const&)>
+RecordType TypeOf(Record<TWire, TToWire, TToDomain, TDomain, newDomain> const& record, std::string_view const group)
 {
     constexpr bool HasToWire = !std::is_void_v<TToWire>;
     constexpr bool HasToDomain = !std::is_void_v<TToDomain>;
 
-    RecordType type{name, {}, HasToDomain, HasToWire, nullptr, nullptr, nullptr, nullptr};
+    RecordType type{record.name, group, HasToDomain, HasToWire, nullptr, nullptr, nullptr, nullptr};
     type.make = []() -> std::unique_ptr<WireRecord> { return std::make_unique<WireRecordOf<TWire>>(); };
     if constexpr (HasToDomain) type.findHazards = &HazardsOf<TWire>;
     if constexpr (HasToWire && HasToDomain)

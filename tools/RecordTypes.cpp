@@ -1,9 +1,16 @@
 #include "tools/RecordTypes.h"
 
 #include "tools/Failure.h"
+#include "tools/records/Channels.h"
+#include "tools/records/Clips.h"
+#include "tools/records/Commands.h"
+#include "tools/records/Common.h"
+#include "tools/records/Notifier.h"
+#include "tools/records/Sequences.h"
 
 #include <algorithm>
 #include <string>
+#include <tuple>
 
 namespace Talvo::Tools
 {
@@ -11,13 +18,10 @@ namespace Talvo::Tools
 namespace
 {
 
-void Append(std::vector<RecordType>& types, std::string_view group, std::vector<RecordType> const& added)
+/// Appends the types of a group's records, which are a tuple.
+void Append(std::vector<RecordType>& types, std::string_view group, auto const& records)
 {
-    for (auto type : added)
-    {
-        type.group = group;
-        types.push_back(type);
-    }
+    std::apply([&types, group](auto const&... record) { (types.push_back(TypeOf(record, group)), ...); }, records);
 }
 
 std::vector<RecordType> AllRecords()

@@ -1,4 +1,6 @@
-#include "tools/RecordTypes.h"
+#pragma once
+
+#include "tools/RecordType.h"
 
 #include "Domain/CorvaneData/Sequences/Playlist.h"
 #include "Thrift/Data/Sequences/FromAudioVideoElement.h"
@@ -27,25 +29,23 @@
 #include "generated/TagProperty_types.h"
 #include "generated/Tag_types.h"
 
+#include <tuple>
+
 namespace Talvo::Tools
 {
 
-namespace
-{
-
-Corvane::Data::Sequences::Tag NewTag(Corvane::Zelmar::Serialization::Thrift::Data::Sequences::Generated::Tag const&)
+inline Corvane::Data::Sequences::Tag
+NewTag(Corvane::Zelmar::Serialization::Thrift::Data::Sequences::Generated::Tag const&)
 {
     return Corvane::Data::Sequences::Tag(Corvane::Data::Sequences::Tag::CommandType::Custom);
 }
 
-} // namespace
-
-std::vector<RecordType> SequenceRecords()
+constexpr auto SequenceRecords()
 {
     namespace Domain = Corvane::Data::Sequences;
     using namespace Corvane::Zelmar::Serialization::Thrift::Data::Sequences;
 
-    return {
+    return std::tuple{
         Record<Generated::AudioVideoElement, AudioVideoElementToThriftConverter, ThriftToAudioVideoElementConverter,
                Domain::AudioVideoElement>("AudioVideoElement"),
         Record<Generated::AudioVideoTrack, AudioVideoTrackToThriftConverter, ThriftToAudioVideoTrackConverter,

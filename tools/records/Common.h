@@ -1,4 +1,6 @@
-#include "tools/RecordTypes.h"
+#pragma once
+
+#include "tools/RecordType.h"
 
 #include "Domain/CorvaneData/Guid.h"
 #include "Domain/CorvaneData/Multiviewer/MultiviewerDataOverrides.h"
@@ -20,27 +22,24 @@
 
 #include <cstdint>
 
+#include <tuple>
+
 namespace Talvo::Tools
 {
 
-namespace
-{
-
 /// With the wire's number of players, since conversion can't change it.
-Corvane::Multiviewer::MultiviewerDataOverrides
+inline Corvane::Multiviewer::MultiviewerDataOverrides
 NewMultiviewerDataOverrides(Corvane::Data::Generated::MultiviewerDataOverrides const& wire)
 {
     return Corvane::Multiviewer::MultiviewerDataOverrides(static_cast<std::uint32_t>(wire.playersData.size()));
 }
 
-} // namespace
-
-std::vector<RecordType> CommonRecords()
+constexpr auto CommonRecords()
 {
     namespace Generated = Corvane::Data::Generated;
     using namespace Corvane::Zelmar::Serialization::Thrift::Data;
 
-    return {
+    return std::tuple{
         Record<Generated::Guid, GuidToThriftConverter, ThriftToGuidConverter, Corvane::Data::Guid>("Guid"),
         Record<Generated::MultiviewerDataOverrides, FromMultiviewerDataOverrides, ToMultiviewerDataOverrides,
                Corvane::Multiviewer::MultiviewerDataOverrides, &NewMultiviewerDataOverrides>(

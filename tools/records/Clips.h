@@ -1,4 +1,6 @@
-#include "tools/RecordTypes.h"
+#pragma once
+
+#include "tools/RecordType.h"
 
 #include "Domain/CorvaneData/Clips/Clip.h"
 #include "Domain/CorvaneData/Clips/Groups/Angle.h"
@@ -25,30 +27,29 @@
 #include "generated/RecordingRange_types.h"
 #include "generated/Train_types.h"
 
+#include <tuple>
+
 namespace Talvo::Tools
 {
 
-namespace
-{
-
-Corvane::Data::Clips::Groups::AnglesGroup NewAnglesGroup(Corvane::Data::Clips::Groups::Generated::AnglesGroup const&)
+inline Corvane::Data::Clips::Groups::AnglesGroup
+NewAnglesGroup(Corvane::Data::Clips::Groups::Generated::AnglesGroup const&)
 {
     return Corvane::Data::Clips::Groups::AnglesGroup(Corvane::Data::Clips::Groups::Guid());
 }
 
-Corvane::Data::Clips::Train NewTrain(Corvane::Zelmar::Serialization::Thrift::Data::Clips::Generated::Train const&)
+inline Corvane::Data::Clips::Train
+NewTrain(Corvane::Zelmar::Serialization::Thrift::Data::Clips::Generated::Train const&)
 {
     return Corvane::Data::Clips::Train(nullptr, {}, false, false, TimePoints::TimeCode());
 }
 
-} // namespace
-
-std::vector<RecordType> GroupRecords()
+constexpr auto GroupRecords()
 {
     namespace Generated = Corvane::Data::Clips::Groups::Generated;
     using namespace Corvane::Zelmar::Serialization::Thrift::Data::Clips;
 
-    return {
+    return std::tuple{
         Record<Generated::Angle, AngleToThriftConverter, ThriftToAngleConverter, Corvane::Data::Clips::Groups::Angle>(
             "Angle"),
         Record<Generated::AnglesGroup, AnglesGroupToThriftConverter, ThriftToAnglesGroupConverter,
@@ -57,11 +58,11 @@ std::vector<RecordType> GroupRecords()
     };
 }
 
-std::vector<RecordType> ClipRecords()
+constexpr auto ClipRecords()
 {
     using namespace Corvane::Zelmar::Serialization::Thrift::Data::Clips;
 
-    return {
+    return std::tuple{
         Record<Generated::AsciiOrUtf16String>("AsciiOrUtf16String"),
         Record<Generated::Clip, ClipToThriftConverter, ThriftToClipConverter, Corvane::Data::Clips::Clip>("Clip"),
         Record<Generated::Essence, EssenceToThriftConverter, ThriftToEssenceConverter,

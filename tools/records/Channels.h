@@ -1,4 +1,6 @@
-#include "tools/RecordTypes.h"
+#pragma once
+
+#include "tools/RecordType.h"
 
 #include "Domain/CorvaneData/Channels/Boundary.h"
 #include "Domain/CorvaneData/Channels/PlayerClipOnAir.h"
@@ -23,14 +25,16 @@
 #include "generated/RecorderState_types.h"
 #include "generated/ServerInfo_types.h"
 
+#include <tuple>
+
 namespace Talvo::Tools
 {
 
-std::vector<RecordType> ChannelRecords()
+constexpr auto ChannelRecords()
 {
     using namespace Corvane::Zelmar::Serialization::Thrift::Data::Channels;
 
-    return {
+    return std::tuple{
         Record<Generated::AbsoluteLoadBoundary>("AbsoluteLoadBoundary"),
         Record<Generated::LoadBoundary, LoadBoundaryToThriftConverter, ThriftToLoadBoundaryConverter,
                Corvane::Data::Channels::Boundary>("LoadBoundary"),
@@ -46,11 +50,11 @@ std::vector<RecordType> ChannelRecords()
     };
 }
 
-std::vector<RecordType> ServerRecords()
+constexpr auto ServerRecords()
 {
     using namespace Corvane::Zelmar::Serialization::Thrift::Data::Servers;
 
-    return {
+    return std::tuple{
         Record<Generated::ServerInfo, ServerInfoToThriftConverter, ThriftToServerInfoConverter,
                Corvane::Data::Servers::ServerInfo>("ServerInfo"),
     };

@@ -1,4 +1,6 @@
-#include "tools/RecordTypes.h"
+#pragma once
+
+#include "tools/RecordType.h"
 
 #include "Domain/CorvaneData/Clips/Groups/AnglesGroup.h"
 #include "Domain/CorvaneData/Notification/AnglesGroupCreationEventArgs.h"
@@ -96,13 +98,10 @@
 #include "generated/ServerAddedEA_types.h"
 #include "generated/ServerRemovedEA_types.h"
 
-#include <string_view>
+#include <tuple>
 #include <type_traits>
 
 namespace Talvo::Tools
-{
-
-namespace
 {
 
 /// Stands for any argument of an event: 0, no, or nothing in it.
@@ -131,19 +130,14 @@ TEvent NewEvent(TWire const& wire)
 }
 
 template<typename TWire, typename TToWire, typename TToDomain, typename TEvent>
-RecordType Event(std::string_view const name)
-{
-    return Record<TWire, TToWire, TToDomain, TEvent, &NewEvent<TWire, TEvent>>(name);
-}
+using Event = Record<TWire, TToWire, TToDomain, TEvent, &NewEvent<TWire, TEvent>>;
 
-} // namespace
-
-std::vector<RecordType> NotifierRecords()
+constexpr auto NotifierRecords()
 {
     namespace Notification = Corvane::Notification;
     using namespace Corvane::Zelmar::Serialization::Thrift::Notifier;
 
-    return {
+    return std::tuple{
         Event<Generated::AnglesGroupCreationEventArgs, AnglesGroupCreationEventArgsToThriftConverter,
               ThriftToAnglesGroupCreationEventArgsConverter, Notification::AnglesGroupCreationEventArgs>(
             "AnglesGroupCreationEventArgs"),

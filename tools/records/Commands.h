@@ -1,4 +1,6 @@
-#include "tools/RecordTypes.h"
+#pragma once
+
+#include "tools/RecordType.h"
 
 #include "Domain/HighLevelOperations/Commands/AnglesGroupCommandReply.h"
 #include "Domain/HighLevelOperations/Commands/ChainCommandParams.h"
@@ -186,10 +188,9 @@
 #include "generated/UpdateClipsCommandParams_types.h"
 #include "generated/UpdatePlaylistsCommandParams_types.h"
 
-namespace Talvo::Tools
-{
+#include <tuple>
 
-namespace
+namespace Talvo::Tools
 {
 
 /// A new reply, where that takes an identifier and what it holds: nothing of all that.
@@ -205,14 +206,12 @@ TReply NewReply(TWire const&)
         return TReply(guid, {}, {});
 }
 
-} // namespace
-
-std::vector<RecordType> CommandRecords()
+constexpr auto CommandRecords()
 {
     namespace Domain = Corvane::Zelmar::HighLevelOperations::Commands;
     using namespace Corvane::Zelmar::Serialization::Thrift::Commands;
 
-    return {
+    return std::tuple{
         Record<Generated::AnglesGroupCommandReply, AnglesGroupCommandReplyToThriftConverter,
                ThriftToAnglesGroupCommandReplyConverter, Domain::AnglesGroupCommandReply,
                &NewReply<Generated::AnglesGroupCommandReply, Domain::AnglesGroupCommandReply>>(
