@@ -24,6 +24,9 @@ void AddStatesAndEvents(Comparisons& rows);
 void AddPlaylists(Comparisons& rows);
 void AddCommands(Comparisons& rows);
 
+/// Registers what is measured of every record that converts both ways, as "every/RECORD/WHAT".
+void AddEveryRecord();
+
 /// Prints what memory 100,000 clips take on their way to a wire list, at the highest.
 void PrintPeakMemory();
 

@@ -109,6 +109,7 @@ int main(int argc, char** argv)
     AddStatesAndEvents(rows);
     AddPlaylists(rows);
     AddCommands(rows);
+    AddEveryRecord();
     TimesReporter times;
     benchmark::RunSpecifiedBenchmarks(&times);
     Print(rows, times);

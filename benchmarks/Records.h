@@ -39,48 +39,40 @@ public:
 
 using WireProtocol = apache::thrift::protocol::TBinaryProtocolT<apache::thrift::transport::TMemoryBuffer>;
 
-/// Registers what is measured of one record and adds its rows: both directions against `write` and `read` (binary
-/// protocol, which writes into a buffer that is large enough) and against a copy of the wire record. All but the used
-/// record start from a new destination, which `make` makes, and include its destruction. `clear` empties the fields of a
-/// used record that the conversion appends to.
-template<typename TToWire, typename TToDomain, typename TWire, typename TDomain>
-void AddRecord(
-    Comparisons& rows, std::string const& name, TDomain const& value, RecordTargets const& targets,
-    void (*clear)(TWire&), std::type_identity_t<TDomain> (*make)() = [] { return TDomain(); })
+/// What a conversion is given. A reply that is read once is copied for each, which shares what it holds.
+template<typename TDomain>
+decltype(auto) ReadableAgain(TDomain const& source)
 {
-    auto const source = std::make_shared<TDomain const>(value);
-    auto const sent = std::make_shared<TWire>();
-    std::ignore = TToWire().To(value, *sent);
+    if constexpr (requires { source.MoveNext(); })
+        return TDomain(source);
+    else
+        return (source);
+}
 
-    auto const toNewRecord = name + " to wire, new record";
-    benchmark::RegisterBenchmark(toNewRecord.c_str(),
+// Each registers one measurement. A conversion starts from a new destination and includes its destruction, as do copies
+// and `read`, which are what it is compared with; `write` writes into a buffer that is large enough.
+
+template<typename TToWire, typename TWire, typename TDomain>
+void AddToWire(std::string const& name, std::shared_ptr<TDomain const> const& source)
+{
+    benchmark::RegisterBenchmark(name.c_str(),
                                  [source](benchmark::State& state)
                                  {
                                      TToWire const converter;
                                      for (auto _ : state)
                                      {
                                          TWire wire;
-                                         std::ignore = converter.To(*source, wire);
+                                         std::ignore = converter.To(ReadableAgain(*source), wire);
                                          benchmark::DoNotOptimize(wire);
                                      }
                                  });
+}
 
-    auto const toUsedRecord = name + " to wire, used record";
-    benchmark::RegisterBenchmark(toUsedRecord.c_str(),
-                                 [source, clear](benchmark::State& state)
-                                 {
-                                     TToWire const converter;
-                                     TWire wire;
-                                     for (auto _ : state)
-                                     {
-                                         clear(wire);
-                                         std::ignore = converter.To(*source, wire);
-                                         benchmark::DoNotOptimize(wire);
-                                     }
-                                 });
-
-    auto const toDomain = "wire to " + name;
-    benchmark::RegisterBenchmark(toDomain.c_str(),
+/// `make` makes the new destination.
+template<typename TToDomain, typename TWire>
+void AddToDomain(std::string const& name, std::shared_ptr<TWire const> const& sent, auto const& make)
+{
+    benchmark::RegisterBenchmark(name.c_str(),
                                  [sent, make](benchmark::State& state)
                                  {
                                      TToDomain const converter;
@@ -91,34 +83,28 @@ void AddRecord(
                                          benchmark::DoNotOptimize(domain);
                                      }
                                  });
+}
 
-    auto const copy = "copy of wire " + name;
-    benchmark::RegisterBenchmark(copy.c_str(),
-                                 [sent](benchmark::State& state)
+/// A copy costs the least that making such an object can: what is copied is what a conversion gave, so that its memory
+/// lies as that of the conversion that is measured.
+template<typename T>
+void AddCopy(std::string const& name, std::shared_ptr<T const> const& original)
+{
+    benchmark::RegisterBenchmark(name.c_str(),
+                                 [original](benchmark::State& state)
                                  {
                                      for (auto _ : state)
                                      {
-                                         TWire wire(*sent);
-                                         benchmark::DoNotOptimize(wire);
+                                         T copy(*original);
+                                         benchmark::DoNotOptimize(copy);
                                      }
                                  });
+}
 
-    // What is copied is what a conversion gave, so its memory lies as that of the conversion that is measured.
-    auto const received = std::make_shared<TDomain>(make());
-    std::ignore = TToDomain().To(*sent, *received);
-    auto const domainCopy = "copy of " + name;
-    benchmark::RegisterBenchmark(domainCopy.c_str(),
-                                 [received](benchmark::State& state)
-                                 {
-                                     for (auto _ : state)
-                                     {
-                                         TDomain domain(*received);
-                                         benchmark::DoNotOptimize(domain);
-                                     }
-                                 });
-
-    auto const write = "write " + name;
-    benchmark::RegisterBenchmark(write.c_str(),
+template<typename TWire>
+void AddWrite(std::string const& name, std::shared_ptr<TWire const> const& sent)
+{
+    benchmark::RegisterBenchmark(name.c_str(),
                                  [sent](benchmark::State& state)
                                  {
                                      auto const buffer = std::make_shared<WireBuffer>();
@@ -130,9 +116,12 @@ void AddRecord(
                                          benchmark::ClobberMemory();
                                      }
                                  });
+}
 
-    auto const read = "read " + name;
-    benchmark::RegisterBenchmark(read.c_str(),
+template<typename TWire>
+void AddRead(std::string const& name, std::shared_ptr<TWire const> const& sent)
+{
+    benchmark::RegisterBenchmark(name.c_str(),
                                  [sent](benchmark::State& state)
                                  {
                                      auto const buffer = std::make_shared<WireBuffer>();
@@ -146,6 +135,49 @@ void AddRecord(
                                          benchmark::DoNotOptimize(wire);
                                      }
                                  });
+}
+
+/// Registers what is measured of one record and adds its rows: both directions against `write` and `read` and against
+/// copies. `make` makes new domain objects, `clear` empties the fields of a used record that the conversion appends to.
+template<typename TToWire, typename TToDomain, typename TWire, typename TDomain>
+void AddRecord(
+    Comparisons& rows, std::string const& name, TDomain const& value, RecordTargets const& targets,
+    void (*clear)(TWire&), std::type_identity_t<TDomain> (*make)() = [] { return TDomain(); })
+{
+    auto const source = std::make_shared<TDomain const>(value);
+    auto const wire = std::make_shared<TWire>();
+    std::ignore = TToWire().To(value, *wire);
+    auto const domain = std::make_shared<TDomain>(make());
+    std::ignore = TToDomain().To(*wire, *domain);
+    std::shared_ptr<TWire const> const sent = wire;
+    std::shared_ptr<TDomain const> const received = domain;
+
+    auto const toNewRecord = name + " to wire, new record";
+    auto const toUsedRecord = name + " to wire, used record";
+    auto const toDomain = "wire to " + name;
+    auto const copy = "copy of wire " + name;
+    auto const domainCopy = "copy of " + name;
+    auto const write = "write " + name;
+    auto const read = "read " + name;
+
+    AddToWire<TToWire, TWire>(toNewRecord, source);
+    benchmark::RegisterBenchmark(toUsedRecord.c_str(),
+                                 [source, clear](benchmark::State& state)
+                                 {
+                                     TToWire const converter;
+                                     TWire used;
+                                     for (auto _ : state)
+                                     {
+                                         clear(used);
+                                         std::ignore = converter.To(*source, used);
+                                         benchmark::DoNotOptimize(used);
+                                     }
+                                 });
+    AddToDomain<TToDomain>(toDomain, sent, make);
+    AddCopy(copy, sent);
+    AddCopy(domainCopy, received);
+    AddWrite(write, sent);
+    AddRead(read, sent);
 
     rows.insert(rows.end(), {{toNewRecord, write, targets.toNewRecord},
                              {toNewRecord, copy, targets.toNewRecordOfCopy},

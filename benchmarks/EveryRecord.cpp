@@ -1,0 +1,155 @@
+#include "benchmarks/Comparison.h"
+#include "benchmarks/Records.h"
+
+#include "Domain/HighLevelOperations/Commands/CommandParams.h"
+#include "Thrift/Hazards.h"
+#include "tests/schema/RecordFiller.h"
+#include "tools/records/Channels.h"
+#include "tools/records/Clips.h"
+#include "tools/records/Commands.h"
+#include "tools/records/Common.h"
+#include "tools/records/Notifier.h"
+#include "tools/records/Sequences.h"
+
+#include <benchmark/benchmark.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <tuple>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+namespace Talvo::Benchmarks
+{
+
+namespace
+{
+
+/// Fills every field as the tests' filler does, but with numbers that enumerations have and with texts that are time
+/// codes, no two alike in the first sixteen characters, which become identifiers.
+class SampleFiller : public Tests::RecordFiller
+{
+public:
+    explicit SampleFiller(std::vector<std::int16_t> numbers)
+        : numbers_(std::move(numbers))
+    {
+    }
+
+    std::uint32_t readI16(std::int16_t& value) { return Next(value); }
+    std::uint32_t readI32(std::int32_t& value) { return Next(value); }
+    std::uint32_t readI64(std::int64_t& value) { return Next(value); }
+
+    std::uint32_t readString(std::string& value)
+    {
+        auto const text = texts_++;
+        value =
+            "2024-01-" + std::to_string(10 + text % 20) + "T" + std::to_string(10 + text / 20 % 14) + ":58:57:12@25";
+        return 0;
+    }
+
+private:
+    std::uint32_t Next(auto& value)
+    {
+        value = numbers_[nextNumber_++ % numbers_.size()];
+        return 0;
+    }
+
+    std::vector<std::int16_t> numbers_;
+    std::size_t nextNumber_ = 0;
+    int texts_ = 0;
+};
+
+/// A record on both sides.
+template<typename TWire, typename TDomain>
+struct Sample
+{
+    std::shared_ptr<TDomain const> domain;
+    std::shared_ptr<TWire const> wire; ///< what became of the domain object
+    std::uint32_t size = 0;            ///< of the wire record in bytes
+};
+
+/// The full sample of a record: of a few numbers that every field may hold, those with which most of it travels. What
+/// a record carries hangs on its numbers: clips go with results that succeeded, a video standard with its rates.
+template<typename TWire, typename TToWire, typename TToDomain, typename TDomain, TDomain (*newDomain)(TWire const&)>
+Sample<TWire, TDomain> FullSample(std::string const& name)
+{
+    Sample<TWire, TDomain> fullest;
+    for (auto const& numbers : {std::vector<std::int16_t>{1}, {2}, {1, 2, 3}})
+    {
+        SampleFiller filler(numbers);
+        TWire filled;
+        filled.read(&filler);
+        if (!Corvane::Zelmar::Serialization::Thrift::FindHazards(filled).empty()) continue;
+
+        auto const domain = std::make_shared<TDomain>(newDomain(filled));
+        auto const wire = std::make_shared<TWire>();
+        if (!TToDomain().To(filled, *domain).success || !TToWire().To(ReadableAgain(*domain), *wire).success) continue;
+
+        WireProtocol protocol(std::make_shared<WireBuffer>());
+        auto const size = wire->write(&protocol);
+        if (size > fullest.size) fullest = {domain, wire, size};
+    }
+    if (fullest.size == 0) throw std::logic_error("no sample of " + name + " converts");
+    return fullest;
+}
+
+/// What makes new destinations. New command parameters draw an identifier, which takes longer than most conversions: a
+/// copy of new ones serves as well, and leaves that to be measured by itself.
+template<typename TWire, typename TDomain>
+auto NewDestination(TDomain (*newDomain)(TWire const&), std::shared_ptr<TWire const> const& wire)
+{
+    if constexpr (std::is_base_of_v<Corvane::Zelmar::HighLevelOperations::Commands::CommandParams, TDomain>)
+        return [fresh = newDomain(*wire)] { return fresh; };
+    else
+        return [newDomain, wire] { return newDomain(*wire); };
+}
+
+template<typename TWire, typename TToWire, typename TToDomain, typename TDomain, TDomain (*newDomain)(TWire const&)>
+void Add(Tools::Record<TWire, TToWire, TToDomain, TDomain, newDomain> const& record)
+{
+    if constexpr (!std::is_void_v<TToWire> && !std::is_void_v<TToDomain>)
+    {
+        std::string const name(record.name);
+        auto const sample = FullSample<TWire, TToWire, TToDomain, TDomain, newDomain>(name);
+        AddToWire<TToWire, TWire>("every/" + name + "/toWire", sample.domain);
+        AddCopy("every/" + name + "/copy", sample.wire);
+        AddWrite("every/" + name + "/write", sample.wire);
+        AddToDomain<TToDomain>("every/" + name + "/fromWire", sample.wire, NewDestination(newDomain, sample.wire));
+        AddRead("every/" + name + "/read", sample.wire);
+    }
+}
+
+void AddEach(auto const& records)
+{
+    std::apply([](auto const&... record) { (Add(record), ...); }, records);
+}
+
+} // namespace
+
+void AddEveryRecord()
+{
+    AddEach(Tools::CommonRecords());
+    AddEach(Tools::GroupRecords());
+    AddEach(Tools::ClipRecords());
+    AddEach(Tools::ChannelRecords());
+    AddEach(Tools::SequenceRecords());
+    AddEach(Tools::ServerRecords());
+    AddEach(Tools::CommandRecords());
+    AddEach(Tools::NotifierRecords());
+
+    benchmark::RegisterBenchmark("new command parameters",
+                                 [](benchmark::State& state)
+                                 {
+                                     for (auto _ : state)
+                                     {
+                                         Corvane::Zelmar::HighLevelOperations::Commands::CommandParams parameters;
+                                         benchmark::DoNotOptimize(parameters);
+                                     }
+                                 });
+}
+
+} // namespace Talvo::Benchmarks
