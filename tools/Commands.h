@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tools/Protocols.h"
+#include "tools/Style.h"
 
 #include <string>
 
@@ -21,6 +22,7 @@ struct Source
     std::string record; ///< Name of its type.
     std::string path;   ///< "-" for standard input.
     Protocol protocol;
+    Limits limits;
 };
 
 /// Where a record is written to.
@@ -34,15 +36,15 @@ struct Target
 // everything else that goes wrong is thrown as Failure.
 
 /// Prints every record's name, namespace and directions.
-void List();
+void List(Style const& style);
 
 /// Prints one line for each value of a record.
-void Print(Source const& source);
+void Print(Source const& source, Style const& style);
 
 /// Converts a record to the domain and back, prints what each conversion said and every value that came back different,
 /// and writes the record that came back. A record with a value that would end the process inside a converter is not
 /// converted: a line on standard error tells each of them.
-ExitStatus Convert(Source const& source, Target const& target);
+ExitStatus Convert(Source const& source, Target const& target, Style const& style);
 
 /// Writes a record in another protocol. Notes on standard error where that protocol can't carry it unchanged.
 void Transcode(Source const& source, Target const& target);

@@ -6,8 +6,9 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <string_view>
-#include <unordered_set>
+#include <memory>
+#include <optional>
+#include <type_traits>
 #include <utility>
 
 namespace Talvo::Tools
@@ -29,11 +30,11 @@ public:
     {
     }
 
-    FieldList Take() { return std::move(fields_); }
+    FieldList Take() { return std::move(list_); }
 
     // The names are those of Thrift's protocols.
     std::uint32_t writeStructBegin(char const*) { return Begin(FieldPath::Kind::Struct); }
-    std::uint32_t writeStructEnd() { return End("(no fields)"); }
+    std::uint32_t writeStructEnd() { return End(Empty::Record); }
     std::uint32_t writeFieldBegin(char const* name, TType, std::int16_t id)
     {
         names_.Field(name);
@@ -43,16 +44,16 @@ public:
     std::uint32_t writeFieldEnd() { return 0; }
     std::uint32_t writeFieldStop() { return 0; }
     std::uint32_t writeMapBegin(TType, TType, std::uint32_t) { return Begin(FieldPath::Kind::Map); }
-    std::uint32_t writeMapEnd() { return End("{}"); }
-    std::uint32_t writeListBegin(TType, std::uint32_t) { return Begin(FieldPath::Kind::Elements); }
-    std::uint32_t writeListEnd() { return End("[]"); }
+    std::uint32_t writeMapEnd() { return End(Empty::Map); }
+    std::uint32_t writeListBegin(TType, std::uint32_t size) { return Begin(FieldPath::Kind::Elements, size); }
+    std::uint32_t writeListEnd() { return End(Empty::List); }
     std::uint32_t writeSetBegin(TType, std::uint32_t) { return Begin(FieldPath::Kind::Elements); }
-    std::uint32_t writeSetEnd() { return End("{}"); }
-    std::uint32_t writeBool(bool value) { return Value(ValueText(value)); }
-    std::uint32_t writeI16(std::int16_t value) { return Value(ValueText(std::int64_t{value})); }
-    std::uint32_t writeI32(std::int32_t value) { return Value(ValueText(std::int64_t{value})); }
-    std::uint32_t writeI64(std::int64_t value) { return Value(ValueText(value)); }
-    std::uint32_t writeString(std::string const& value) { return Value(ValueText(value)); }
+    std::uint32_t writeSetEnd() { return End(Empty::Set); }
+    std::uint32_t writeBool(bool value) { return Pass(value); }
+    std::uint32_t writeI16(std::int16_t value) { return Pass(value); }
+    std::uint32_t writeI32(std::int32_t value) { return Pass(value); }
+    std::uint32_t writeI64(std::int64_t value) { return Pass(value); }
+    std::uint32_t writeString(std::string const& value) { return Pass(value); }
 
 private:
     /// A record or container that is being written.
@@ -63,41 +64,48 @@ private:
         std::size_t fieldsBefore;
     };
 
-    std::uint32_t Begin(FieldPath::Kind kind)
+    std::uint32_t Begin(FieldPath::Kind kind, std::optional<std::size_t> length = std::nullopt)
     {
         auto name = names_.Begin(kind);
-        open_.push_back({std::move(name), ids_.Begin(kind), fields_.size()});
+        auto id = ids_.Begin(kind);
+        if (Held(name, id)) list_.containers.emplace(*name, length);
+        open_.push_back({std::move(name), std::move(id), list_.fields.size()});
         return 0;
     }
 
-    std::uint32_t End(char const* empty)
+    std::uint32_t End(Empty const empty)
     {
         auto const closed = std::move(open_.back());
         open_.pop_back();
         names_.End();
         ids_.End();
-        if (fields_.size() == closed.fieldsBefore && !open_.empty()) Keep(closed.name, closed.id, empty);
+        if (list_.fields.size() == closed.fieldsBefore && !open_.empty()) Keep(closed.name, closed.id, empty);
         return 0;
     }
 
-    std::uint32_t Value(std::string text)
+    std::uint32_t Pass(Value const& value)
     {
-        auto const name = names_.Value(text);
-        auto const id = ids_.Value(text);
-        Keep(name, id, std::move(text));
+        auto const key = ValueText(value);
+        auto const name = names_.Value(key);
+        Keep(name, ids_.Value(key), value);
         return 0;
     }
 
-    void Keep(std::optional<std::string> const& name, std::optional<std::string> const& id, std::string text)
+    bool Held(std::optional<std::string> const& name, std::optional<std::string> const& id) const
     {
-        if (name && (held_ == nullptr || held_->contains(*id))) fields_.push_back({*name, std::move(text)});
+        return name && (held_ == nullptr || held_->contains(*id));
+    }
+
+    void Keep(std::optional<std::string> const& name, std::optional<std::string> const& id, Value const& value)
+    {
+        if (Held(name, id)) list_.fields.push_back({*name, value});
     }
 
     PathSet const* held_;
     FieldPath names_;
     FieldPath ids_; // the same path by the fields' ids, which are all that a reader sees
     std::vector<Open> open_;
-    FieldList fields_;
+    FieldList list_;
 };
 
 FieldList List(WireRecord const& record, PathSet const* held)
@@ -107,30 +115,13 @@ FieldList List(WireRecord const& record, PathSet const* held)
     return recorder.Take();
 }
 
-std::unordered_set<std::string_view> Paths(FieldList const& fields)
-{
-    std::unordered_set<std::string_view> paths;
-    for (auto const& field : fields) paths.insert(field.path);
-    return paths;
-}
-
 } // namespace
 
-std::string ValueText(bool value)
-{
-    return value ? "true" : "false";
-}
-
-std::string ValueText(std::int64_t value)
-{
-    return std::to_string(value);
-}
-
-std::string ValueText(std::string const& value)
+std::string Escaped(std::string_view const bytes)
 {
     static constexpr char Digits[] = "0123456789abcdef";
-    std::string text = "\"";
-    for (char const byte : value)
+    std::string text;
+    for (char const byte : bytes)
     {
         if (byte == '"' || byte == '\\')
             text += {'\\', byte};
@@ -139,7 +130,24 @@ std::string ValueText(std::string const& value)
         else
             text += {'\\', 'x', Digits[static_cast<unsigned char>(byte) >> 4U], Digits[byte & 0xF]};
     }
-    return text + '"';
+    return text;
+}
+
+std::string ValueText(Value const& value)
+{
+    return std::visit(
+        []<typename T>(T const& held) -> std::string
+        {
+            if constexpr (std::is_same_v<T, bool>)
+                return held ? "true" : "false";
+            else if constexpr (std::is_same_v<T, std::string>)
+                return '"' + Escaped(held) + '"';
+            else if constexpr (std::is_same_v<T, Empty>)
+                return held == Empty::Record ? "(no fields)" : held == Empty::List ? "[]" : "{}";
+            else
+                return std::to_string(held);
+        },
+        value);
 }
 
 FieldList ListFields(WireRecord const& record)
@@ -150,34 +158,6 @@ FieldList ListFields(WireRecord const& record)
 FieldList ListFields(Decoded const& decoded)
 {
     return List(*decoded.record, &decoded.held);
-}
-
-std::vector<FieldChange> Compare(FieldList const& before, FieldList const& after)
-{
-    std::vector<FieldChange> changes;
-    auto const pathsBefore = Paths(before);
-    auto const pathsAfter = Paths(after);
-    auto added = after.begin();
-    auto const takeAdded = [&]
-    {
-        for (; added != after.end() && !pathsBefore.contains(added->path); ++added)
-            changes.push_back({added->path, std::nullopt, added->value});
-    };
-
-    // Both lists follow the schema, so the paths that they share stand in the same order.
-    for (auto const& field : before)
-    {
-        if (!pathsAfter.contains(field.path))
-        {
-            changes.push_back({field.path, field.value, std::nullopt});
-            continue;
-        }
-        takeAdded();
-        if (added->value != field.value) changes.push_back({field.path, field.value, added->value});
-        ++added;
-    }
-    takeAdded();
-    return changes;
 }
 
 } // namespace Talvo::Tools

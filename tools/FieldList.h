@@ -1,28 +1,51 @@
 #pragma once
 
 #include "tools/Protocols.h"
+#include "tools/RecordType.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <unordered_map>
+#include <variant>
 #include <vector>
 
 namespace Talvo::Tools
 {
 
+/// A record or container without values.
+enum class Empty
+{
+    Record,
+    Map,
+    List,
+    Set
+};
+
+/// A value on the wire: enumerations are numbers, texts are bytes.
+using Value = std::variant<bool, std::int16_t, std::int32_t, std::int64_t, std::string, Empty>;
+
 /// One value of a record on the wire. An empty list, map or nested record counts as one value.
 struct Field
 {
-    std::string path;  ///< Such as `clips[3].clip.inBoundTodTimecode`; the entries of a map stand under their keys.
-    std::string value; ///< Enumerations as numbers; texts in quotes, bytes that are not printable ASCII as `\x1f`.
+    std::string path; ///< Such as `clips[3].clip.inBoundTodTimecode`; the entries of a map stand under their keys.
+    Value value;
 };
 
-using FieldList = std::vector<Field>;
+struct FieldList
+{
+    std::vector<Field> fields;
+    /// By path, all records and containers, lists with their lengths.
+    std::unordered_map<std::string, std::optional<std::size_t>> containers;
+};
 
-/// A value as text.
-std::string ValueText(bool value);
-std::string ValueText(std::int64_t value);
-std::string ValueText(std::string const& value);
+/// Printable ASCII: `\x1f` for every other byte, `\"` and `\\` for those two.
+std::string Escaped(std::string_view bytes);
+
+/// A value as text: texts are escaped and stand in quotes.
+std::string ValueText(Value const& value);
 
 /// All values that `record` writes, in the order of its schema.
 FieldList ListFields(WireRecord const& record);
@@ -30,16 +53,5 @@ FieldList ListFields(WireRecord const& record);
 /// The same for a record that was read, without the values that its bytes did not hold: a generated `write` writes every
 /// default field, whether it was there or not.
 FieldList ListFields(Decoded const& decoded);
-
-/// A value that differs between two records of one type.
-struct FieldChange
-{
-    std::string path;
-    std::optional<std::string> before; ///< Nothing: the value was added.
-    std::optional<std::string> after;  ///< Nothing: the value is gone.
-};
-
-/// The differences from `before` to `after`, in the order of the schema.
-std::vector<FieldChange> Compare(FieldList const& before, FieldList const& after);
 
 } // namespace Talvo::Tools

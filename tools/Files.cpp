@@ -1,7 +1,6 @@
 #include "tools/Files.h"
 
 #include "tools/Failure.h"
-#include "tools/Protocols.h"
 
 #include <algorithm>
 #include <array>
@@ -16,13 +15,13 @@ namespace Talvo::Tools
 namespace
 {
 
-std::string ReadAll(std::istream& input)
+std::string ReadAll(std::istream& input, std::size_t const maxSize)
 {
     std::string bytes;
     std::array<char, 65536> block;
-    while (bytes.size() <= MaxFileSize && input)
+    while (bytes.size() <= maxSize && input)
     {
-        auto const wanted = std::min(block.size(), MaxFileSize + 1 - bytes.size());
+        auto const wanted = std::min(block.size(), maxSize + 1 - bytes.size());
         input.read(block.data(), static_cast<std::streamsize>(wanted));
         bytes.append(block.data(), static_cast<std::size_t>(input.gcount()));
     }
@@ -36,13 +35,13 @@ Failure SystemFailure(std::string const& action, std::string const& path)
 
 } // namespace
 
-std::string ReadFile(std::string const& path)
+std::string ReadFile(std::string const& path, std::size_t const maxSize)
 {
-    if (path == "-") return ReadAll(std::cin);
+    if (path == "-") return ReadAll(std::cin, maxSize);
 
     std::ifstream file(path, std::ios::binary);
     if (!file) throw SystemFailure("can't read", path);
-    auto bytes = ReadAll(file);
+    auto bytes = ReadAll(file, maxSize);
     if (file.bad()) throw SystemFailure("can't read", path);
     return bytes;
 }

@@ -1,13 +1,14 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 namespace Talvo::Tools
 {
 
-/// All bytes of a file, or of standard input where `path` is "-"; of a longer one, one byte more than MaxFileSize.
+/// All bytes of a file, or of standard input where `path` is "-"; of one longer than `maxSize`, one byte more than that.
 /// Throws Failure if it can't be read.
-std::string ReadFile(std::string const& path);
+std::string ReadFile(std::string const& path, std::size_t maxSize);
 
 /// Writes a file, or to standard output where `path` is "-". Throws Failure if it can't be written.
 void WriteFile(std::string const& path, std::string const& bytes);

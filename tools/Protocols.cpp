@@ -30,9 +30,6 @@ using apache::thrift::transport::TTransportException;
 constexpr std::array<std::pair<std::string_view, Protocol>, 3> Protocols{
     {{"binary", Protocol::Binary}, {"compact", Protocol::Compact}, {"json", Protocol::Json}}};
 
-/// No record nests deeper than this, nor does what a newer peer might add to one.
-constexpr int MaxDepth = 64;
-
 /// `limit`, in bytes and in elements, bounds what is read; 0 is no limit.
 std::shared_ptr<Wire::TProtocol> MakeProtocol(Protocol protocol, std::shared_ptr<TTransport> transport,
                                               std::int32_t limit = 0)
@@ -53,8 +50,9 @@ std::shared_ptr<Wire::TProtocol> MakeProtocol(Protocol protocol, std::shared_ptr
 class WatchedProtocol : public Wire::TProtocolDecorator
 {
 public:
-    WatchedProtocol(std::shared_ptr<TProtocol> watched, std::size_t byteCount)
+    WatchedProtocol(std::shared_ptr<TProtocol> watched, std::uint32_t maxElements, std::size_t byteCount)
         : TProtocolDecorator(std::move(watched))
+        , maxElements_(maxElements)
         , elementsLeft_(byteCount)
     {
     }
@@ -112,13 +110,13 @@ public:
     std::uint32_t readI16_virt(std::int16_t& value) override
     {
         auto const size = TProtocolDecorator::readI16_virt(value);
-        return Read(size, std::int64_t{value});
+        return Read(size, value);
     }
 
     std::uint32_t readI32_virt(std::int32_t& value) override
     {
         auto const size = TProtocolDecorator::readI32_virt(value);
-        return Read(size, std::int64_t{value});
+        return Read(size, value);
     }
 
     std::uint32_t readI64_virt(std::int64_t& value) override
@@ -150,7 +148,7 @@ private:
     /// multiplies sizes in 32 bits. Every element takes at least one byte.
     void Count(std::uint32_t elements)
     {
-        if (elements > MaxContainerSize || elements > elementsLeft_)
+        if (elements > maxElements_ || elements > elementsLeft_)
             throw Wire::TProtocolException(Wire::TProtocolException::SIZE_LIMIT);
         elementsLeft_ -= elements;
     }
@@ -181,6 +179,7 @@ private:
 
     FieldPath path_;
     PathSet held_;
+    std::uint32_t maxElements_;
     std::size_t elementsLeft_;
     std::size_t skippedCount_ = 0;
     bool skipping_ = false;
@@ -207,7 +206,7 @@ std::string Reason(Wire::TProtocolException const& error)
     {
     case Wire::TProtocolException::SIZE_LIMIT:
     case Wire::TProtocolException::NEGATIVE_SIZE:
-        return "a size in it is more than the file can hold, or more than talvo-wire reads";
+        return "a size in it is more than the file can hold, or more than --max-elements";
     case Wire::TProtocolException::DEPTH_LIMIT:
         return "it nests too deep";
     case Wire::TProtocolException::INVALID_DATA:
@@ -252,7 +251,7 @@ namespace
 {
 
 /// Decodes, and writes all that it reads to `sink` unless that is null.
-Decoded Decode(std::string const& bytes, Protocol protocol, RecordType const& type,
+Decoded Decode(std::string const& bytes, Protocol protocol, RecordType const& type, Limits const& limits,
                std::shared_ptr<Wire::TProtocol> sink)
 {
     auto const refuse = [&](std::string const& reason)
@@ -262,8 +261,8 @@ Decoded Decode(std::string const& bytes, Protocol protocol, RecordType const& ty
     };
 
     if (bytes.empty()) throw refuse("it is empty");
-    if (bytes.size() > MaxFileSize)
-        throw refuse("it has more than the " + std::to_string(MaxFileSize) + " bytes that talvo-wire reads");
+    if (bytes.size() > limits.bytes)
+        throw refuse("it has more than the " + std::to_string(limits.bytes) + " bytes of --max-bytes");
 
     auto const limit = static_cast<std::int32_t>(bytes.size());
     auto const configuration = std::make_shared<apache::thrift::TConfiguration>(limit, limit, MaxDepth);
@@ -273,7 +272,7 @@ Decoded Decode(std::string const& bytes, Protocol protocol, RecordType const& ty
                                                         TMemoryBuffer::OBSERVE, configuration);
     auto reader = MakeProtocol(protocol, buffer, limit);
     if (sink != nullptr) reader = std::make_shared<Wire::TProtocolTap>(std::move(reader), std::move(sink));
-    WatchedProtocol watched(std::move(reader), bytes.size());
+    WatchedProtocol watched(std::move(reader), limits.elements, bytes.size());
 
     auto record = type.make();
     try
@@ -308,15 +307,16 @@ Decoded Decode(std::string const& bytes, Protocol protocol, RecordType const& ty
 
 } // namespace
 
-Decoded Decode(std::string const& bytes, Protocol protocol, RecordType const& type)
+Decoded Decode(std::string const& bytes, Protocol protocol, RecordType const& type, Limits const& limits)
 {
-    return Decode(bytes, protocol, type, nullptr);
+    return Decode(bytes, protocol, type, limits, nullptr);
 }
 
-std::string Transcode(std::string const& bytes, Protocol protocol, RecordType const& type, Protocol to)
+std::string Transcode(std::string const& bytes, Protocol protocol, RecordType const& type, Limits const& limits,
+                      Protocol to)
 {
     auto const buffer = std::make_shared<TMemoryBuffer>();
-    Decode(bytes, protocol, type, std::make_shared<TypedEmptyMaps>(MakeProtocol(to, buffer)));
+    Decode(bytes, protocol, type, limits, std::make_shared<TypedEmptyMaps>(MakeProtocol(to, buffer)));
     return buffer->getBufferAsString();
 }
 

@@ -19,9 +19,15 @@ enum class Protocol
     Json
 };
 
-/// The largest file that is read, in bytes, and the most elements that one list, set or map may claim.
-inline constexpr std::size_t MaxFileSize = 64 * 1024 * 1024;
-inline constexpr std::uint32_t MaxContainerSize = 100'000;
+/// What is refused before it is read. Reading takes about a hundred times the memory of the bytes.
+struct Limits
+{
+    std::uint32_t bytes = 64 * 1024 * 1024; ///< The largest file; at most 2^31 - 1.
+    std::uint32_t elements = 100'000;       ///< The most elements that one list, set or map may claim.
+};
+
+/// No record nests deeper than this, nor does what a newer peer might add to one.
+inline constexpr int MaxDepth = 64;
 
 /// The protocol named `binary`, `compact` or `json`. Throws Failure for any other name.
 Protocol ParseProtocol(std::string_view name);
@@ -44,11 +50,12 @@ struct Decoded
 ///
 /// A claimed size allocates nothing beyond what the bytes could hold: Thrift's limits are set to their number, and the
 /// elements of all containers are counted against it.
-Decoded Decode(std::string const& bytes, Protocol protocol, RecordType const& type);
+Decoded Decode(std::string const& bytes, Protocol protocol, RecordType const& type, Limits const& limits = {});
 
 /// Does the same and returns what was read in another protocol: every field that was there and no other, those that the
 /// record does not have included.
-std::string Transcode(std::string const& bytes, Protocol protocol, RecordType const& type, Protocol to);
+std::string Transcode(std::string const& bytes, Protocol protocol, RecordType const& type, Limits const& limits,
+                      Protocol to);
 
 /// The record as one message without frame.
 std::string Encode(WireRecord const& record, Protocol protocol);

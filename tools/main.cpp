@@ -3,9 +3,11 @@
 
 #include <CLI/CLI.hpp>
 
+#include <cstdint>
 #include <exception>
-#include <functional>
 #include <iostream>
+#include <limits>
+#include <string>
 
 namespace
 {
@@ -20,39 +22,100 @@ struct Arguments
     std::string protocol = "binary";
     std::string toProtocol;
     std::string output;
+    Limits limits;
+    bool json = false;
+    std::string colour = "auto";
 
-    Source From() const { return {record, file, ParseProtocol(protocol)}; }
+    Source From() const { return {record, file, ParseProtocol(protocol), limits}; }
     Target To() const { return {output, ParseProtocol(toProtocol.empty() ? protocol : toProtocol)}; }
+    Style Printed() const { return {json, !json && HasColour(colour)}; }
 };
 
-CLI::App* AddCommand(CLI::App& app, char const* name, char const* description, Arguments& arguments)
+constexpr char ExitStatuses[] =
+    "Exit status: 0 done, 1 a conversion failed, 2 wrong usage or a file that holds no such record.";
+
+CLI::App* AddCommand(CLI::App& app, char const* name, char const* description, std::string const& examples)
 {
     auto* const command = app.add_subcommand(name, description);
-    command->add_option("RECORD", arguments.record, "Name of the record, as list shows it")->required();
-    command->add_option("FILE", arguments.file, "File that holds the record; - or nothing for standard input");
-    command->add_option("-p,--protocol", arguments.protocol, "Its protocol: binary (default), compact or json");
+    command->footer(std::string(ExitStatuses) + "\n\nExamples, with files of examples/samples:\n" + examples);
     return command;
+}
+
+void AddRecord(CLI::App& command, Arguments& arguments)
+{
+    static constexpr int MaxLimit = std::numeric_limits<std::int32_t>::max();
+    command.add_option("RECORD", arguments.record, "Name of the record, as list shows it")
+        ->required()
+        ->type_name("NAME");
+    command.add_option("FILE", arguments.file, "File that holds the record; - or nothing for standard input")
+        ->type_name("");
+    command.add_option("-p,--protocol", arguments.protocol, "Its protocol: binary (default), compact or json")
+        ->type_name("PROTOCOL");
+    command.add_option("--max-bytes", arguments.limits.bytes, "The largest file that is read")
+        ->type_name("N")
+        ->capture_default_str()
+        ->check(CLI::Range(1, MaxLimit).description(""));
+    command.add_option("--max-elements", arguments.limits.elements, "The longest list, set or map that is read")
+        ->type_name("N")
+        ->capture_default_str()
+        ->check(CLI::Range(1, MaxLimit).description(""));
+}
+
+void AddJson(CLI::App& command, Arguments& arguments)
+{
+    command.add_flag("--json", arguments.json,
+                     "Print JSON; in its strings each byte is one character, U+0000 to U+00FF");
+}
+
+void AddColour(CLI::App& command, Arguments& arguments)
+{
+    command.add_option("--color", arguments.colour, "auto (default: on a terminal, without NO_COLOR), always or never")
+        ->type_name("WHEN")
+        ->check(CLI::IsMember({"auto", "always", "never"}).description(""));
+}
+
+void AddTarget(CLI::App& command, Arguments& arguments, char const* file, char const* protocol)
+{
+    command.add_option("--to", arguments.toProtocol, protocol)->type_name("PROTOCOL");
+    command.add_option("-o,--output", arguments.output, file)->type_name("FILE");
 }
 
 ExitStatus Run(int argc, char** argv)
 {
     CLI::App app("Reads, prints and converts the wire records of the video server's object model.", "talvo-wire");
-    app.footer("Exit status: 0 done, 1 a conversion failed, 2 wrong usage or a file that holds no such record.");
+    app.footer("Each command has a --help with examples.\n" + std::string(ExitStatuses));
     app.require_subcommand(1);
     Arguments arguments;
 
-    auto* const list = app.add_subcommand("list", "List all records, and which directions have a converter");
-    auto* const print = AddCommand(app, "print", "Read a record and print it", arguments);
+    auto* const list = AddCommand(app, "list", "List all records, and which directions have a converter",
+                                  "  talvo-wire list\n"
+                                  "  talvo-wire list --json");
+    AddJson(*list, arguments);
+
+    auto* const print = AddCommand(app, "print", "Read a record and print it",
+                                   "  talvo-wire print Clip clip-utf16-name.binary\n"
+                                   "  talvo-wire print Train --protocol compact --json < train.compact");
+    AddRecord(*print, arguments);
+    AddJson(*print, arguments);
+    AddColour(*print, arguments);
 
     auto* const convert =
-        AddCommand(app, "convert", "Convert a record to the domain and back, and print what changed", arguments);
-    convert->add_option("-o,--output", arguments.output, "File for the record that came back");
-    convert->add_option("--to", arguments.toProtocol, "Protocol of that file; the one of -p if not given");
+        AddCommand(app, "convert", "Convert a record to the domain and back, and print what changed",
+                   "  talvo-wire convert Clip clip-long-texts.binary\n"
+                   "  talvo-wire convert Train train.compact -p compact --to binary -o train-back.binary");
+    AddRecord(*convert, arguments);
+    AddTarget(*convert, arguments, "File for the record that came back",
+              "Protocol of that file; the one of -p if not given");
+    AddJson(*convert, arguments);
+    AddColour(*convert, arguments);
 
-    auto* const transcode = AddCommand(app, "transcode", "Write a record in another protocol", arguments);
-    transcode->get_option("--protocol")->required();
-    transcode->add_option("--to", arguments.toProtocol, "Protocol to write")->required();
-    transcode->add_option("-o,--output", arguments.output, "File to write; - for standard output")->required();
+    auto* const transcode =
+        AddCommand(app, "transcode", "Write a record in another protocol",
+                   "  talvo-wire transcode Clip clip-minimal.binary -p binary --to json -o -\n"
+                   "  talvo-wire transcode Train train.compact -p compact --to binary -o - | talvo-wire print Train");
+    AddRecord(*transcode, arguments);
+    AddTarget(*transcode, arguments, "File to write; - for standard output", "Protocol to write");
+    for (auto const* name : {"--protocol", "--to", "--output"}) transcode->get_option(name)->required();
 
     try
     {
@@ -70,13 +133,13 @@ ExitStatus Run(int argc, char** argv)
 
     auto status = ExitStatus::Done;
     if (*list)
-        List();
+        List(arguments.Printed());
     else if (*print)
-        Print(arguments.From());
+        Print(arguments.From(), arguments.Printed());
     else if (*convert)
     {
         if (arguments.output == "-") throw Failure("convert reports on standard output, so -o needs a file");
-        status = Convert(arguments.From(), arguments.To());
+        status = Convert(arguments.From(), arguments.To(), arguments.Printed());
     }
     else if (*transcode)
         Transcode(arguments.From(), arguments.To());

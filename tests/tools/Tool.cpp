@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <fstream>
 #include <sstream>
+#include <utility>
 
 #include <fcntl.h>
 #include <spawn.h>
@@ -12,7 +13,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-Outcome RunTool(std::vector<std::string> arguments, std::string const& input, std::string const& outputPath)
+Outcome Run(std::vector<std::string> command, std::string const& input, std::string const& outputPath)
 {
     auto const in = TemporaryPath("in");
     auto const out = outputPath.empty() ? TemporaryPath("out") : outputPath;
@@ -25,23 +26,34 @@ Outcome RunTool(std::vector<std::string> arguments, std::string const& input, st
     posix_spawn_file_actions_addopen(&files, STDOUT_FILENO, out.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
     posix_spawn_file_actions_addopen(&files, STDERR_FILENO, err.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
 
-    arguments.insert(arguments.begin(), TALVO_WIRE);
     std::vector<char*> argv;
-    for (auto& argument : arguments) argv.push_back(argument.data());
+    for (auto& argument : command) argv.push_back(argument.data());
     argv.push_back(nullptr);
 
     pid_t child = 0;
     int status = 0;
     rusage usage{};
-    int const error = posix_spawn(&child, TALVO_WIRE, &files, nullptr, argv.data(), environ);
+    int const error = posix_spawn(&child, argv[0], &files, nullptr, argv.data(), environ);
     posix_spawn_file_actions_destroy(&files);
     if (error != 0 || wait4(child, &status, 0, &usage) != child)
     {
-        ADD_FAILURE() << "talvo-wire does not start";
+        ADD_FAILURE() << command[0] << " does not start";
         return {-1, {}, {}, 0};
     }
     return {WIFSIGNALED(status) ? -WTERMSIG(status) : WEXITSTATUS(status),
             outputPath.empty() ? Read(out) : std::string(), Read(err), usage.ru_maxrss};
+}
+
+Outcome RunTool(std::vector<std::string> arguments, std::string const& input, std::string const& outputPath)
+{
+    arguments.insert(arguments.begin(), TALVO_WIRE);
+    return Run(std::move(arguments), input, outputPath);
+}
+
+Outcome RunShell(std::string const& line)
+{
+    static auto const path = std::filesystem::path(TALVO_WIRE).parent_path().string();
+    return Run({"/bin/bash", "-c", "set -o pipefail; PATH=" + path + ":$PATH; " + line});
 }
 
 std::string TemporaryPath(std::string const& name)

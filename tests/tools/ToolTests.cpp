@@ -1,19 +1,27 @@
 #include "tests/tools/Tool.h"
+#include "tools/Failure.h"
+#include "tools/FieldList.h"
+#include "tools/Protocols.h"
+#include "tools/RecordTypes.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 
+#include <filesystem>
 #include <fstream>
 #include <map>
 #include <random>
 #include <set>
 #include <sstream>
+#include <tuple>
 
 namespace
 {
 
 using testing::AllOf;
 using testing::AnyOf;
+using testing::Contains;
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -162,26 +170,217 @@ TEST(Tool, ConvertTellsWhatWasKeptChangedGoneAndAdded)
     auto const outcome =
         RunTool({"convert", "Clip", SamplePath("clip-long-texts.binary"), "-o", back, "--to", "compact"});
     EXPECT_EQ(outcome.status, 0);
-    for (auto const* line :
-         {R"(changed  name.data: "A name of more than twenty-four bytes" -> "A name of more than twen")",
-          R"(changed  keywords[0].data: "one" -> "one\x00\x00\x00\x00\x00\x00\x00\x00\x00")",
-          R"(changed  legacyTimecodeOffset: 4294967321 -> 25)", R"(gone     keywords[5].data: "six")",
-          R"(gone     userBits[9]: -1)", R"(added    sourceUmId: "        ")",
-          R"(values: 7 kept, 17 changed, 6 gone, 28 added)"})
+    for (
+        auto const* line :
+        {R"(path                  before                                    after                                     why)",
+         R"(name.data             "A name of more than twenty-four bytes"   "A name of more than twen"                cut to 24 bytes)",
+         R"(varId.data            "0123456789012345678901234567890123456789"  "01234567890123456789012345678901"        cut to 32 bytes)",
+         R"(keywords[0].data      "one"                                     "one\x00\x00\x00\x00\x00\x00\x00\x00\x00"  padded with zero bytes to 12 bytes)",
+         R"(legacyTimecodeOffset  4294967321                                25                                        cut to its low 32 bits)",
+         R"(userBits[9]           -1                                        -                                         list cut to 8 elements)",
+         R"(keywords[5].data      "six"                                     -                                         list cut to 5 elements)",
+         R"(sourceUmId            -                                         "        "                                not in the file)",
+         R"(values: 7 kept, 17 changed, 6 gone, 28 added)"})
         EXPECT_THAT(outcome.output, HasSubstr('\n' + std::string(line) + '\n'));
     EXPECT_THAT(outcome.output, Not(HasSubstr("name.isUtf16"))) << "it was kept";
 
     auto const again = RunTool({"convert", "Clip", back, "-p", "compact"});
-    EXPECT_THAT(again.output, EndsWith("\nvalues: 52 kept, 0 changed, 0 gone, 0 added\n"));
-
-    // A list that is empty on one side only counts as a value there.
-    auto const filled = RunTool({"convert", "Clip"}, "\x0b\0\x01\0\0\0\x01X\x0f\0\x08\x06\0\0\0\0\0"s);
-    EXPECT_THAT(filled.output, AllOf(HasSubstr("\ngone     userBits: []\n"), HasSubstr("\nadded    userBits[7]: 0\n")));
+    EXPECT_THAT(again.output, EndsWith("domain to wire: success\nvalues: 52 kept, 0 changed, 0 gone, 0 added\n"));
 
     // Nothing is written after a failure.
     auto const none = TemporaryPath("none");
     EXPECT_EQ(RunTool({"convert", "Clip", SamplePath("clip-rate-mismatch.binary"), "-o", none}).status, 1);
     EXPECT_FALSE(std::ifstream(none));
+}
+
+TEST(Tool, TellsWhyAValueChangedWhereTheTwoValuesShowIt)
+{
+    struct Row
+    {
+        std::string record;
+        std::string bytes;
+        std::string path;
+        std::string why;
+    };
+    Row const rows[] = {
+        {"Clip", Sample("clip-long-texts.binary"), "umId", "cut to 8 bytes"},
+        {"Clip", Sample("clip-long-texts.binary"), "userBits[0]", "cut to its low 8 bits"},
+        {"Clip", Sample("clip-drop-frame.binary"), "isLegacyTimecodeDrop", "changed"},
+        {"Clip", Sample("clip-unknown-numbers.binary"), "camera", "became 0"},
+        {"Clip", Sample("clip-unknown-numbers.binary"), "hdrProfile", "dropped"},
+        {"ClipDeletionFailedEventArgs", Sample("clip-deletion-failed.binary"), "clipCommand.userTicket",
+         "cut to its low 16 bits"},
+        {"ClipCreationFinishedEventArgs", Sample("clip-creation-finished.binary"), "networkType", "changed"},
+        {"ClipCommandReply", Sample("clip-command-reply.binary"), "results[2]", "no longer empty"},
+        {"ClipCommandReply", Sample("clip-command-reply.binary"), "results[2].operationStatus.result",
+         "not in the file"},
+        // A list that is empty on one side only counts as a value there.
+        {"Clip", "\x0b\0\x01\0\0\0\x01X\x0f\0\x08\x06\0\0\0\0\0"s, "userBits", "no longer empty"},
+        {"Clip", "\x0b\0\x01\0\0\0\x01X\x0f\0\x08\x06\0\0\0\0\0"s, "userBits[7]", "not in the file"},
+        {"LoadBoundary", Sample("load-boundary.binary"), "type", "changed"},
+        {"Train", Sample("train-bad-ranges.binary"), "recordingRanges[1].inBoundTimepoint", "became no time point"},
+        {"Train", Sample("train-bad-ranges.binary"), "recordingRanges[1].inBoundTimecode",
+         "became the empty time code"},
+        {"Train", Sample("train-bad-last-time-code.binary"), "lastKnownTimeCode", "emptied"},
+        // A map's keys are no places in a list.
+        {"Tag", Sample("tag-unknown-keys.binary"), "properties[18].dataType", "dropped"},
+        // An angle at a camera that is none: an angles group with the identifier "A", and at camera 0 the clip "B".
+        {"AnglesGroup",
+         "\x0c\0\1\x0b\0\1\0\0\0\1A\0\x0d\0\2\x08\x0c\0\0\0\1\0\0\0\0\x0c\0\1\x0b\0\1\0\0\0\1B\0\x08\0\2\0\0\0\0\0\0"s,
+         "angles", "emptied"},
+    };
+    for (auto const& [record, bytes, path, why] : rows)
+    {
+        auto const outcome = RunTool({"convert", record, "--json"}, bytes);
+        EXPECT_EQ(outcome.status, 0) << outcome.errors;
+        std::map<std::string, std::string> whys;
+        auto const parsed = nlohmann::json::parse(outcome.output);
+        for (auto const& change : parsed["changes"]) whys[change["path"]] = change["why"];
+        EXPECT_THAT(whys, Contains(std::pair(path, why)));
+    }
+}
+
+TEST(Tool, PrintsJsonForAllBytes)
+{
+    using nlohmann::json;
+    auto const parsed = [](Arguments const& arguments, std::string const& input = {})
+    { return json::parse(RunTool(arguments, input).output); };
+
+    auto const list = parsed({"list", "--json"});
+    EXPECT_EQ(list.size(), 113U);
+    EXPECT_THAT(list, Contains(json{{"name", "AnglesGroupCreationFailedEventArgs"},
+                                    {"namespace", "Notifier"},
+                                    {"toDomain", false},
+                                    {"toWire", true}}));
+
+    // Every byte in one text, and the same text in the key of a map.
+    std::string bytes, characters;
+    for (int byte = 0; byte < 256; ++byte)
+    {
+        bytes += static_cast<char>(byte);
+        characters += byte < 0x80
+                          ? std::string(1, static_cast<char>(byte))
+                          : std::string{static_cast<char>(0xC0 | byte >> 6), static_cast<char>(0x80 | (byte & 0x3F))};
+    }
+    auto const text = "\x0b\0\1\0\0\1\0"s + bytes + '\0';
+    EXPECT_EQ(parsed({"print", "Guid", "--json"}, text),
+              json({{"record", "Guid"}, {"values", {{{"path", "value"}, {"value", characters}}}}}));
+    auto const map =
+        parsed({"print", "ChainCommandParams", "--json"}, "\x0d\0\2\x0c\x0c\0\0\0\1"s + text + "\x0b\0\1\0\0\0\0\0\0"s);
+    EXPECT_THAT(map["values"][0]["path"], testing::StartsWith(R"(players["\x00\x01)"));
+
+    auto const values = parsed({"print", "Clip", "--json", SamplePath("clip-two-essences.binary")})["values"];
+    EXPECT_THAT(values, AllOf(Contains(json{{"path", "isDual"}, {"value", true}}),
+                              Contains(json{{"path", "outBoundField"}, {"value", 3000}})));
+    EXPECT_THAT(parsed({"print", "Clip", "--json", SamplePath("clip-nothing-counts.binary")})["values"],
+                Contains(json{{"path", "keywords"}, {"value", json::array()}}));
+
+    auto const cut = parsed({"convert", "Clip", "--json", SamplePath("clip-long-texts.binary")});
+    EXPECT_EQ(cut["values"], (json{{"kept", 7}, {"changed", 17}, {"gone", 6}, {"added", 28}}));
+    EXPECT_EQ(cut["toWire"], (json{{"success", true}, {"message", ""}}));
+    EXPECT_THAT(
+        cut["changes"],
+        AllOf(Contains(
+                  json{{"path", "userBits[9]"}, {"before", -1}, {"after", nullptr}, {"why", "list cut to 8 elements"}}),
+              Contains(json{
+                  {"path", "sourceUmId"}, {"before", nullptr}, {"after", "        "}, {"why", "not in the file"}})));
+    EXPECT_EQ(parsed({"convert", "Clip", "--json", SamplePath("clip-nothing-counts.binary")})["toDomain"],
+              (json{{"success", false}, {"message", "Clip is empty"}}));
+
+    // A clip whose inBoundTodTimecode is this one byte is not converted; the reason quotes it.
+    auto const hazard = RunTool({"convert", "Clip", "--json"}, "\x0b\0\x2a\0\0\0\1\xff\0"s);
+    EXPECT_EQ(hazard.status, 1);
+    auto const told = json::parse(hazard.output);
+    EXPECT_EQ(told["hazards"][0]["path"], "inBoundTodTimecode");
+    EXPECT_THAT(told["hazards"][0]["reason"].get<std::string>(), HasSubstr("'\u00ff'"));
+    EXPECT_EQ(told["toDomain"], nullptr);
+}
+
+TEST(Tool, ColoursATerminalOnly)
+{
+    auto const convert = "talvo-wire convert Clip " + SamplePath("clip-long-texts.binary") + ' ';
+    auto const onTerminal = [](std::string const& line) { return "script -qec '" + line + "' /dev/null < /dev/null"; };
+    std::pair<std::string, bool> const rows[] = {
+        {convert, false},
+        {convert + "--color never", false},
+        {convert + "--color always", true},
+        {convert + "--color always --json", false},
+        {"unset NO_COLOR; " + onTerminal(convert), true},
+        {onTerminal("NO_COLOR= " + convert), true},
+        {onTerminal("NO_COLOR=1 " + convert), false},
+        {onTerminal("NO_COLOR=1 " + convert + "--color always"), true},
+        {onTerminal(convert + "--color never"), false},
+        {onTerminal(convert + "--json"), false},
+        {onTerminal("talvo-wire list"), false},
+        {"talvo-wire print Guid --color always " + SamplePath("guid.binary"), true},
+    };
+    for (auto const& [line, coloured] : rows)
+    {
+        auto const outcome = RunShell(line);
+        EXPECT_EQ(outcome.status, 0) << line << outcome.errors;
+        EXPECT_GT(outcome.output.size(), 40U) << line;
+        EXPECT_EQ(outcome.output.find('\x1b') != std::string::npos, coloured) << line;
+    }
+}
+
+TEST(Tool, HelpEndsWithExamplesThatRunAsTheyStand)
+{
+    auto const folder = TemporaryPath("samples");
+    std::filesystem::copy(TALVO_SAMPLES, folder);
+    for (auto const* command : {"list", "print", "convert", "transcode"})
+    {
+        auto const help = RunTool({command, "--help"});
+        EXPECT_EQ(help.status, 0);
+        if (command != "list"s)
+        {
+            EXPECT_THAT(help.output, AllOf(HasSubstr("--max-bytes N=67108864"), HasSubstr("--max-elements N=100000")));
+        }
+        std::istringstream lines(help.output.substr(help.output.find("\nExamples") + 1));
+        std::string line;
+        std::getline(lines, line);
+        int count = 0;
+        for (; std::getline(lines, line); ++count)
+        {
+            EXPECT_THAT(line, testing::StartsWith("  talvo-wire "s + command));
+            auto const outcome = RunShell("cd " + folder + "; " + line);
+            EXPECT_EQ(outcome.status, 0) << line;
+            EXPECT_THAT(outcome.output, Not(IsEmpty())) << line;
+            EXPECT_THAT(outcome.errors, IsEmpty()) << line;
+        }
+        EXPECT_EQ(count, 2);
+    }
+}
+
+TEST(Tool, CompletesWordsInBash)
+{
+    // The words that were typed, the last one not to its end; the answer begins and ends with these.
+    std::tuple<std::string, std::string, std::string> const rows[] = {
+        {"''", "list", "--help"},
+        {"tr", "transcode", "transcode"},
+        {"print AsciiOr", "AsciiOrUtf16String", "AsciiOrUtf16String"},
+        {"print --json -p compact Trai", "Train", "Train"},
+        {"convert AsciiOr", "", ""}, // has no converters
+        {"convert Clip", "Clip", "ClipUpdateFinishedEventArgs"},
+        {"convert Clip -p ''", "binary", "json"},
+        {"transcode Clip --to c", "compact", "compact"},
+        {"print Clip --color al", "always", "always"},
+        {"transcode --", "--help", "--output"},
+        {"list -", "--help", "--json"},
+        {"print Clip ''", "", ""}, // bash completes a file name
+        {"convert Clip -o ''", "", ""},
+        {"list ''", "", ""},
+    };
+    for (auto const& [typed, first, last] : rows)
+    {
+        auto const outcome = RunShell("source " TALVO_COMPLETION "; COMP_WORDS=(talvo-wire " + typed +
+                                      "); COMP_CWORD=$((${#COMP_WORDS[@]} - 1)); _talvo_wire talvo-wire "
+                                      "\"${COMP_WORDS[-1]}\" \"${COMP_WORDS[-2]}\"; echo ${COMPREPLY[*]}");
+        EXPECT_THAT(outcome.output, AllOf(testing::StartsWith(first), EndsWith(last + '\n'))) << typed;
+        EXPECT_EQ(outcome.output.size() == 1, first.empty()) << typed;
+        EXPECT_THAT(outcome.errors, IsEmpty()) << typed;
+    }
+    EXPECT_EQ(RunShell("source " TALVO_COMPLETION "; complete -p talvo-wire").output,
+              "complete -o default -F _talvo_wire talvo-wire\n");
 }
 
 TEST(Tool, DoesNotConvertWhatWouldEndTheProcess)
@@ -194,6 +393,9 @@ TEST(Tool, DoesNotConvertWhatWouldEndTheProcess)
     auto const timeCode = RunTool({"convert", "Clip"}, "\x0b\0\x2a\0\0\0\4noon\0"s);
     EXPECT_EQ(timeCode.status, 1);
     EXPECT_THAT(timeCode.errors, OneLine("inBoundTodTimecode would end the process: TalvoTimeCodeParser the string"));
+
+    // What a terminal would obey is escaped.
+    EXPECT_THAT(RunTool({"convert", "Clip"}, "\x0b\0\x2a\0\0\0\4\n\x1b[m\0"s).errors, OneLine(R"('\x0a\x1b[m')"));
 }
 
 TEST(Tool, TranscodesThroughAllProtocolsAndTellsWhatJsonLoses)
@@ -242,6 +444,11 @@ TEST(Tool, RefusesWrongUsage)
         {{"print", "Gwid", sample}, "there is no record 'Gwid'"},
         {{"print", "guid", sample}, "there is no record 'guid'"},
         {{"print", "Guid", sample, "-p", "xml"}, "there is no protocol 'xml'"},
+        {{"print", "Guid", sample, "--color", "red"}, "--color: red not in {auto,always,never}"},
+        {{"print", "Guid", sample, "--max-bytes", "0"}, "--max-bytes: Value 0 not in range 1 to 2147483647"},
+        {{"print", "Guid", sample, "--max-bytes", "22"}, "more than the 22 bytes of --max-bytes"},
+        {{"print", "Playlist", SamplePath("playlist.binary"), "--max-elements", "1"}, "more than --max-elements"},
+        {{"transcode", "Guid", sample, "-p", "binary", "--to", "json", "-o", "-", "--json"}, "not expected"},
         {{"print", "Guid", SamplePath("none")}, "No such file"},
         {{"print", "Guid", TALVO_SAMPLES}, "can't read"},
         {{"convert", "AsciiOrUtf16String", sample}, "has no converters in both directions"},
@@ -271,10 +478,39 @@ TEST(Tool, RefusesWrongUsage)
 
 TEST(Tool, ReadsStandardInput)
 {
-    auto const expected = RunTool({"print", "Guid", SamplePath("guid.binary")}).output;
-    EXPECT_EQ(RunTool({"print", "Guid"}, Sample("guid.binary")).output, expected);
-    EXPECT_EQ(RunTool({"print", "Guid", "-"}, Sample("guid.binary")).output, expected);
-    ExpectRefused(RunTool({"print", "Guid", "-"}), "standard input: holds no Guid in the binary protocol: it is empty");
+    for (auto const& command : {Arguments{"print"}, Arguments{"convert"},
+                                Arguments{"transcode", "-p", "binary", "--to", "compact", "-o", "-"}})
+    {
+        auto const given = [&](Arguments const& file)
+        {
+            auto arguments = command;
+            arguments.insert(arguments.begin() + 1, "Guid");
+            arguments.insert(arguments.begin() + 2, file.begin(), file.end());
+            return arguments;
+        };
+        auto const expected = RunTool(given({SamplePath("guid.binary")})).output;
+        EXPECT_THAT(expected, Not(IsEmpty()));
+        EXPECT_EQ(RunTool(given({}), Sample("guid.binary")).output, expected);
+        EXPECT_EQ(RunTool(given({"-"}), Sample("guid.binary")).output, expected);
+        ExpectRefused(RunTool(given({"-"})), "standard input: holds no Guid in the binary protocol: it is empty");
+    }
+}
+
+/// Reads bytes as the tool does, in this process, which for thousands of inputs is quicker than one each: what is not
+/// refused in one line can be listed.
+void ReadOrRefuse(std::string const& record, std::string const& protocol, std::string const& bytes,
+                  bool const mustRefuse)
+{
+    using namespace Talvo::Tools;
+    try
+    {
+        ListFields(Decode(bytes, ParseProtocol(protocol), FindRecordType(record)));
+        EXPECT_FALSE(mustRefuse);
+    }
+    catch (Failure const& failure)
+    {
+        EXPECT_THAT(failure.what(), MatchesRegex("holds no " + record + " [^\n]+"));
+    }
 }
 
 TEST(Tool, RefusesRecordsThatAreCutOffOrFollowedByMore)
@@ -285,7 +521,9 @@ TEST(Tool, RefusesRecordsThatAreCutOffOrFollowedByMore)
         for (std::size_t size = 0; size < whole.size(); ++size)
         {
             SCOPED_TRACE(protocol + ' ' + std::to_string(size));
-            ExpectRefused(RunTool({"print", "RecordingRange", "-p", protocol}, whole.substr(0, size)));
+            auto const cut = whole.substr(0, size);
+            ReadOrRefuse("RecordingRange", protocol, cut, true);
+            if (size % 16 == 0) ExpectRefused(RunTool({"print", "RecordingRange", "-p", protocol}, cut));
         }
         ExpectRefused(RunTool({"print", "RecordingRange", "-p", protocol}, whole + "\0\n"s), "2 more bytes follow");
     }
@@ -295,12 +533,16 @@ TEST(Tool, NeverEndsByASignalOnGarbage)
 {
     std::mt19937 random(1);
     std::uniform_int_distribution byte(0, 255);
+    int count = 0;
     for (auto const& protocol : Protocols)
     {
         auto const expectEnded = [&](std::string const& record, std::string const& bytes)
         {
+            SCOPED_TRACE(protocol + ' ' + testing::PrintToString(bytes));
+            ReadOrRefuse(record, protocol, bytes, false);
+            if (++count % 16 != 0) return;
             auto const outcome = RunTool({"print", record, "-p", protocol}, bytes);
-            EXPECT_THAT(outcome.status, AnyOf(0, 2)) << protocol << ' ' << testing::PrintToString(bytes);
+            EXPECT_THAT(outcome.status, AnyOf(0, 2));
             if (outcome.status == 2)
             {
                 EXPECT_THAT(outcome.errors, OneLine("holds no " + record));

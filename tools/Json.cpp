@@ -1,0 +1,81 @@
+#include "tools/Json.h"
+
+#include <cstdint>
+#include <iostream>
+#include <type_traits>
+#include <variant>
+
+namespace Talvo::Tools
+{
+
+Json BytesToJson(std::string const& bytes)
+{
+    std::string utf8;
+    for (char const byte : bytes)
+    {
+        auto const character = static_cast<unsigned char>(byte);
+        if (character < 0x80U)
+            utf8 += byte;
+        else
+            utf8 += {static_cast<char>(0xC0U | character >> 6U), static_cast<char>(0x80U | (character & 0x3FU))};
+    }
+    return utf8;
+}
+
+Json ToJson(Value const& value)
+{
+    return std::visit(
+        []<typename T>(T const& held) -> Json
+        {
+            if constexpr (std::is_same_v<T, std::string>)
+                return BytesToJson(held);
+            else if constexpr (std::is_same_v<T, Empty>)
+                return held == Empty::List || held == Empty::Set ? Json::array() : Json::object();
+            else
+                return held;
+        },
+        value);
+}
+
+Json ToJson(std::optional<Value> const& value)
+{
+    return value ? ToJson(*value) : Json();
+}
+
+Json ToJson(FieldList const& list)
+{
+    auto json = Json::array();
+    for (auto const& field : list.fields) json.push_back({{"path", field.path}, {"value", ToJson(field.value)}});
+    return json;
+}
+
+Json ToJson(std::vector<FieldChange> const& changes)
+{
+    auto json = Json::array();
+    for (auto const& change : changes)
+        json.push_back({{"path", change.path},
+                        {"before", ToJson(change.before)},
+                        {"after", ToJson(change.after)},
+                        {"why", change.why}});
+    return json;
+}
+
+Json ToJson(Hazards const& hazards)
+{
+    auto json = Json::array();
+    for (auto const& hazard : hazards) json.push_back({{"path", hazard.path}, {"reason", BytesToJson(hazard.reason)}});
+    return json;
+}
+
+Json ToJson(std::optional<Common::Serialization::ConversionResult> const& result)
+{
+    if (!result) return {};
+    return {{"success", result->success}, {"message", BytesToJson(result->message)}};
+}
+
+void PrintJson(Json const& json)
+{
+    std::cout << json.dump(2, ' ', true) << '\n';
+}
+
+} // namespace Talvo::Tools
