@@ -26,6 +26,8 @@ install(DIRECTORY schema/ DESTINATION ${schemaFolder} FILES_MATCHING PATTERN "*.
 if(TARGET talvo-wire)
     set_target_properties(talvo-wire PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
     install(TARGETS talvo-wire COMPONENT tool)
+    install(FILES tools/talvo-wire.bash COMPONENT tool
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME talvo-wire)
 endif()
 
 install(EXPORT ${package} NAMESPACE Talvo:: DESTINATION ${packageFolder} FILE ${package}Targets.cmake)
