@@ -144,30 +144,27 @@ void PrintAsText(Journey const& journey, Style const& style)
 void PrintAsJson(RecordType const& type, Journey const& journey)
 {
     auto const& tally = journey.tally;
-    PrintJson(
+    PrintObject(
         {{"record", type.name},
          {"hazards", ToJson(journey.hazards)},
          {"toDomain", ToJson(journey.toDomain)},
          {"toWire", ToJson(journey.toWire)},
-         {"values", {{"kept", tally.kept}, {"changed", tally.changed}, {"gone", tally.gone}, {"added", tally.added}}},
-         {"changes", ToJson(journey.changes)}});
+         {"values", {{"kept", tally.kept}, {"changed", tally.changed}, {"gone", tally.gone}, {"added", tally.added}}}},
+        "changes", journey.changes);
 }
 
 } // namespace
 
 void List(Style const& style)
 {
-    auto json = Json::array();
-    for (auto const& type : RecordTypes())
+    if (style.json)
     {
-        if (style.json)
-            json.push_back(
-                {{"name", type.name}, {"namespace", type.group}, {"toDomain", type.toDomain}, {"toWire", type.toWire}});
-        else
-            std::cout << std::left << std::setw(42) << type.name << std::setw(11) << type.group << Directions(type)
-                      << '\n';
+        PrintArray(RecordTypes());
+        std::cout << '\n';
+        return;
     }
-    if (style.json) PrintJson(json);
+    for (auto const& type : RecordTypes())
+        std::cout << std::left << std::setw(42) << type.name << std::setw(11) << type.group << Directions(type) << '\n';
 }
 
 void Print(Source const& source, Style const& style)
@@ -176,7 +173,7 @@ void Print(Source const& source, Style const& style)
     auto const list = ListFields(LoadRecord(source, type));
     if (style.json)
     {
-        PrintJson({{"record", type.name}, {"values", ToJson(list)}});
+        PrintObject({{"record", type.name}}, "values", list.fields);
         return;
     }
     std::cout << Painted(std::string(type.name), Colour::Bold, style) << '\n';

@@ -1,7 +1,6 @@
 #include "tools/Json.h"
 
 #include <cstdint>
-#include <iostream>
 #include <type_traits>
 #include <variant>
 
@@ -42,22 +41,20 @@ Json ToJson(std::optional<Value> const& value)
     return value ? ToJson(*value) : Json();
 }
 
-Json ToJson(FieldList const& list)
+Json ToJson(Field const& field)
 {
-    auto json = Json::array();
-    for (auto const& field : list.fields) json.push_back({{"path", field.path}, {"value", ToJson(field.value)}});
-    return json;
+    return {{"path", field.path}, {"value", ToJson(field.value)}};
 }
 
-Json ToJson(std::vector<FieldChange> const& changes)
+Json ToJson(FieldChange const& change)
 {
-    auto json = Json::array();
-    for (auto const& change : changes)
-        json.push_back({{"path", change.path},
-                        {"before", ToJson(change.before)},
-                        {"after", ToJson(change.after)},
-                        {"why", change.why}});
-    return json;
+    return {
+        {"path", change.path}, {"before", ToJson(change.before)}, {"after", ToJson(change.after)}, {"why", change.why}};
+}
+
+Json ToJson(RecordType const& type)
+{
+    return {{"name", type.name}, {"namespace", type.group}, {"toDomain", type.toDomain}, {"toWire", type.toWire}};
 }
 
 Json ToJson(Hazards const& hazards)
@@ -73,9 +70,9 @@ Json ToJson(std::optional<Common::Serialization::ConversionResult> const& result
     return {{"success", result->success}, {"message", BytesToJson(result->message)}};
 }
 
-void PrintJson(Json const& json)
+std::string Text(Json const& json)
 {
-    std::cout << json.dump(2, ' ', true) << '\n';
+    return json.dump(-1, ' ', true);
 }
 
 } // namespace Talvo::Tools

@@ -6,6 +6,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <iostream>
 #include <optional>
 #include <string>
 #include <vector>
@@ -20,19 +21,50 @@ using Json = nlohmann::ordered_json;
 // U+0000 to U+00FF, so that decoding a string as Latin-1 gives the bytes back.
 Json BytesToJson(std::string const& bytes);
 
-/// Numbers and booleans as such; `[]` and `{}` for empty ones.
+/// Numbers and booleans as such; `[]` and `{}` for empty ones, null for none.
 Json ToJson(Value const& value);
 Json ToJson(std::optional<Value> const& value);
 
-/// Arrays of objects: `path` and `value`; `path`, `before`, `after` and `why`; `path` and `reason`.
-Json ToJson(FieldList const& list);
-Json ToJson(std::vector<FieldChange> const& changes);
+/// Objects: `path` and `value`; `path`, `before`, `after` and `why`; `name`, `namespace`, `toDomain` and `toWire`.
+Json ToJson(Field const& field);
+Json ToJson(FieldChange const& change);
+Json ToJson(RecordType const& type);
+
+/// An array of objects: `path` and `reason`.
 Json ToJson(Hazards const& hazards);
 
 /// `success` and `message`, or null.
 Json ToJson(std::optional<Common::Serialization::ConversionResult> const& result);
 
-/// Prints it, indented, in ASCII.
-void PrintJson(Json const& json);
+/// In ASCII, on one line.
+std::string Text(Json const& json);
+
+/// Prints an array, an element a line. It is never built as a whole: a record may have millions of values.
+template<typename T>
+void PrintArray(std::vector<T> const& elements)
+{
+    char const* separator = "[\n";
+    for (auto const& element : elements)
+    {
+        std::cout << separator << Text(ToJson(element));
+        separator = ",\n";
+    }
+    std::cout << (elements.empty() ? "[]" : "\n]");
+}
+
+/// Prints an object that ends with a member `name`, an array.
+template<typename T>
+void PrintObject(Json const& members, char const* name, std::vector<T> const& elements)
+{
+    char const* separator = "{";
+    for (auto const& [key, value] : members.items())
+    {
+        std::cout << separator << Text(key) << ": " << Text(value);
+        separator = ",\n";
+    }
+    std::cout << separator << Text(name) << ": ";
+    PrintArray(elements);
+    std::cout << "}\n";
+}
 
 } // namespace Talvo::Tools
