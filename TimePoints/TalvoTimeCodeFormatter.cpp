@@ -9,7 +9,9 @@ TalvoTimeCodeFormatter::~TalvoTimeCodeFormatter() = default;
 
 std::string TalvoTimeCodeFormatter::Format(TimeCode const& timeCode) const
 {
-    return std::string{TimeCodeText{timeCode}.View()};
+    std::string text;
+    WriteTimeCode(timeCode, text);
+    return text;
 }
 
 } // namespace Talvo::TimePoints

@@ -2,9 +2,13 @@
 
 #include "TimePoints/TimeCodeBreakdown.h"
 
+#include <array>
 #include <charconv>
+#include <chrono>
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <string_view>
 
 namespace Talvo::TimePoints
 {
@@ -24,65 +28,86 @@ constexpr auto Pairs = []
     return digits;
 }();
 
+void WritePair(char* out, unsigned number) noexcept
+{
+    std::memcpy(out, Pairs.data() + 2 * number, 2);
+}
+
+/// Writes a time code of which every piece is as wide as in the layout to its place, which costs half of what writing one
+/// piece after the other does. False for any other.
+bool WriteLayout(TimeCode const& timeCode, std::string& text)
+{
+    constexpr std::string_view layout = "YYYY-MM-DDThh:mm:ss:ff@rr";
+    constexpr std::string_view undated = "-1-0-1-0-1T";
+    constexpr std::chrono::sys_days origin{std::chrono::January / 1 / 1900};
+
+    auto const rate = timeCode.Rate().numerator;
+    if (timeCode.Sample() < 0 || rate < 10 || rate > 99) return false;
+    auto const [days, secondOfDay, frame] = SplitSample(timeCode);
+    if (days >= DaysSinceOrigin(10000, 1, 1)) return false;
+
+    text.resize(layout.size());
+    char* const out = text.data();
+    if (timeCode.Dated())
+    {
+        std::chrono::year_month_day const date{origin + std::chrono::days{days}};
+        auto const year = static_cast<unsigned>(int{date.year()});
+        WritePair(out, year / 100);
+        WritePair(out + 2, year % 100);
+        out[4] = '-';
+        WritePair(out + 5, unsigned{date.month()});
+        out[7] = '-';
+        WritePair(out + 8, unsigned{date.day()});
+        out[10] = 'T';
+    }
+    else
+        undated.copy(out, undated.size());
+    auto const second = static_cast<unsigned>(secondOfDay);
+    WritePair(out + 11, second / 3600);
+    out[13] = ':';
+    WritePair(out + 14, second / 60 % 60);
+    out[16] = ':';
+    WritePair(out + 17, second % 60);
+    out[19] = timeCode.DropFrame() ? ';' : ':';
+    WritePair(out + 20, static_cast<unsigned>(frame));
+    out[22] = '@';
+    WritePair(out + 23, static_cast<unsigned>(rate));
+    return true;
+}
+
 /// Appends to a buffer that is large enough for every time code.
 class Writer
 {
 public:
-    explicit Writer(std::array<char, 192>& buffer) noexcept
-        : next_(buffer.data())
-        , end_(buffer.data() + buffer.size())
-    {
-    }
-
     void Character(char character) noexcept { *next_++ = character; }
 
-    /// What an ordinary year and an ordinary rate need is written in pairs.
     void Number(std::int64_t number) noexcept
     {
-        if (number >= 10 && number < 100)
-            Pair(number);
-        else if (number >= 1000 && number < 10000)
-        {
-            Pair(number / 100);
-            Pair(number % 100);
-        }
-        else
-            next_ = std::to_chars(next_, end_, number).ptr;
+        next_ = std::to_chars(next_, buffer_.data() + buffer_.size(), number).ptr;
     }
 
     /// A number with a "0" in front if it is below 10, a negative one too.
     void Padded(std::int64_t number) noexcept
     {
-        if (number >= 0 && number < 100)
-            Pair(number);
-        else
-        {
-            if (number < 10) Character('0');
-            Number(number);
-        }
+        if (number < 10) Character('0');
+        Number(number);
     }
 
-    char const* Next() const noexcept { return next_; }
+    std::string_view Text() const noexcept { return {buffer_.data(), next_}; }
 
 private:
-    void Pair(std::int64_t number) noexcept
-    {
-        std::memcpy(next_, Pairs.data() + 2 * number, 2);
-        next_ += 2;
-    }
-
-    char* next_;
-    char* end_;
+    // Room for eight numbers of 64 bits, with their signs, the "0" in front, and the separators.
+    std::array<char, 192> buffer_;
+    char* next_ = buffer_.data();
 };
 
-} // namespace
-
-TimeCodeText::TimeCodeText(TimeCode const& timeCode) noexcept
+/// Writes one piece after the other, however wide they are. Apart, so that the ordinary time code is written by a small
+/// function.
+[[gnu::noinline]] void WriteAnyWidth(TimeCode const& timeCode, std::string& text)
 {
     TimeCodeBreakdown const pieces{timeCode};
     bool const dated = timeCode.Dated();
-
-    Writer writer{text_};
+    Writer writer;
     writer.Number(dated ? pieces.year : -1);
     writer.Character('-');
     writer.Padded(dated ? pieces.month : -1);
@@ -98,7 +123,14 @@ TimeCodeText::TimeCodeText(TimeCode const& timeCode) noexcept
     writer.Padded(pieces.frame);
     writer.Character('@');
     writer.Number(timeCode.Rate().numerator);
-    size_ = static_cast<std::size_t>(writer.Next() - text_.data());
+    text = writer.Text();
+}
+
+} // namespace
+
+void WriteTimeCode(TimeCode const& timeCode, std::string& text)
+{
+    if (!WriteLayout(timeCode, text)) WriteAnyWidth(timeCode, text);
 }
 
 } // namespace Talvo::TimePoints

@@ -4,9 +4,8 @@
 
 #include "TimePoints/TimeCode.h"
 
-#include <array>
-#include <cstddef>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace Talvo::TimePoints
@@ -19,20 +18,9 @@ inline constexpr char const* regexDatedtcNoDrop =
     R"(^([1-9]\d\d\d)-([0-1]\d)-([0-3]\d)T([0-2]\d):([0-5]\d):([0-5]\d)(:|;)(\d\d)@(\d+)$)";
 inline constexpr char const* regexTC = R"(^([0-2]\d):([0-5]\d):([0-5]\d)(:|;)(\d\d)@(\d+)$)";
 
-/// The text of one time code, as TalvoTimeCodeFormatter writes it.
-class TimeCodeText
-{
-public:
-    explicit TimeCodeText(TimeCode const& timeCode) noexcept;
-
-    std::string_view View() const noexcept { return {text_.data(), size_}; }
-    operator std::string_view() const noexcept { return View(); }
-
-private:
-    // Room for eight numbers of 64 bits, with their signs, the "0" in front, and the separators.
-    std::array<char, 192> text_;
-    std::size_t size_;
-};
+/// Replaces `text` by the text of a time code, as TalvoTimeCodeFormatter writes it. A `text` that has the room, as a used
+/// one has, costs no allocation.
+void WriteTimeCode(TimeCode const& timeCode, std::string& text);
 
 /// The time code of `text`, as TalvoTimeCodeParser reads it, or nothing for every bad text, a rate too large for an
 /// `int` included.

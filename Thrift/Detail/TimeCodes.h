@@ -10,10 +10,10 @@
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Detail
 {
 
-// Out: `= TimeCodeText(timeCode)` writes the text straight into the wire's string. In, where a bad text has to be
-// noticed: `ReadTimeCode(text)` gives nothing for it. Neither allocates.
+// Out: `WriteTimeCode(timeCode, text)` writes straight into the wire's string. In, where a bad text has to be noticed:
+// `ReadTimeCode(text)` gives nothing for it.
 using TimePoints::ReadTimeCode;
-using TimePoints::TimeCodeText;
+using TimePoints::WriteTimeCode;
 
 /// Unguarded in: for a bad text it throws, which ends the process at the end of a conversion.
 inline TimePoints::TimeCode ParseTimeCode(std::string const& text)

@@ -88,13 +88,15 @@ TEST(Allocations, OfATimeCodeAreTheResultOnly)
     TimePoints::TimeCode timeCode;
     EXPECT_EQ(Allocations([&] { timeCode = TimePoints::TalvoTimeCodeParser().Parse(text); }), 0);
     std::string const bad = "2024-02-30T23:58:57;28@30";
+    std::string used = "as long as any time code of ordinary width";
     EXPECT_EQ(Allocations(
                   [&]
                   {
                       TimePoints::TalvoTimeCodeParser const parser;
                       ASSERT_TRUE(parser.IsStringFormatValid(text) && parser.TryParse(text).first);
                       ASSERT_FALSE(parser.IsStringFormatValid(bad) || TimePoints::ReadTimeCode(bad));
-                      ASSERT_EQ(TimePoints::TimeCodeText(timeCode).View(), text);
+                      TimePoints::WriteTimeCode(timeCode, used);
+                      ASSERT_EQ(used, text);
                   }),
               0);
 

@@ -154,6 +154,12 @@ TEST(TimeCode, CountsAndBreaksDownEveryInput)
         {30, true, 1900, 1, 2, 0, 0, 0, 0, 2589408, "1900-01-02T00:00:00;00@30"},
         {60, true, 2261, 12, 31, 23, 59, 59, 59, 684732693887, "2261-12-31T23:59:59;59@60"},
         {120, false, 1900, 1, 1, 0, 0, 0, 119, 119, "1900-01-01T00:00:00:119@120"},
+        // The least and the most digits of an ordinary year and rate, and one more.
+        {9, false, 2000, 1, 1, 0, 0, 0, 8, 28401062408, "2000-01-01T00:00:00:08@9"},
+        {10, false, 9999, 12, 31, 23, 59, 59, 9, 2556112895999, "9999-12-31T23:59:59:09@10"},
+        {99, false, 9999, 12, 31, 23, 59, 59, 98, 25305517670399, "9999-12-31T23:59:59:98@99"},
+        {99, false, 10000, 1, 1, 0, 0, 0, 0, 25305517670400, "10000-01-01T00:00:00:00@99"},
+        {100, false, 2000, 1, 1, 0, 0, 0, 99, 315567360099, "2000-01-01T00:00:00:99@100"},
         // A year before the origin has no days, but its own February.
         {50, false, 1896, 3, 1, 0, 0, 0, 0, 259200000, "1900-03-02T00:00:00:00@50"},
         {30, true, 1900, 1, 1, -1, -1, -1, -1, -109721, "1900-01-01T0-1:0-1:0-1;0-1@30"},
@@ -194,6 +200,7 @@ TEST(TimeCode, EveryDayOfTheCalendar)
                 ASSERT_EQ(timeCode.Sample(), (days + 1) * 2589408 - 1);
                 TimeCodeBreakdown const pieces{timeCode};
                 ASSERT_TRUE(pieces.year == year && pieces.month == month && pieces.day == day) << Text(timeCode);
+                ASSERT_TRUE(year > 2261 || TalvoTimeCodeParser{}.Parse(Text(timeCode)) == timeCode) << Text(timeCode);
             }
     EXPECT_EQ(days, 2 * 146097);
 }

@@ -53,6 +53,9 @@ TEST(TimeCodeText, FormatsEveryKind)
     auto const undated = formatter.Format(builder.Build());
     EXPECT_EQ(undated, "-1-0-1-0-1T00:01:00;02@30");
     EXPECT_THROW(TalvoTimeCodeParser{}.Parse(undated), std::invalid_argument);
+    builder.numerator = 100;
+    builder.dropFrame = false;
+    EXPECT_EQ(formatter.Format(builder.Build()), "-1-0-1-0-1T00:01:00:02@100");
 }
 
 TEST(TimeCodeText, ReadsAsItsDefinitionSaysOnEveryEdge)

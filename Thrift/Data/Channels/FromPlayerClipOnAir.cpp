@@ -26,9 +26,9 @@ ConversionResult PlayerClipOnAirToThriftConverter::To(Corvane::Data::Channels::P
     if (IsPresent(source.curTimePointOnAir))
         TALVO_FLAGGED(destination, curTimePointOnAir) = source.curTimePointOnAir.position;
     if (IsPresent(source.todCurTimecodeOnAir))
-        TALVO_FLAGGED(destination, todCurTimecodeOnAir) = TimeCodeText(source.todCurTimecodeOnAir);
+        WriteTimeCode(source.todCurTimecodeOnAir, TALVO_FLAGGED(destination, todCurTimecodeOnAir));
     if (IsPresent(source.userCurTimecodeOnAir))
-        TALVO_FLAGGED(destination, userCurTimecodeOnAir) = TimeCodeText(source.userCurTimecodeOnAir);
+        WriteTimeCode(source.userCurTimecodeOnAir, TALVO_FLAGGED(destination, userCurTimecodeOnAir));
     return Success();
 }
 

@@ -78,21 +78,21 @@ ConversionResult PlayerStateToThriftConverter::To(Corvane::Data::Channels::Playe
     if (IsPresent(source.pgmOutTimePointOnAir))
         TALVO_FLAGGED(destination, pgmOutTimePointOnAir) = source.pgmOutTimePointOnAir.position;
     if (IsPresent(source.todPgmInTimecodeOnAir))
-        TALVO_FLAGGED(destination, todPgmInTimecodeOnAir) = TimeCodeText(source.todPgmInTimecodeOnAir);
+        WriteTimeCode(source.todPgmInTimecodeOnAir, TALVO_FLAGGED(destination, todPgmInTimecodeOnAir));
     if (IsPresent(source.todPgmShortInTimecodeOnAir))
-        TALVO_FLAGGED(destination, todPgmShortInTimecodeOnAir) = TimeCodeText(source.todPgmShortInTimecodeOnAir);
+        WriteTimeCode(source.todPgmShortInTimecodeOnAir, TALVO_FLAGGED(destination, todPgmShortInTimecodeOnAir));
     if (IsPresent(source.todPgmShortOutTimecodeOnAir))
-        TALVO_FLAGGED(destination, todPgmShortOutTimecodeOnAir) = TimeCodeText(source.todPgmShortOutTimecodeOnAir);
+        WriteTimeCode(source.todPgmShortOutTimecodeOnAir, TALVO_FLAGGED(destination, todPgmShortOutTimecodeOnAir));
     if (IsPresent(source.todPgmOutTimecodeOnAir))
-        TALVO_FLAGGED(destination, todPgmOutTimecodeOnAir) = TimeCodeText(source.todPgmOutTimecodeOnAir);
+        WriteTimeCode(source.todPgmOutTimecodeOnAir, TALVO_FLAGGED(destination, todPgmOutTimecodeOnAir));
     if (IsPresent(source.userPgmInTimecodeOnAir))
-        TALVO_FLAGGED(destination, userPgmInTimecodeOnAir) = TimeCodeText(source.userPgmInTimecodeOnAir);
+        WriteTimeCode(source.userPgmInTimecodeOnAir, TALVO_FLAGGED(destination, userPgmInTimecodeOnAir));
     if (IsPresent(source.userPgmShortInTimecodeOnAir))
-        TALVO_FLAGGED(destination, userPgmShortInTimecodeOnAir) = TimeCodeText(source.userPgmShortInTimecodeOnAir);
+        WriteTimeCode(source.userPgmShortInTimecodeOnAir, TALVO_FLAGGED(destination, userPgmShortInTimecodeOnAir));
     if (IsPresent(source.userPgmShortOutTimecodeOnAir))
-        TALVO_FLAGGED(destination, userPgmShortOutTimecodeOnAir) = TimeCodeText(source.userPgmShortOutTimecodeOnAir);
+        WriteTimeCode(source.userPgmShortOutTimecodeOnAir, TALVO_FLAGGED(destination, userPgmShortOutTimecodeOnAir));
     if (IsPresent(source.userPgmOutTimecodeOnAir))
-        TALVO_FLAGGED(destination, userPgmOutTimecodeOnAir) = TimeCodeText(source.userPgmOutTimecodeOnAir);
+        WriteTimeCode(source.userPgmOutTimecodeOnAir, TALVO_FLAGGED(destination, userPgmOutTimecodeOnAir));
     if (IsNonZero(source.globalLoopMode))
         TALVO_FLAGGED(destination, globalLoopMode) = ToGeneratedEnum(source.globalLoopMode);
     SendBoundary(source.inBoundary, TALVO_FLAGGED(destination, inBoundary));

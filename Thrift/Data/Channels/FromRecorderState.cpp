@@ -29,9 +29,9 @@ ConversionResult RecorderStateToThriftConverter::To(Corvane::Data::Channels::Rec
     if (IsPresent(source.firstTimePoint)) TALVO_FLAGGED(destination, firstTimePoint) = source.firstTimePoint.position;
     if (IsPresent(source.lastTimePoint)) TALVO_FLAGGED(destination, lastTimePoint) = source.lastTimePoint.position;
     if (IsPresent(source.lastTodTimecode))
-        TALVO_FLAGGED(destination, lastTodTimecode) = TimeCodeText(source.lastTodTimecode);
+        WriteTimeCode(source.lastTodTimecode, TALVO_FLAGGED(destination, lastTodTimecode));
     if (IsPresent(source.lastUserTimecode))
-        TALVO_FLAGGED(destination, lastUserTimecode) = TimeCodeText(source.lastUserTimecode);
+        WriteTimeCode(source.lastUserTimecode, TALVO_FLAGGED(destination, lastUserTimecode));
     if (IsNonZero(source.primaryTimecodeType))
         TALVO_FLAGGED(destination, primaryTimecodeType) =
             Clips::EnumConverter::ToGeneratedEnum(source.primaryTimecodeType);

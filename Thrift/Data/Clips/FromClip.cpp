@@ -89,9 +89,9 @@ ConversionResult ClipToThriftConverter::To(Corvane::Data::Clips::Clip const& sou
     TALVO_FLAGGED(destination, nbAudioVideoChannels) = source.nbAudioVideoChannels;
     TALVO_FLAGGED(destination, dolbyMonoSignal) = source.dolbyMonoSignal;
     if (IsPresent(source.InBoundTodTimecode()))
-        TALVO_FLAGGED(destination, inBoundTodTimecode) = TimeCodeText(source.InBoundTodTimecode());
+        WriteTimeCode(source.InBoundTodTimecode(), TALVO_FLAGGED(destination, inBoundTodTimecode));
     if (IsPresent(source.InBoundUserTimecode()))
-        TALVO_FLAGGED(destination, inBoundUserTimecode) = TimeCodeText(source.InBoundUserTimecode());
+        WriteTimeCode(source.InBoundUserTimecode(), TALVO_FLAGGED(destination, inBoundUserTimecode));
     if (IsPresent(source.inBoundTimepoint))
         TALVO_FLAGGED(destination, inBoundTimepoint) = source.inBoundTimepoint.position;
 

@@ -17,8 +17,8 @@ ConversionResult RecordingRangeToThriftConverter::To(Corvane::Data::Clips::Recor
     // Empty bounds travel too, unlike those of a clip.
     TALVO_FLAGGED(destination, inBoundTimepoint) = source.rangeInTimePoint.position;
     TALVO_FLAGGED(destination, outBoundTimepoint) = source.rangeOutTimePoint.position;
-    TALVO_FLAGGED(destination, inBoundTimecode) = TimeCodeText(source.rangeInTimecode);
-    TALVO_FLAGGED(destination, outBoundTimecode) = TimeCodeText(source.rangeOutTimecode);
+    WriteTimeCode(source.rangeInTimecode, TALVO_FLAGGED(destination, inBoundTimecode));
+    WriteTimeCode(source.rangeOutTimecode, TALVO_FLAGGED(destination, outBoundTimecode));
     return Success();
 }
 

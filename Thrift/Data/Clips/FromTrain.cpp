@@ -34,7 +34,7 @@ ConversionResult TrainToThriftConverter::To(Corvane::Data::Clips::Train const& s
     TALVO_FLAGGED(destination, isInMoving) = source.isInMoving;
     TALVO_FLAGGED(destination, isOutMoving) = source.isOutMoving;
     if (IsPresent(source.lastKnownTimeCode))
-        TALVO_FLAGGED(destination, lastKnownTimeCode) = TimeCodeText(source.lastKnownTimeCode);
+        WriteTimeCode(source.lastKnownTimeCode, TALVO_FLAGGED(destination, lastKnownTimeCode));
     return Success();
 }
 

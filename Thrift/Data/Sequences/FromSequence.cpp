@@ -27,7 +27,7 @@ ConversionResult SequenceToThriftConverter::To(Corvane::Data::Sequences::Sequenc
     SendSlot(source.varId, TALVO_FLAGGED(destination, varId));
     SendSlot(source.name, TALVO_FLAGGED(destination, name));
     TALVO_FLAGGED(destination, isTimeCodeRegen) = source.isTimeCodeRegen;
-    TALVO_FLAGGED(destination, timeCodeRegenReference) = TimeCodeText(source.timeCodeRegenReference);
+    WriteTimeCode(source.timeCodeRegenReference, TALVO_FLAGGED(destination, timeCodeRegenReference));
     TALVO_FLAGGED(destination, timeCodeRegenBase) = ToGeneratedEnum(source.timeCodeRegenBase);
     TALVO_FLAGGED(destination, timeCodeRegenSource) = ToGeneratedEnum(source.timeCodeRegenSource);
     TALVO_FLAGGED(destination, timeCodeRegenOutput) = ToGeneratedEnum(source.timeCodeRegenOutput);
