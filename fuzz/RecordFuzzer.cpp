@@ -18,6 +18,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <variant>
 #include <vector>
 
 namespace
@@ -58,9 +59,10 @@ bool GetsNewIdentifier(RecordType const& type)
 }
 
 /// Whether `value` is one of the numbers from 1 to `last`.
-bool IsKnown(std::string const& value, char const last)
+bool IsKnown(Value const& value, std::int32_t const last)
 {
-    return value.size() == 1 && '1' <= value[0] && value[0] <= last;
+    auto const* const number = std::get_if<std::int32_t>(&value);
+    return number != nullptr && 1 <= *number && *number <= last;
 }
 
 /// Whether a record holds what reaches the domain but not the record that comes back: texts of a fixed width end at their
@@ -73,17 +75,18 @@ bool LosesOnTheWayBack(WireRecord const& record, RecordType const& type)
         type.name == "RecordingRangesChangedEventArgs")
         return true;
 
-    auto const fields = ListFields(record);
+    auto const fields = ListFields(record).fields;
     auto const isLost = [&](Field const& field)
     {
-        if (field.path.ends_with("hdrProfile")) return !IsKnown(field.value, '5');
+        if (field.path.ends_with("hdrProfile")) return !IsKnown(field.value, 5);
         if (auto const essence = field.path.find("Essence."); essence != std::string::npos)
         {
             auto const status = field.path.substr(0, essence) + "Essence.recordingStatus";
             auto const found = std::ranges::find(fields, status, &Field::path);
-            return found == fields.end() || !IsKnown(found->value, '4');
+            return found == fields.end() || !IsKnown(found->value, 4);
         }
-        return !field.path.ends_with("uid.value") && field.value.find("\\x00") != std::string::npos;
+        auto const* const text = std::get_if<std::string>(&field.value);
+        return !field.path.ends_with("uid.value") && text != nullptr && text->find('\0') != std::string::npos;
     };
     return std::ranges::any_of(fields, isLost);
 }
