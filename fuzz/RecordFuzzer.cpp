@@ -10,6 +10,7 @@
 #include "tools/RecordTypes.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
@@ -65,15 +66,27 @@ bool IsKnown(Value const& value, std::int32_t const last)
     return number != nullptr && 1 <= *number && *number <= last;
 }
 
+/// What holds a state, a recording range or a sequence, whose pairs, time codes and rates travel back under conditions.
+constexpr std::array TravelUnderConditions{
+    std::string_view("PlayerState"),
+    std::string_view("RecorderState"),
+    std::string_view("Sequence"),
+    std::string_view("Playlist"),
+    std::string_view("GetChannelsCommandReply"),
+    std::string_view("CreatePlaylistsCommandParams"),
+    std::string_view("UpdatePlaylistsCommandParams"),
+    std::string_view("GetPlaylistsCommandReply"),
+    std::string_view("PlayerStateChangedEventArgs"),
+    std::string_view("RecorderStateChangedEventArgs"),
+    std::string_view("RecordingRangesChangedEventArgs"),
+};
+
 /// Whether a record holds what reaches the domain but not the record that comes back: texts of a fixed width end at their
-/// first NUL there, an HDR profile without a number stays away and reads as the default, so does an essence that was
-/// not recorded, a state event without a channel tells the first one, and no time code of a recording range travels as the
-/// origin.
+/// first NUL there, an HDR profile without a number stays away and reads as the default, and so does an essence that was
+/// not recorded.
 bool LosesOnTheWayBack(WireRecord const& record, RecordType const& type)
 {
-    if (type.name == "PlayerStateChangedEventArgs" || type.name == "RecorderStateChangedEventArgs" ||
-        type.name == "RecordingRangesChangedEventArgs")
-        return true;
+    if (std::ranges::find(TravelUnderConditions, type.name) != TravelUnderConditions.end()) return true;
 
     auto const fields = ListFields(record).fields;
     auto const isLost = [&](Field const& field)

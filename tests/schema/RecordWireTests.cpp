@@ -2,6 +2,7 @@
 #include "tests/schema/RecordFiller.h"
 
 #include "generated/Clip_types.h"
+#include "generated/GetClipsCommandReply_types.h"
 #include "generated/OperationStatus_types.h"
 #include "generated/Sequence_types.h"
 #include "generated/SetLoadBoundariesCommandParams_types.h"
@@ -91,6 +92,14 @@ T RoundTrip(T const& record, ProtocolKind const& protocol)
     T back;
     back.read(both.get());
     return back;
+}
+
+template<typename T>
+void Read(std::string const& bytes, ProtocolKind const& protocol, T& record)
+{
+    auto const buffer = std::make_shared<TMemoryBuffer>();
+    buffer->write(reinterpret_cast<std::uint8_t const*>(bytes.data()), static_cast<std::uint32_t>(bytes.size()));
+    record.read(protocol.over(buffer).get());
 }
 
 TEST(RecordWire, CarriesEveryRecordEmptyAndFull)
@@ -191,6 +200,30 @@ TEST(RecordWire, IsTheSameThroughAConcreteProtocol)
     Data::Clips::Generated::Clip back;
     back.read(&protocol);
     EXPECT_EQ(back, clip);
+}
+
+TEST(RecordWire, RefusesSizesThatNothingHolds)
+{
+    // Lengths as the wire can tell them, of a text of Guid and of the clips of a reply: 2 GiB less one, 2 GiB, 4 GiB less
+    // one. All are refused before memory is asked for, where a size has 32 bits too.
+    std::string const binaryText("\x0B\0\1", 3), binaryList("\x0F\0\3\x0C", 4);
+    std::string const compactText("\x18"), compactList("\x39\xFC");
+    struct Row
+    {
+        std::string binary;
+        std::string compact;
+    };
+    for (auto const& [binary, compact] :
+         {Row{"\x7F\xFF\xFF\xFF", "\xFF\xFF\xFF\xFF\x07"}, Row{std::string("\x80\0\0\0", 4), "\x80\x80\x80\x80\x08"},
+          Row{"\xFF\xFF\xFF\xFF", "\xFF\xFF\xFF\xFF\x0F"}})
+    {
+        Guid guid;
+        Commands::Generated::GetClipsCommandReply reply;
+        EXPECT_THROW(Read(binaryText + binary, Protocols[0], guid), apache::thrift::TException);
+        EXPECT_THROW(Read(binaryList + binary, Protocols[0], reply), apache::thrift::TException);
+        EXPECT_THROW(Read(compactText + compact, Protocols[1], guid), apache::thrift::TException);
+        EXPECT_THROW(Read(compactList + compact, Protocols[1], reply), apache::thrift::TException);
+    }
 }
 
 TEST(RecordWire, LosesNulBytesInTheLibrarysJson)
