@@ -85,7 +85,7 @@ RoundTrip ThroughDomain(WireRecord const& source)
     if (!trip.toDomain.success) return trip;
 
     auto back = std::make_unique<WireRecordOf<TWire>>();
-    trip.toWire = TToWire().To(domain, back->record);
+    trip.toWire = TToWire().To(std::move(domain), back->record);
     if (trip.toWire->success) trip.record = std::move(back);
     return trip;
 }
@@ -94,12 +94,12 @@ RoundTrip ThroughDomain(WireRecord const& source)
 template<typename TWire, typename TToDomain, typename TDomain, TDomain (*newDomain)(TWire const&)>
 bool SameDomain(WireRecord const& left, WireRecord const& right)
 {
-    auto const& leftWire = static_cast<WireRecordOf<TWire> const&>(left).record;
-    auto const& rightWire = static_cast<WireRecordOf<TWire> const&>(right).record;
+    auto leftWire = static_cast<WireRecordOf<TWire> const&>(left).record;
+    auto rightWire = static_cast<WireRecordOf<TWire> const&>(right).record;
     TDomain leftDomain = newDomain(leftWire);
     TDomain rightDomain = newDomain(rightWire);
-    return TToDomain().To(leftWire, leftDomain).success && TToDomain().To(rightWire, rightDomain).success &&
-           leftDomain == rightDomain;
+    return TToDomain().To(std::move(leftWire), leftDomain).success &&
+           TToDomain().To(std::move(rightWire), rightDomain).success && leftDomain == rightDomain;
 }
 
 /// The registry's line for one record: `Record<Wire>("Wire")` for a record without converters,

@@ -42,13 +42,14 @@ std::vector<Input> Inputs()
     return inputs;
 }
 
-/// What became of the input: both messages and the bytes that came back.
+/// What became of the input: the message of a failure, or the bytes that came back and whether they mean the same.
 std::string Result(Input const& input)
 {
     if (auto const hazards = input.type->findHazards(*input.record); !hazards.empty()) return hazards.front().reason;
     auto const trip = input.type->throughDomain(*input.record);
     if (trip.record == nullptr) return std::string(trip.toWire ? trip.toWire->message : trip.toDomain.message);
-    return "came back as " + Encode(*trip.record, Protocol::Binary);
+    auto const same = input.type->sameDomain == nullptr || input.type->sameDomain(*input.record, *trip.record);
+    return (same ? "came back as " : "came back changed as ") + Encode(*trip.record, Protocol::Binary);
 }
 
 /// The results from `first` on and then of those before, in the order of the inputs.
