@@ -105,7 +105,7 @@ namespace Talvo::Tools
 {
 
 /// Stands for any argument of an event: 0, no, or nothing in it.
-struct Empty
+struct AnyNew
 {
     template<typename T>
     requires std::is_default_constructible_v<T>
@@ -126,7 +126,7 @@ TEvent NewEvent(TWire const& wire)
     if constexpr (std::is_constructible_v<TEvent, TArguments...>)
         return TEvent(TArguments()...);
     else
-        return NewEvent<TWire, TEvent, TArguments..., Empty>(wire);
+        return NewEvent<TWire, TEvent, TArguments..., AnyNew>(wire);
 }
 
 template<typename TWire, typename TToWire, typename TToDomain, typename TEvent>
