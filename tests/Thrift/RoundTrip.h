@@ -1,11 +1,13 @@
 #pragma once
 
+#include "Common/Serialization/Converter.h"
 #include "tests/Thrift/WireBytes.h"
 
 #include <gtest/gtest.h>
 
 #include <sstream>
 #include <string>
+#include <type_traits>
 #include <utility>
 
 namespace Talvo::Tests
@@ -20,16 +22,53 @@ std::string Printed(TWire const& wire)
     return out.str();
 }
 
+/// Converts, and gives the text of the failure: nothing for a success.
+template<typename TConverter>
+std::string Told(auto const& source, auto& destination)
+{
+    auto const result = TConverter().To(source, destination);
+    EXPECT_EQ(result.success, result.message.empty());
+    return result.message;
+}
+
+template<typename TSource, typename TDestination>
+std::type_identity<TSource> SourceOf(Common::Serialization::Converter<TSource, TDestination> const&);
+
+/// The two converters of a record, and what they do to its values.
+template<typename TToWire, typename TToDomain>
+struct Converters
+{
+    using ToWire = TToWire;
+    using ToDomain = TToDomain;
+    using Domain = typename decltype(SourceOf(std::declval<TToWire>()))::type;
+    using Wire = typename decltype(SourceOf(std::declval<TToDomain>()))::type;
+
+    static Wire Sent(Domain const& value, Wire wire = {})
+    {
+        EXPECT_EQ(Tests::Told<TToWire>(value, wire), "");
+        return wire;
+    }
+
+    static Domain Received(Wire const& wire, Domain domain = Domain())
+    {
+        EXPECT_EQ(Told(wire, domain), "");
+        return domain;
+    }
+
+    static std::string Told(Wire const& wire, Domain& domain) { return Tests::Told<TToDomain>(wire, domain); }
+};
+
 /// Holds one pair of converters to what every pair owes: a value comes back equal from the wire record, from the bytes of
 /// each protocol; an rvalue source does the same and stays intact; GetLastConversionError() is always empty. `fresh` is
 /// the destination that reading starts from.
-template<typename TToWire, typename TToDomain, typename TWire, typename TDomain>
-void ExpectRoundTrip(TDomain const& value, TDomain const& fresh = TDomain())
+template<typename TConverters, typename TDomain = typename TConverters::Domain>
+void ExpectRoundTrip(std::type_identity_t<TDomain> const& value, std::type_identity_t<TDomain> const& fresh = TDomain())
 {
-    TToWire const toWire;
-    TToDomain const toDomain;
+    using Wire = typename TConverters::Wire;
+    typename TConverters::ToWire const toWire;
+    typename TConverters::ToDomain const toDomain;
 
-    TWire wire;
+    Wire wire;
     ASSERT_TRUE(toWire.To(value, wire).success);
     TDomain direct = fresh;
     ASSERT_TRUE(toDomain.To(wire, direct).success);
@@ -37,7 +76,7 @@ void ExpectRoundTrip(TDomain const& value, TDomain const& fresh = TDomain())
 
     for (auto const& protocol : Protocols())
     {
-        auto const received = Read<TWire>(Written(wire, *protocol), *protocol);
+        auto const received = Read<Wire>(Written(wire, *protocol), *protocol);
         EXPECT_EQ(received, wire);
         TDomain domain = fresh;
         ASSERT_TRUE(toDomain.To(received, domain).success);
@@ -45,7 +84,7 @@ void ExpectRoundTrip(TDomain const& value, TDomain const& fresh = TDomain())
     }
 
     TDomain source = value;
-    TWire again;
+    Wire again;
     EXPECT_TRUE(toWire.To(std::move(source), again).success);
     EXPECT_EQ(source, value);
     EXPECT_EQ(again, wire);
@@ -59,13 +98,13 @@ void ExpectRoundTrip(TDomain const& value, TDomain const& fresh = TDomain())
 
 /// For records without required fields whose reader patches the destination: a value also comes back from its wire fields
 /// applied one after the other, so no field goes by another one's flag.
-template<typename TToWire, typename TToDomain, typename TWire, typename TDomain>
-void ExpectFieldByField(TDomain const& value, TDomain const& fresh = TDomain())
+template<typename TConverters, typename TDomain = typename TConverters::Domain>
+void ExpectFieldByField(std::type_identity_t<TDomain> const& value,
+                        std::type_identity_t<TDomain> const& fresh = TDomain())
 {
-    TWire wire;
-    ASSERT_TRUE(TToWire().To(value, wire).success);
     TDomain assembled = fresh;
-    for (auto const& field : FieldByField(wire)) EXPECT_TRUE(TToDomain().To(Read<TWire>(field), assembled).success);
+    for (auto const& field : FieldByField(TConverters::Sent(value)))
+        EXPECT_EQ(TConverters::Told(Read<typename TConverters::Wire>(field), assembled), "");
     EXPECT_EQ(assembled, value);
 }
 

@@ -25,8 +25,7 @@ using Corvane::Data::OperationStatus;
 using Status = OperationStatus::Status;
 using ChannelGuid = Corvane::Data::Channels::Guid;
 
-using Reply = Converters<ChannelCommandReply, Generated::ChannelCommandReply, ChannelCommandReplyToThriftConverter,
-                         ThriftToChannelCommandReplyConverter>;
+using Reply = Converters<ChannelCommandReplyToThriftConverter, ThriftToChannelCommandReplyConverter>;
 
 ChannelGuid Channel(char const name)
 {
@@ -85,14 +84,14 @@ TEST(ChannelCommandReplyConversion, RoundTrip)
     reply.results[0] = {Channel('b'), {Status::Failed, OperationResult::UsedResource}};
     reply.results[1] = {Channel('a'), {Status::Succeeded, OperationResult::Success}};
     reply.resultCount = 2;
-    ExpectRoundTrip<Reply::ToWire, Reply::ToDomain, Reply::Wire>(reply, Holding("x1y2z3"));
+    ExpectRoundTrip<Reply>(reply, Holding("x1y2z3"));
     auto const wire = Reply::Sent(reply);
     EXPECT_TRUE(wire.__isset.guid && wire.__isset.channelResults);
     EXPECT_TRUE(wire.channelResults[0].__isset.guid && wire.channelResults[0].__isset.status);
     EXPECT_EQ(Reply::Sent(reply, wire).channelResults.size(), 4u);
 
     auto twelve = Holding("a1b1c1d1e1f1g1h1i1j1k1l1");
-    ExpectRoundTrip<Reply::ToWire, Reply::ToDomain, Reply::Wire>(twelve, ChannelCommandReply(Id('h')));
+    ExpectRoundTrip<Reply>(twelve, ChannelCommandReply(Id('h')));
 
     // Never fewer than one result is sent and never more than there are slots, whatever the count says.
     EXPECT_EQ(Reply::Received(Reply::Sent(ChannelCommandReply(Id('c'))), reply), ChannelCommandReply(Id('c')));

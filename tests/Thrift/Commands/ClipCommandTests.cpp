@@ -58,27 +58,18 @@ using WireStatusOf = Corvane::Data::Generated::OperationStatusStatus;
 
 namespace Clips = Corvane::Data::Clips;
 
-using CreateClips = Converters<CreateClipsCommandParams, Generated::CreateClipsCommandParams,
-                               CreateClipsCommandParamsToThriftConverter, ThriftToCreateClipsCommandParamsConverter>;
-using UpdateClips = Converters<UpdateClipsCommandParams, Generated::UpdateClipsCommandParams,
-                               UpdateClipsCommandParamsToThriftConverter, ThriftToUpdateClipsCommandParamsConverter>;
-using DeleteClips = Converters<DeleteClipsCommandParams, Generated::DeleteClipsCommandParams,
-                               DeleteClipsCommandParamsToThriftConverter, ThriftToDeleteClipsCommandParamsConverter>;
+using CreateClips = Converters<CreateClipsCommandParamsToThriftConverter, ThriftToCreateClipsCommandParamsConverter>;
+using UpdateClips = Converters<UpdateClipsCommandParamsToThriftConverter, ThriftToUpdateClipsCommandParamsConverter>;
+using DeleteClips = Converters<DeleteClipsCommandParamsToThriftConverter, ThriftToDeleteClipsCommandParamsConverter>;
 using CreateGroup =
-    Converters<CreateAnglesGroupCommandParams, Generated::CreateAnglesGroupCommandParams,
-               CreateAnglesGroupCommandParamsToThriftConverter, ThriftToCreateAnglesGroupCommandParamsConverter>;
+    Converters<CreateAnglesGroupCommandParamsToThriftConverter, ThriftToCreateAnglesGroupCommandParamsConverter>;
 using UpdateGroup =
-    Converters<UpdateAnglesGroupCommandParams, Generated::UpdateAnglesGroupCommandParams,
-               UpdateAnglesGroupCommandParamsToThriftConverter, ThriftToUpdateAnglesGroupCommandParamsConverter>;
+    Converters<UpdateAnglesGroupCommandParamsToThriftConverter, ThriftToUpdateAnglesGroupCommandParamsConverter>;
 using DeleteGroup =
-    Converters<DeleteAnglesGroupCommandParams, Generated::DeleteAnglesGroupCommandParams,
-               DeleteAnglesGroupCommandParamsToThriftConverter, ThriftToDeleteAnglesGroupCommandParamsConverter>;
-using Item = Converters<ClipResultsItem, Generated::ClipResultsItem, ClipResultsItemToThriftConverter,
-                        ThriftToClipResultsItemConverter>;
-using Reply = Converters<ClipCommandReply, Generated::ClipCommandReply, ClipCommandReplyToThriftConverter,
-                         ThriftToClipCommandReplyConverter>;
-using GroupReply = Converters<AnglesGroupCommandReply, Generated::AnglesGroupCommandReply,
-                              AnglesGroupCommandReplyToThriftConverter, ThriftToAnglesGroupCommandReplyConverter>;
+    Converters<DeleteAnglesGroupCommandParamsToThriftConverter, ThriftToDeleteAnglesGroupCommandParamsConverter>;
+using Item = Converters<ClipResultsItemToThriftConverter, ThriftToClipResultsItemConverter>;
+using Reply = Converters<ClipCommandReplyToThriftConverter, ThriftToClipCommandReplyConverter>;
+using GroupReply = Converters<AnglesGroupCommandReplyToThriftConverter, ThriftToAnglesGroupCommandReplyConverter>;
 
 auto const HasClips = [](auto const& wire) { return bool(wire.__isset.clips); };
 
@@ -164,7 +155,7 @@ TEST(AnglesGroupParamsConversion, AngleWithoutFlagStaysAsItWas)
     full.primaryAngle = onlyPrimary.primaryAngle = Id<Clips::Guid>('p');
     full.secondaryAngle = Id<Clips::Guid>('s');
     ExpectParams<UpdateGroup>(full, taken, full);
-    ExpectRoundTrip<UpdateGroup::ToWire, UpdateGroup::ToDomain, UpdateGroup::Wire>(onlyPrimary);
+    ExpectRoundTrip<UpdateGroup>(onlyPrimary);
     EXPECT_EQ(Printed(UpdateGroup::Sent(onlyPrimary)),
               "UpdateAnglesGroupCommandParams(commandGuid=Guid(value=cccccccccccccccc), "
               "groupGuid=Guid(value=gggggggggggggggg), primaryAngle=Guid(value=pppppppppppppppp), "

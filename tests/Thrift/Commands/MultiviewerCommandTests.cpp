@@ -23,13 +23,12 @@ using namespace Corvane::Zelmar::HighLevelOperations::Commands;
 using namespace Corvane::Zelmar::Serialization::Thrift::Commands;
 using Corvane::Data::OperationResult;
 using Corvane::Data::OperationStatus;
+using PlayerGuid = Corvane::Data::Channels::Guid;
 
 using Get =
-    Converters<GetMultiviewerDataCommandReply, Generated::GetMultiviewerDataCommandReply,
-               GetMultiviewerDataCommandReplyToThriftConverter, ThriftToGetMultiviewerDataCommandReplyConverter>;
+    Converters<GetMultiviewerDataCommandReplyToThriftConverter, ThriftToGetMultiviewerDataCommandReplyConverter>;
 using Set =
-    Converters<SetMultiviewerDataCommandParams, Generated::SetMultiviewerDataCommandParams,
-               SetMultiviewerDataCommandParamsToThriftConverter, ThriftToSetMultiviewerDataCommandParamsConverter>;
+    Converters<SetMultiviewerDataCommandParamsToThriftConverter, ThriftToSetMultiviewerDataCommandParamsConverter>;
 
 /// Entries of the players a and b, each filed under its player.
 template<typename TDomain>
@@ -37,7 +36,7 @@ TDomain Full()
 {
     TDomain full;
     full.commandGuid = Id('c');
-    full.playersDataOverrides = {{PlayerGuid('a'), FullOverrides('a')}, {PlayerGuid('b'), NoOverrides('b')}};
+    full.playersDataOverrides = {{Id<PlayerGuid>('a'), FullOverrides('a')}, {Id<PlayerGuid>('b'), NoOverrides('b')}};
     return full;
 }
 
@@ -58,10 +57,10 @@ void AddKeysOfPlayerA(auto& wireMap)
 
 TEST(GetMultiviewerDataReplyConversion, RoundTripReplacesTheReply)
 {
-    ExpectRoundTrip<Get::ToWire, Get::ToDomain, Get::Wire>(FullReply());
+    ExpectRoundTrip<Get>(FullReply());
     GetMultiviewerDataCommandReply empty;
     empty.commandGuid = Id('c');
-    ExpectRoundTrip<Get::ToWire, Get::ToDomain, Get::Wire>(empty, FullReply());
+    ExpectRoundTrip<Get>(empty, FullReply());
     EXPECT_EQ(Get::Received({}, FullReply()),
               GetMultiviewerDataCommandReply()); // a status without content is a new one
 }
@@ -70,7 +69,7 @@ TEST(GetMultiviewerDataReplyConversion, EqualKeyKeepsItsEntry)
 {
     auto wire = Get::Sent(FullReply());
     auto other = FullReply();
-    other.playersDataOverrides[PlayerGuid('a')] = NoOverrides('a');
+    other.playersDataOverrides[Id<PlayerGuid>('a')] = NoOverrides('a');
     EXPECT_EQ(Get::Sent(other, wire).playersDataOverrides, wire.playersDataOverrides);
     AddKeysOfPlayerA(wire.playersDataOverrides);
     EXPECT_EQ(Get::Received(wire), FullReply());
@@ -108,7 +107,7 @@ TEST(SetMultiviewerDataConversion, EqualKeyIsReplacedGoingOutAndKeptComingIn)
 {
     auto const full = Full<SetMultiviewerDataCommandParams>();
     auto other = full;
-    other.playersDataOverrides[PlayerGuid('a')] = NoOverrides('a');
+    other.playersDataOverrides[Id<PlayerGuid>('a')] = NoOverrides('a');
     auto wire = Set::Sent(full, Set::Sent(other));
     EXPECT_EQ(wire, Set::Sent(full));
     AddKeysOfPlayerA(wire.playersDataOverrides);

@@ -52,23 +52,20 @@ using namespace Corvane::Zelmar::HighLevelOperations::Commands;
 using namespace Corvane::Zelmar::Serialization::Thrift::Commands;
 using Corvane::Data::Guid;
 
-using SuccessConverters =
-    Converters<SuccessReply, Generated::SuccessReply, SuccessReplyToThriftConverter, ThriftToSuccessReplyConverter>;
-using FailureConverters =
-    Converters<FailureReply, Generated::FailureReply, FailureReplyToThriftConverter, ThriftToFailureReplyConverter>;
-using UnknownConverters = Converters<UnknownCommandReply, Generated::UnknownCommandReply,
-                                     UnknownCommandReplyToThriftConverter, ThriftToUnknownCommandReplyConverter>;
+using SuccessConverters = Converters<SuccessReplyToThriftConverter, ThriftToSuccessReplyConverter>;
+using FailureConverters = Converters<FailureReplyToThriftConverter, ThriftToFailureReplyConverter>;
+using UnknownConverters = Converters<UnknownCommandReplyToThriftConverter, ThriftToUnknownCommandReplyConverter>;
 
-template<typename TDomain, typename TWire, typename TToWire, typename TToDomain>
+template<typename TToWire, typename TToDomain>
 void ExpectIdentifierOnly()
 {
-    using Pair = Converters<TDomain, TWire, TToWire, TToDomain>;
-    TDomain params;
+    using Pair = Converters<TToWire, TToDomain>;
+    typename Pair::Domain params;
     params.commandGuid = Id('c');
     ExpectParams<Pair>(params, params);
 
     // Of a wrong number of bytes the first sixteen count, and what is missing is zero.
-    TWire wire;
+    typename Pair::Wire wire;
     for (auto const size : {0u, 15u, 17u, 1'000'000u})
     {
         std::string bytes(size, 'x');
@@ -83,19 +80,13 @@ void ExpectIdentifierOnly()
 
 TEST(IdentifierOnlyConversion, RoundTripAndBadIdentifiers)
 {
-    ExpectIdentifierOnly<PingCommandParams, Generated::PingCommandParams, PingCommandParamsToThriftConverter,
-                         ThriftToPingCommandParamsConverter>();
-    ExpectIdentifierOnly<GetClipsCommandParams, Generated::GetClipsCommandParams,
-                         GetClipsCommandParamsToThriftConverter, ThriftToGetClipsCommandParamsConverter>();
-    ExpectIdentifierOnly<GetAnglesGroupsCommandParams, Generated::GetAnglesGroupsCommandParams,
-                         GetAnglesGroupsCommandParamsToThriftConverter,
+    ExpectIdentifierOnly<PingCommandParamsToThriftConverter, ThriftToPingCommandParamsConverter>();
+    ExpectIdentifierOnly<GetClipsCommandParamsToThriftConverter, ThriftToGetClipsCommandParamsConverter>();
+    ExpectIdentifierOnly<GetAnglesGroupsCommandParamsToThriftConverter,
                          ThriftToGetAnglesGroupsCommandParamsConverter>();
-    ExpectIdentifierOnly<GetTrainsCommandParams, Generated::GetTrainsCommandParams,
-                         GetTrainsCommandParamsToThriftConverter, ThriftToGetTrainsCommandParamsConverter>();
-    ExpectIdentifierOnly<GetChannelsCommandParams, Generated::GetChannelsCommandParams,
-                         GetChannelsCommandParamsToThriftConverter, ThriftToGetChannelsCommandParamsConverter>();
-    ExpectIdentifierOnly<GetMultiviewerDataCommandParams, Generated::GetMultiviewerDataCommandParams,
-                         GetMultiviewerDataCommandParamsToThriftConverter,
+    ExpectIdentifierOnly<GetTrainsCommandParamsToThriftConverter, ThriftToGetTrainsCommandParamsConverter>();
+    ExpectIdentifierOnly<GetChannelsCommandParamsToThriftConverter, ThriftToGetChannelsCommandParamsConverter>();
+    ExpectIdentifierOnly<GetMultiviewerDataCommandParamsToThriftConverter,
                          ThriftToGetMultiviewerDataCommandParamsConverter>();
 }
 
@@ -103,7 +94,7 @@ TEST(SuccessReplyConversion, NeedsItsIdentifier)
 {
     SuccessReply reply;
     reply.commandGuid = Id('c');
-    ExpectRoundTrip<SuccessReplyToThriftConverter, ThriftToSuccessReplyConverter, Generated::SuccessReply>(reply);
+    ExpectRoundTrip<SuccessConverters>(reply);
 
     auto wire = SuccessConverters::Sent(SuccessReply());
     EXPECT_TRUE(wire.__isset.guid);
@@ -116,8 +107,7 @@ TEST(FailureReplyConversion, IdentifierStartsTheReplyAnewAndATextAloneIsPutIntoI
 {
     FailureReply const held(Id('h'), "held");
     for (auto const* const error : {"An error", ""})
-        ExpectRoundTrip<FailureReplyToThriftConverter, ThriftToFailureReplyConverter, Generated::FailureReply>(
-            FailureReply(Id('c'), error), held);
+        ExpectRoundTrip<FailureConverters>(FailureReply(Id('c'), error), held);
     EXPECT_FALSE(FailureConverters::Sent({Id('c'), ""}).__isset.error);
 
     auto const wire = FailureConverters::Sent({Id('c'), "sent"});

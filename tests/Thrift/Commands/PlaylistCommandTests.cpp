@@ -41,16 +41,11 @@ using Status = OperationStatus::Status;
 using WireStatusOf = Corvane::Data::Generated::OperationStatusStatus;
 using SequenceGuid = Corvane::Data::Sequences::Guid;
 
-using Create = Converters<CreatePlaylistsCommandParams, Generated::CreatePlaylistsCommandParams,
-                          CreatePlaylistsCommandParamsToThriftConverter, ThriftToCreatePlaylistsCommandParamsConverter>;
-using Update = Converters<UpdatePlaylistsCommandParams, Generated::UpdatePlaylistsCommandParams,
-                          UpdatePlaylistsCommandParamsToThriftConverter, ThriftToUpdatePlaylistsCommandParamsConverter>;
-using Delete = Converters<DeletePlaylistsCommandParams, Generated::DeletePlaylistsCommandParams,
-                          DeletePlaylistsCommandParamsToThriftConverter, ThriftToDeletePlaylistsCommandParamsConverter>;
-using Item = Converters<PlaylistResultsItem, Generated::PlaylistResultsItem, PlaylistResultsItemToThriftConverter,
-                        ThriftToPlaylistResultsItemConverter>;
-using Reply = Converters<PlaylistCommandReply, Generated::PlaylistCommandReply, PlaylistCommandReplyToThriftConverter,
-                         ThriftToPlaylistCommandReplyConverter>;
+using Create = Converters<CreatePlaylistsCommandParamsToThriftConverter, ThriftToCreatePlaylistsCommandParamsConverter>;
+using Update = Converters<UpdatePlaylistsCommandParamsToThriftConverter, ThriftToUpdatePlaylistsCommandParamsConverter>;
+using Delete = Converters<DeletePlaylistsCommandParamsToThriftConverter, ThriftToDeletePlaylistsCommandParamsConverter>;
+using Item = Converters<PlaylistResultsItemToThriftConverter, ThriftToPlaylistResultsItemConverter>;
+using Reply = Converters<PlaylistCommandReplyToThriftConverter, ThriftToPlaylistCommandReplyConverter>;
 
 auto const HasPlaylists = [](auto const& wire) { return bool(wire.__isset.playlists); };
 auto const HasParams = [](auto const& wire) { return bool(wire.__isset.params); };

@@ -67,23 +67,15 @@ using ChannelGuid = Corvane::Data::Channels::Guid;
 using GroupGuid = Corvane::Data::Clips::Groups::Guid;
 using SequenceGuid = Corvane::Data::Sequences::Guid;
 
-using Servers = Converters<GetServersCommandParams, Generated::GetServersCommandParams,
-                           GetServersCommandParamsToThriftConverter, ThriftToGetServersCommandParamsConverter>;
-using Playlists = Converters<GetPlaylistsCommandParams, Generated::GetPlaylistsCommandParams,
-                             GetPlaylistsCommandParamsToThriftConverter, ThriftToGetPlaylistsCommandParamsConverter>;
-using ClipsReply = Converters<GetClipsCommandReply, Generated::GetClipsCommandReply,
-                              GetClipsCommandReplyToThriftConverter, ThriftToGetClipsCommandReplyConverter>;
+using Servers = Converters<GetServersCommandParamsToThriftConverter, ThriftToGetServersCommandParamsConverter>;
+using Playlists = Converters<GetPlaylistsCommandParamsToThriftConverter, ThriftToGetPlaylistsCommandParamsConverter>;
+using ClipsReply = Converters<GetClipsCommandReplyToThriftConverter, ThriftToGetClipsCommandReplyConverter>;
 using GroupsReply =
-    Converters<GetAnglesGroupsCommandReply, Generated::GetAnglesGroupsCommandReply,
-               GetAnglesGroupsCommandReplyToThriftConverter, ThriftToGetAnglesGroupsCommandReplyConverter>;
-using TrainsReply = Converters<GetTrainsCommandReply, Generated::GetTrainsCommandReply,
-                               GetTrainsCommandReplyToThriftConverter, ThriftToGetTrainsCommandReplyConverter>;
-using ServersReply = Converters<GetServersCommandReply, Generated::GetServersCommandReply,
-                                GetServersCommandReplyToThriftConverter, ThriftToGetServersCommandReplyConverter>;
-using PlaylistsReply = Converters<GetPlaylistsCommandReply, Generated::GetPlaylistsCommandReply,
-                                  GetPlaylistsCommandReplyToThriftConverter, ThriftToGetPlaylistsCommandReplyConverter>;
-using ChannelsReply = Converters<GetChannelsCommandReply, Generated::GetChannelsCommandReply,
-                                 GetChannelsCommandReplyToThriftConverter, GetChannelsCommandReplyFromThriftConverter>;
+    Converters<GetAnglesGroupsCommandReplyToThriftConverter, ThriftToGetAnglesGroupsCommandReplyConverter>;
+using TrainsReply = Converters<GetTrainsCommandReplyToThriftConverter, ThriftToGetTrainsCommandReplyConverter>;
+using ServersReply = Converters<GetServersCommandReplyToThriftConverter, ThriftToGetServersCommandReplyConverter>;
+using PlaylistsReply = Converters<GetPlaylistsCommandReplyToThriftConverter, ThriftToGetPlaylistsCommandReplyConverter>;
+using ChannelsReply = Converters<GetChannelsCommandReplyToThriftConverter, GetChannelsCommandReplyFromThriftConverter>;
 
 TEST(QueryParamsConversion, UnknownNumbersBecomeAKnownOneAndTheFlagsCount)
 {
@@ -380,10 +372,10 @@ GetChannelsCommandReply FullChannels()
 
 TEST(GetChannelsReplyConversion, NoFlagOfTheMapsIsSetOrRead)
 {
-    ExpectRoundTrip<ChannelsReply::ToWire, ChannelsReply::ToDomain, ChannelsReply::Wire>(FullChannels());
+    ExpectRoundTrip<ChannelsReply>(FullChannels());
     GetChannelsCommandReply none;
     none.commandGuid = Id('c');
-    ExpectRoundTrip<ChannelsReply::ToWire, ChannelsReply::ToDomain, ChannelsReply::Wire>(none, FullChannels());
+    ExpectRoundTrip<ChannelsReply>(none, FullChannels());
 
     auto const wire = ChannelsReply::Sent(FullChannels());
     EXPECT_TRUE(wire.__isset.guid);

@@ -68,32 +68,20 @@ using ChannelGuid = Corvane::Data::Channels::Guid;
 using ClipGuid = Corvane::Data::Clips::Guid;
 using SequenceGuid = Corvane::Data::Sequences::Guid;
 
-using Play = Converters<PlayCommandParams, Generated::PlayCommandParams, PlayCommandParamsToThriftConverter,
-                        ThriftToPlayCommandParamsConverter>;
-using Dial = Converters<DialCommandParams, Generated::DialCommandParams, DialCommandParamsToThriftConverter,
-                        ThriftToDialCommandParamsConverter>;
-using Step = Converters<StepCommandParams, Generated::StepCommandParams, StepCommandParamsToThriftConverter,
-                        ThriftToStepCommandParamsConverter>;
-using GoIdle = Converters<GoIdleCommandParams, Generated::GoIdleCommandParams, GoIdleCommandParamsToThriftConverter,
-                          ThriftToGoIdleCommandParamsConverter>;
-using Start = Converters<StartCommandParams, Generated::StartRecordingCommandParams,
-                         StartRecordingCommandParamsToThriftConverter, ThriftToStartRecordingCommandParamsConverter>;
-using Stop = Converters<StopCommandParams, Generated::StopRecordingCommandParams,
-                        StopRecordingCommandParamsToThriftConverter, ThriftToStopRecordingCommandParamsConverter>;
-using Sync = Converters<SyncCommandParams, Generated::SyncCommandParams, SyncCommandParamsToThriftConverter,
-                        ThriftToSyncCommandParamsConverter>;
-using Chain = Converters<ChainCommandParams, Generated::ChainCommandParams, ChainCommandParamsToThriftConverter,
-                         ThriftToChainCommandParamsConverter>;
-using Live = Converters<LiveCommandParams, Generated::LiveCommandParams, LiveCommandParamsToThriftConverter,
-                        ThriftToLiveCommandParamsConverter>;
-using LoadClips = Converters<LoadClipsCommandParams, Generated::LoadClipsCommandParams,
-                             LoadClipsCommandParamsToThriftConverter, ThriftToLoadClipsCommandParamsConverter>;
+using Play = Converters<PlayCommandParamsToThriftConverter, ThriftToPlayCommandParamsConverter>;
+using Dial = Converters<DialCommandParamsToThriftConverter, ThriftToDialCommandParamsConverter>;
+using Step = Converters<StepCommandParamsToThriftConverter, ThriftToStepCommandParamsConverter>;
+using GoIdle = Converters<GoIdleCommandParamsToThriftConverter, ThriftToGoIdleCommandParamsConverter>;
+using Start = Converters<StartRecordingCommandParamsToThriftConverter, ThriftToStartRecordingCommandParamsConverter>;
+using Stop = Converters<StopRecordingCommandParamsToThriftConverter, ThriftToStopRecordingCommandParamsConverter>;
+using Sync = Converters<SyncCommandParamsToThriftConverter, ThriftToSyncCommandParamsConverter>;
+using Chain = Converters<ChainCommandParamsToThriftConverter, ThriftToChainCommandParamsConverter>;
+using Live = Converters<LiveCommandParamsToThriftConverter, ThriftToLiveCommandParamsConverter>;
+using LoadClips = Converters<LoadClipsCommandParamsToThriftConverter, ThriftToLoadClipsCommandParamsConverter>;
 using LoadSequences =
-    Converters<LoadSequencesCommandParams, Generated::LoadSequencesCommandParams,
-               LoadSequencesCommandParamsToThriftConverter, ThriftToLoadSequencesCommandParamsConverter>;
+    Converters<LoadSequencesCommandParamsToThriftConverter, ThriftToLoadSequencesCommandParamsConverter>;
 using SetBoundaries =
-    Converters<SetLoadBoundariesCommandParams, Generated::SetLoadBoundariesCommandParams,
-               SetLoadBoundariesCommandParamsToThriftConverter, ThriftToSetLoadBoundariesCommandParamsConverter>;
+    Converters<SetLoadBoundariesCommandParamsToThriftConverter, ThriftToSetLoadBoundariesCommandParamsConverter>;
 
 Boundary const Absolute = Boundary::AbsoluteBoundary({-21});
 Boundary const Relative = Boundary::RelativeBoundary(Boundary::RelativeTo::RelativeToOppositeClipBoundary, 7);
@@ -339,7 +327,7 @@ TEST(LiveConversion, WithoutPlayersTheIdentifierIsLostForANewOne)
 {
     auto full = New<LiveCommandParams>();
     full.players = {{Id<ChannelGuid>('a'), Id<ChannelGuid>('x')}, {Id<ChannelGuid>('b'), Id<ChannelGuid>('y')}};
-    ExpectRoundTrip<Live::ToWire, Live::ToDomain, Live::Wire>(full);
+    ExpectRoundTrip<Live>(full);
     ExpectMap<Live>(full, &LiveCommandParams::players, &Generated::LiveCommandParams::players, HasPlayers);
     EXPECT_TRUE(Live::Sent(full).__isset.commandGuid);
 

@@ -1,11 +1,10 @@
-#include "Domain/CorvaneData/Guid.h"
 #include "Domain/CorvaneData/OperationStatus.h"
 #include "Thrift/Data/FromGuid.h"
 #include "Thrift/Data/FromOperationStatus.h"
 #include "Thrift/Data/ToGuid.h"
 #include "Thrift/Data/ToOperationStatus.h"
-#include "generated/Guid_types.h"
 #include "generated/OperationStatus_types.h"
+#include "tests/Thrift/Data/Values.h"
 #include "tests/Thrift/RoundTrip.h"
 
 #include <gtest/gtest.h>
@@ -26,13 +25,8 @@ using Status = Corvane::Data::OperationStatus::Status;
 
 namespace Wire = Corvane::Data::Generated;
 
-Wire::Guid WireGuid(std::string value)
-{
-    Wire::Guid guid;
-    guid.value = std::move(value);
-    guid.__isset.value = true;
-    return guid;
-}
+using OfGuid = Converters<GuidToThriftConverter, ThriftToGuidConverter>;
+using OfStatus = Converters<OperationStatusToThriftConverter, ThriftToOperationStatusConverter>;
 
 Guid Bytes(std::string const& bytes)
 {
@@ -41,12 +35,11 @@ Guid Bytes(std::string const& bytes)
 
 TEST(GuidConversion, RoundTrip)
 {
-    ExpectRoundTrip<GuidToThriftConverter, ThriftToGuidConverter, Wire::Guid>(Bytes("\x01\x7F\x80\xFF"
-                                                                                    "abcdefghijkl"));
+    ExpectRoundTrip<OfGuid>(Bytes("\x01\x7F\x80\xFF"
+                                  "abcdefghijkl"));
 
     // The empty identifier travels like any other.
-    Wire::Guid wire;
-    EXPECT_TRUE(GuidToThriftConverter().To(Guid::Empty(), wire).success);
+    auto const wire = OfGuid::Sent(Guid::Empty());
     EXPECT_TRUE(wire.__isset.value);
     EXPECT_EQ(wire.value, std::string(16, '\0'));
 }
@@ -62,24 +55,18 @@ TEST(GuidConversion, OtherLengthsAreCutOrFilledAndAClearFlagIsEmpty)
          {Row{"", Guid::Empty()}, Row{std::string(15, 'x'), Bytes(std::string(15, 'x') + '\0')},
           Row{std::string(17, 'x'), Bytes(std::string(16, 'x'))},
           Row{std::string(1'000'000, 'x'), Bytes(std::string(16, 'x'))}})
-    {
-        auto read = Bytes("something before");
-        EXPECT_TRUE(ThriftToGuidConverter().To(WireGuid(value), read).success);
-        EXPECT_EQ(read, guid) << value.size();
-    }
+        EXPECT_EQ(OfGuid::Received(WireId(value), Bytes("something before")), guid) << value.size();
 
-    auto unset = WireGuid(std::string(16, 'x'));
+    auto unset = WireId(std::string(16, 'x'));
     unset.__isset.value = false;
-    auto read = Bytes("something before");
-    EXPECT_TRUE(ThriftToGuidConverter().To(unset, read).success);
-    EXPECT_EQ(read, Guid::Empty());
+    EXPECT_EQ(OfGuid::Received(unset, Bytes("something before")), Guid::Empty());
 }
 
 TEST(GuidConversion, WireOrderIsThatOfUnsignedBytes)
 {
-    auto unflagged = WireGuid("a");
+    auto unflagged = WireId("a");
     unflagged.__isset.value = false;
-    std::set<Wire::Guid> const sorted{WireGuid("\x80"), WireGuid("ab"), WireGuid("a"), WireGuid(""), unflagged};
+    std::set<Wire::Guid> const sorted{WireId("\x80"), WireId("ab"), WireId("a"), WireId(""), unflagged};
     std::string told;
     for (auto const& guid : sorted) told += guid.value + '|';
     EXPECT_EQ(told, "|a|ab|\x80|");
@@ -102,35 +89,30 @@ TEST(OperationStatusConversion, OneFieldTravelsAndTheOtherIsMadeUp)
     };
     for (auto const& [sent, received] : rows)
     {
-        Wire::OperationStatus wire;
-        EXPECT_TRUE(OperationStatusToThriftConverter().To(sent, wire).success);
+        auto const wire = OfStatus::Sent(sent);
         EXPECT_EQ(wire.__isset.result, sent.status == Status::Failed);
         EXPECT_EQ(wire.__isset.status, sent.status != Status::Failed);
-        OperationStatus status;
-        EXPECT_TRUE(ThriftToOperationStatusConverter().To(Read<Wire::OperationStatus>(Written(wire)), status).success);
-        EXPECT_EQ(status, received);
+        EXPECT_EQ(OfStatus::Received(Read<Wire::OperationStatus>(Written(wire))), received);
     }
 }
 
 TEST(OperationStatusConversion, StatusGoesBeforeResult)
 {
     Wire::OperationStatus wire;
-    OperationStatus status{Status::Pending, OperationResult::UsedResource};
-    EXPECT_TRUE(ThriftToOperationStatusConverter().To(wire, status).success);
-    EXPECT_EQ(status, (OperationStatus{Status::Pending, OperationResult::UsedResource})); // neither flag: untouched
+    OperationStatus const held{Status::Pending, OperationResult::UsedResource};
+    EXPECT_EQ(OfStatus::Received(wire, held), held); // neither flag: untouched
 
     wire.__set_status(Wire::OperationStatusStatus::Failed);
     wire.__set_result(Wire::OperationResult::NotSupported);
-    EXPECT_TRUE(ThriftToOperationStatusConverter().To(wire, status).success);
+    auto const status = OfStatus::Received(wire, held);
     EXPECT_EQ(status, (OperationStatus{Status::Failed, OperationResult::DefaultError}));
 
     // A record that is used again keeps the field that is not chosen, and the reader takes the old status.
     wire = {};
     wire.__set_status(Wire::OperationStatusStatus::Succeeded);
-    EXPECT_TRUE(OperationStatusToThriftConverter().To({Status::Failed, OperationResult::InvalidBound}, wire).success);
+    wire = OfStatus::Sent({Status::Failed, OperationResult::InvalidBound}, wire);
     EXPECT_TRUE(wire.__isset.status && wire.__isset.result);
-    EXPECT_TRUE(ThriftToOperationStatusConverter().To(wire, status).success);
-    EXPECT_EQ(status, (OperationStatus{Status::Succeeded, OperationResult::Success}));
+    EXPECT_EQ(OfStatus::Received(wire, status), (OperationStatus{Status::Succeeded, OperationResult::Success}));
 }
 
 // Whoever derives from a converter and replaces the const form changes the rvalue form as well.

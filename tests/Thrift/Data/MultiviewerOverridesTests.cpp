@@ -23,23 +23,14 @@ using namespace Corvane::Multiviewer;
 
 namespace Wire = Corvane::Data::Generated;
 
-Wire::PlayerDataOverrides Sent(PlayerDataOverrides const& overrides, Wire::PlayerDataOverrides wire = {})
-{
-    EXPECT_TRUE(FromPlayerDataOverrides().To(overrides, wire).success);
-    return wire;
-}
-
-PlayerDataOverrides Received(Wire::PlayerDataOverrides const& wire, PlayerDataOverrides overrides = {})
-{
-    EXPECT_TRUE(ToPlayerDataOverrides().To(wire, overrides).success);
-    return overrides;
-}
+using OfPlayer = Converters<FromPlayerDataOverrides, ToPlayerDataOverrides>;
+using OfMultiviewer = Converters<FromMultiviewerDataOverrides, ToMultiviewerDataOverrides>;
 
 TEST(PlayerDataOverridesConversion, RoundTrip)
 {
-    ExpectRoundTrip<FromPlayerDataOverrides, ToPlayerDataOverrides, Wire::PlayerDataOverrides>(FullOverrides('p'));
-    ExpectRoundTrip<FromPlayerDataOverrides, ToPlayerDataOverrides, Wire::PlayerDataOverrides>(NoOverrides('p'));
-    EXPECT_EQ(Printed(Sent(FullOverrides('p'))),
+    ExpectRoundTrip<OfPlayer>(FullOverrides('p'));
+    ExpectRoundTrip<OfPlayer>(NoOverrides('p'));
+    EXPECT_EQ(Printed(OfPlayer::Sent(FullOverrides('p'))),
               "PlayerDataOverrides(playerGuid=Guid(value=pppppppppppppppp), clipCreationIn=-3, clipCreationOut=4, "
               "isFirstControlledMediaOutput=1, controlMode=2, programMode=1, isPostRollEnabled=1, message=A message)");
 
@@ -51,22 +42,22 @@ TEST(PlayerDataOverridesConversion, RoundTrip)
     overrides.ProgramMode(ProgramType::Program);
     overrides.IsPostRollEnabled(false);
     overrides.Message("");
-    ExpectRoundTrip<FromPlayerDataOverrides, ToPlayerDataOverrides, Wire::PlayerDataOverrides>(overrides);
+    ExpectRoundTrip<OfPlayer>(overrides);
 }
 
 TEST(PlayerDataOverridesConversion, AbsentOverridesClearTheWiresFlagsButNotTheDomains)
 {
-    auto const wire = Sent(NoOverrides('n'), Sent(FullOverrides('p')));
+    auto const wire = OfPlayer::Sent(NoOverrides('n'), OfPlayer::Sent(FullOverrides('p')));
     EXPECT_EQ(Printed(wire), "PlayerDataOverrides(playerGuid=Guid(value=nnnnnnnnnnnnnnnn), clipCreationIn=<null>, "
                              "clipCreationOut=<null>, isFirstControlledMediaOutput=<null>, controlMode=<null>, "
                              "programMode=<null>, isPostRollEnabled=<null>, message=<null>)");
-    EXPECT_EQ(Received(wire, FullOverrides('p')), FullOverrides('n'));
+    EXPECT_EQ(OfPlayer::Received(wire, FullOverrides('p')), FullOverrides('n'));
 }
 
 TEST(PlayerDataOverridesConversion, FieldsOfTheWireAreAppliedOneByOne)
 {
     // The player is in every record, and each override in one of them.
-    auto const full = Sent(FullOverrides('p'));
+    auto const full = OfPlayer::Sent(FullOverrides('p'));
     auto assembled = NoOverrides('p');
     auto const apply = [&](auto flag)
     {
@@ -74,7 +65,7 @@ TEST(PlayerDataOverridesConversion, FieldsOfTheWireAreAppliedOneByOne)
         wire.__isset = {};
         flag(wire.__isset);
         auto const before = assembled;
-        assembled = Received(wire, before);
+        assembled = OfPlayer::Received(wire, before);
         EXPECT_NE(assembled, before);
     };
     apply([](auto& isset) { isset.clipCreationIn = true; });
@@ -94,29 +85,29 @@ TEST(PlayerDataOverridesConversion, ModesHaveTheNumbersOfTheWireAndUnknownOnesCh
         auto overrides = NoOverrides('p');
         overrides.ControlMode(static_cast<ControlType>(number));
         overrides.ProgramMode(static_cast<ProgramType>(number % 2));
-        auto const wire = Sent(overrides, Sent(FullOverrides('p')));
+        auto const wire = OfPlayer::Sent(overrides, OfPlayer::Sent(FullOverrides('p')));
         EXPECT_EQ(wire.controlMode, number);
         EXPECT_EQ(wire.programMode, number % 2);
-        EXPECT_EQ(Received(wire), overrides);
+        EXPECT_EQ(OfPlayer::Received(wire), overrides);
     }
     for (auto const unknown : {-1, 3, 5, 65536})
     {
         auto overrides = NoOverrides('p');
         overrides.ControlMode(static_cast<ControlType>(unknown));
         overrides.ProgramMode(static_cast<ProgramType>(unknown));
-        auto wire = Sent(overrides, Sent(FullOverrides('p')));
+        auto wire = OfPlayer::Sent(overrides, OfPlayer::Sent(FullOverrides('p')));
         EXPECT_TRUE(wire.__isset.controlMode && wire.__isset.programMode);
         EXPECT_EQ(wire.controlMode, Wire::ControlMode::None);
         EXPECT_EQ(wire.programMode, Wire::ProgramMode::Preview);
 
         wire.controlMode = static_cast<Wire::ControlMode::type>(unknown);
         wire.programMode = static_cast<Wire::ProgramMode::type>(unknown);
-        EXPECT_EQ(Received(wire, NoOverrides('n')), NoOverrides('p'));
-        EXPECT_EQ(Received(wire, FullOverrides('n')), FullOverrides('p'));
+        EXPECT_EQ(OfPlayer::Received(wire, NoOverrides('n')), NoOverrides('p'));
+        EXPECT_EQ(OfPlayer::Received(wire, FullOverrides('n')), FullOverrides('p'));
     }
-    auto wire = Sent(FullOverrides('p'));
+    auto wire = OfPlayer::Sent(FullOverrides('p'));
     wire.programMode = static_cast<Wire::ProgramMode::type>(2); // None of the other mode
-    EXPECT_FALSE(Received(wire).ProgramMode().HasValue());
+    EXPECT_FALSE(OfPlayer::Received(wire).ProgramMode().HasValue());
 }
 
 TEST(PlayerDataOverridesConversion, PlayerIsReplacedEvenByNoneAndReservedValuesStay)
@@ -124,11 +115,11 @@ TEST(PlayerDataOverridesConversion, PlayerIsReplacedEvenByNoneAndReservedValuesS
     auto overrides = NoOverrides('p');
     overrides.reservedValueA = 1;
     overrides.reservedValueB = 2;
-    EXPECT_EQ(Received(Sent(overrides)), NoOverrides('p'));
-    EXPECT_EQ(Received(Sent(NoOverrides('p')), overrides), overrides);
+    EXPECT_EQ(OfPlayer::Received(OfPlayer::Sent(overrides)), NoOverrides('p'));
+    EXPECT_EQ(OfPlayer::Received(OfPlayer::Sent(NoOverrides('p')), overrides), overrides);
 
     Wire::PlayerDataOverrides wire;
-    Corvane::Data::Guid const guid = Received(wire, overrides).PlayerGuid();
+    Corvane::Data::Guid const guid = OfPlayer::Received(wire, overrides).PlayerGuid();
     EXPECT_EQ(guid, Corvane::Data::Guid::Empty());
 }
 
@@ -143,39 +134,30 @@ MultiviewerDataOverrides ThreePlayers()
 
 TEST(MultiviewerDataOverridesConversion, RoundTripReplacesTheWiresPlayers)
 {
-    ExpectRoundTrip<FromMultiviewerDataOverrides, ToMultiviewerDataOverrides, Wire::MultiviewerDataOverrides>(
-        ThreePlayers(), MultiviewerDataOverrides(3));
+    ExpectRoundTrip<OfMultiviewer>(ThreePlayers(), MultiviewerDataOverrides(3));
     MultiviewerDataOverrides const none(0);
-    ExpectRoundTrip<FromMultiviewerDataOverrides, ToMultiviewerDataOverrides, Wire::MultiviewerDataOverrides>(none,
-                                                                                                              none);
-    Wire::MultiviewerDataOverrides wire;
-    EXPECT_TRUE(FromMultiviewerDataOverrides().To(ThreePlayers(), wire).success);
-    EXPECT_TRUE(FromMultiviewerDataOverrides().To(ThreePlayers(), wire).success);
+    ExpectRoundTrip<OfMultiviewer>(none, none);
+    auto const wire = OfMultiviewer::Sent(ThreePlayers(), OfMultiviewer::Sent(ThreePlayers()));
     ASSERT_EQ(wire.playersData.size(), 3u);
     EXPECT_EQ(wire.playersData[2].playerGuid.value, std::string(16, 'c'));
-    EXPECT_TRUE(FromMultiviewerDataOverrides().To(none, wire).success);
-    EXPECT_TRUE(wire.playersData.empty());
+    EXPECT_TRUE(OfMultiviewer::Sent(none, wire).playersData.empty());
 }
 
 TEST(MultiviewerDataOverridesConversion, TheDestinationDecidesTheNumberOfPlayers)
 {
-    Wire::MultiviewerDataOverrides wire;
-    ASSERT_TRUE(FromMultiviewerDataOverrides().To(ThreePlayers(), wire).success);
+    auto const wire = OfMultiviewer::Sent(ThreePlayers());
     for (auto const count : {0u, 2u, 4u, 100'000u})
     {
         MultiviewerDataOverrides const before(count);
         auto multiviewer = before;
-        EXPECT_EQ(ToMultiviewerDataOverrides().To(wire, multiviewer).message, "Unexpected playerData count");
+        EXPECT_EQ(OfMultiviewer::Told(wire, multiviewer), "Unexpected playerData count");
         EXPECT_EQ(multiviewer, before);
     }
 
     // Entries are patched as those of a single player.
     auto multiviewer = ThreePlayers();
     multiviewer[1].Message("kept");
-    EXPECT_TRUE(ToMultiviewerDataOverrides().To(wire, multiviewer).success);
-    auto expected = ThreePlayers();
-    expected[1].Message("kept");
-    EXPECT_EQ(multiviewer, expected);
+    EXPECT_EQ(OfMultiviewer::Received(wire, multiviewer), multiviewer);
 }
 
 } // namespace

@@ -1,27 +1,16 @@
 #pragma once
 
 #include "Domain/CorvaneData/Multiviewer/PlayerDataOverrides.h"
-
-#include <string>
+#include "tests/Thrift/Data/Values.h"
 
 namespace Talvo::Tests
 {
 
-/// A player identifier without a zero byte.
-inline Corvane::Data::Channels::Guid PlayerGuid(char const fill)
-{
-    Corvane::Data::Channels::Guid guid;
-    std::string const bytes(Corvane::Data::Guid::Size, fill);
-    static_cast<Corvane::Data::Guid&>(guid) =
-        Corvane::Data::Guid(reinterpret_cast<unsigned char const*>(bytes.data()), Corvane::Data::Guid::Size);
-    return guid;
-}
-
-/// The entry of that player without any override.
+/// The entry of a player, whose identifier has no zero byte, without any override.
 inline Corvane::Multiviewer::PlayerDataOverrides NoOverrides(char const fill)
 {
     Corvane::Multiviewer::PlayerDataOverrides overrides;
-    overrides.PlayerGuid(PlayerGuid(fill));
+    overrides.PlayerGuid(Id<Corvane::Data::Channels::Guid>(fill));
     return overrides;
 }
 

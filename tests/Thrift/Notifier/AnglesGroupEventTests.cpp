@@ -20,6 +20,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <type_traits>
 
 namespace Talvo::Tests
 {
@@ -40,34 +41,32 @@ Clips::Groups::AnglesGroup GroupOf(char const id)
     return group;
 }
 
-auto ContentOf(char const id, Clips::Groups::AnglesGroup const*)
-{
-    return GroupOf(id);
-}
-
-auto ContentOf(char const id, Clips::Groups::Guid const*)
-{
-    return Id<Clips::Groups::Guid>(id);
-}
-
 /// `TContent` is what the event holds: a group or the identifier of one.
-template<typename TDomain, typename TContent, typename TWire, typename TToWire, typename TToDomain>
-struct GroupEvent : Converters<TDomain, TWire, TToWire, TToDomain>
+template<typename TContent, typename TToWire, typename TToDomain>
+struct GroupEvent : Converters<TToWire, TToDomain>
 {
-    static TDomain Of(Block const& block, char const id)
+    using Domain = typename Converters<TToWire, TToDomain>::Domain;
+
+    static Domain Of(Block const& block, char const id)
     {
-        TDomain event(0, {}, ContentOf(id, static_cast<TContent const*>(nullptr)));
+        auto const make = [id]
+        {
+            if constexpr (std::is_same_v<TContent, Clips::Groups::Guid>)
+                return Id<TContent>(id);
+            else
+                return GroupOf(id);
+        };
+        Domain event(0, {}, make());
         block.Fill(event);
         return event;
     }
 
-    static TDomain Full() { return Of(FullBlock(), 'f'); }
-    static TDomain Held() { return Of(HeldBlock(), 'h'); }
+    static Domain Full() { return Of(FullBlock(), 'f'); }
+    static Domain Held() { return Of(HeldBlock(), 'h'); }
 };
 
-struct Creation
-    : GroupEvent<AnglesGroupCreationEventArgs, Clips::Groups::AnglesGroup, Generated::AnglesGroupCreationEventArgs,
-                 AnglesGroupCreationEventArgsToThriftConverter, ThriftToAnglesGroupCreationEventArgsConverter>
+struct Creation : GroupEvent<Clips::Groups::AnglesGroup, AnglesGroupCreationEventArgsToThriftConverter,
+                             ThriftToAnglesGroupCreationEventArgsConverter>
 {
     static auto& Base(Wire& wire) { return wire; }
     static constexpr auto Text = "<base>";
@@ -75,20 +74,16 @@ struct Creation
                                      "databaseRevision=-4294967301)";
 };
 
-struct CreationFinished
-    : GroupEvent<AnglesGroupCreationFinishedEventArgs, Clips::Groups::AnglesGroup,
-                 Generated::AnglesGroupCreationFinishedEventArgs, AnglesGroupCreationFinishedEventArgsToThriftConverter,
-                 ThriftToAnglesGroupCreationFinishedEventArgsConverter>
+struct CreationFinished : GroupEvent<Clips::Groups::AnglesGroup, AnglesGroupCreationFinishedEventArgsToThriftConverter,
+                                     ThriftToAnglesGroupCreationFinishedEventArgsConverter>
 {
     static auto& Base(Wire& wire) { return wire.creationEventArgs; }
     static constexpr auto Text = "AnglesGroupCreationFinishedEventArgs(creationEventArgs=<base>)";
     static constexpr auto BaseText = Creation::BaseText;
 };
 
-struct UpdateFinished
-    : GroupEvent<AnglesGroupUpdateFinishedEventArgs, Clips::Groups::AnglesGroup,
-                 Generated::AnglesGroupUpdateFinishedEventArgs, AnglesGroupUpdateFinishedEventArgsToThriftConverter,
-                 ThriftToAnglesGroupUpdateFinishedEventArgsConverter>
+struct UpdateFinished : GroupEvent<Clips::Groups::AnglesGroup, AnglesGroupUpdateFinishedEventArgsToThriftConverter,
+                                   ThriftToAnglesGroupUpdateFinishedEventArgsConverter>
 {
     static auto& Base(Wire& wire) { return wire.updateEventArgs; }
     static constexpr auto Text = "AnglesGroupUpdateFinishedEventArgs(updateEventArgs=<base>)";
@@ -96,10 +91,8 @@ struct UpdateFinished
                                      "databaseRevision=-4294967301)";
 };
 
-struct DeletionFinished
-    : GroupEvent<AnglesGroupDeletionFinishedEventArgs, Clips::Groups::Guid,
-                 Generated::AnglesGroupDeletionFinishedEventArgs, AnglesGroupDeletionFinishedEventArgsToThriftConverter,
-                 ThriftToAnglesGroupDeletionFinishedEventArgsConverter>
+struct DeletionFinished : GroupEvent<Clips::Groups::Guid, AnglesGroupDeletionFinishedEventArgsToThriftConverter,
+                                     ThriftToAnglesGroupDeletionFinishedEventArgsConverter>
 {
     static auto& Base(Wire& wire) { return wire.deletionEventArgs; }
     static constexpr auto Text = "AnglesGroupDeletionFinishedEventArgs(deletionEventArgs=<base>)";
@@ -125,8 +118,7 @@ TYPED_TEST_SUITE(AnglesGroupEventConversion, GroupEvents, );
 TYPED_TEST(AnglesGroupEventConversion, RoundTripReplacesTheDestination)
 {
     using Event = TypeParam;
-    ExpectRoundTrip<typename Event::ToWire, typename Event::ToDomain, typename Event::Wire>(Event::Full(),
-                                                                                            Event::Held());
+    ExpectRoundTrip<Event>(Event::Full(), Event::Held());
     auto wire = Event::Sent(Event::Full());
     EXPECT_EQ(Shown(wire, {{Printed(Event::Base(wire)), "<base>"}}), Event::Text);
     EXPECT_EQ(ShownBase(Event::Base(wire)), Event::BaseText);

@@ -46,8 +46,7 @@ using Corvane::Data::Servers::ServerId;
 using Corvane::Data::Servers::ServerInfo;
 using Channel = Corvane::Data::Channels::Guid;
 
-struct Player : Converters<PlayerStateChangedEventArgs, Generated::PlayerStateChangedEventArgs,
-                           PlayerStateChangedEventArgsToThriftConverter, ThriftToPlayerStateChangedEventArgsConverter>
+struct Player : Converters<PlayerStateChangedEventArgsToThriftConverter, ThriftToPlayerStateChangedEventArgsConverter>
 {
     static constexpr auto Name = "PlayerStateChanged";
     static constexpr auto Type = Channel::Type::ChannelGuidTypePlayer;
@@ -60,8 +59,7 @@ struct Player : Converters<PlayerStateChangedEventArgs, Generated::PlayerStateCh
 };
 
 struct Recorder
-    : Converters<RecorderStateChangedEventArgs, Generated::RecorderStateChangedEventArgs,
-                 RecorderStateChangedEventArgsToThriftConverter, ThriftToRecorderStateChangedEventArgsConverter>
+    : Converters<RecorderStateChangedEventArgsToThriftConverter, ThriftToRecorderStateChangedEventArgsConverter>
 {
     static constexpr auto Name = "RecorderStateChanged";
     static constexpr auto Type = Channel::Type::ChannelGuidTypeRecorder;
@@ -85,7 +83,7 @@ TYPED_TEST_SUITE(StateChangedConversion, Channels, );
 
 TYPED_TEST(StateChangedConversion, RoundTrip)
 {
-    ExpectRoundTrip<typename TypeParam::ToWire, typename TypeParam::ToDomain, typename TypeParam::Wire>(this->full);
+    ExpectRoundTrip<TypeParam>(this->full);
     auto const wire = this->Sent(this->full);
     EXPECT_EQ(Shown(wire, {{Printed(wire.status), "<state>"}}),
               std::string(TypeParam::Name) +
@@ -146,8 +144,7 @@ TYPED_TEST(StateChangedConversion, DropsTheFailureOfAState)
 }
 
 using Ranges =
-    Converters<RecordingRangesChangedEventArgs, Generated::RecordingRangesChangedEventArgs,
-               RecordingRangesChangedEventArgsToThriftConverter, ThriftToRecordingRangesChangedEventArgsConverter>;
+    Converters<RecordingRangesChangedEventArgsToThriftConverter, ThriftToRecordingRangesChangedEventArgsConverter>;
 
 RecordingRange RangeTo(std::int64_t const timepoint)
 {
@@ -175,7 +172,7 @@ RecordingRangesChangedEventArgs HeldRanges()
 TEST(RecordingRangesChangedConversion, RoundTripReplacesTheDestination)
 {
     for (auto const& [value, fresh] : {std::pair(FullRanges(), HeldRanges()), {HeldRanges(), FullRanges()}})
-        ExpectRoundTrip<Ranges::ToWire, Ranges::ToDomain, Ranges::Wire>(value, fresh);
+        ExpectRoundTrip<Ranges>(value, fresh);
     auto const wire = Ranges::Sent(FullRanges());
     EXPECT_EQ(
         Shown(wire, {{Printed(wire.recordingRanges[0]), "<to 2>"}, {Printed(wire.recordingRanges[1]), "<to 3>"}}),
@@ -237,13 +234,12 @@ TEST(RecordingRangesChangedConversion, ABadRangeIsKeptEmpty)
                 testing::ElementsAre(RecordingRange(), RangeTo(3), RecordingRange()));
 }
 
-using Added = Converters<ServerAddedEventArgs, Generated::ServerAddedEventArgs, ServerAddedEventArgsToThriftConverter,
-                         ThriftToServerAddedEventArgsConverter>;
+using Added = Converters<ServerAddedEventArgsToThriftConverter, ThriftToServerAddedEventArgsConverter>;
 
 TEST(ServerAddedConversion, RoundTripKeepsBothIdentifiers)
 {
     ServerAddedEventArgs const full(ServerId(9), FullServerInfo());
-    ExpectRoundTrip<Added::ToWire, Added::ToDomain, Added::Wire>(full, {ServerId::None(), ServerInfo()});
+    ExpectRoundTrip<Added>(full, {ServerId::None(), ServerInfo()});
     auto const wire = Added::Sent(full);
     EXPECT_EQ(Shown(wire, {{Printed(wire.serverInfo), "<info>"}}),
               "ServerAddedEventArgs(serverId=9, serverInfo=<info>)");
@@ -280,8 +276,7 @@ void ExpectServerNumber(std::string const& name)
     for (auto const id : {-1, 0, 7, static_cast<int>(0x80000000)})
     {
         Domain const event{ServerId(id)};
-        ExpectRoundTrip<typename TConverters::ToWire, typename TConverters::ToDomain, typename TConverters::Wire>(
-            event, Domain{ServerId(3)});
+        ExpectRoundTrip<TConverters>(event, Domain{ServerId(3)});
         EXPECT_EQ(Printed(TConverters::Sent(event)), name + "EventArgs(serverId=" + std::to_string(id) + ')');
     }
     auto wire = TConverters::Sent({ServerId(7)});
@@ -293,15 +288,13 @@ void ExpectServerNumber(std::string const& name)
 
 TEST(ServerRemovedConversion, HasTheNumberOnly)
 {
-    ExpectServerNumber<Converters<ServerRemovedEventArgs, Generated::ServerRemovedEventArgs,
-                                  ServerRemovedEventArgsToThriftConverter, ThriftToServerRemovedEventArgsConverter>>(
+    ExpectServerNumber<Converters<ServerRemovedEventArgsToThriftConverter, ThriftToServerRemovedEventArgsConverter>>(
         "ServerRemoved");
 }
 
 TEST(DisconnectedFromNetworkConversion, HasTheNumberOnly)
 {
-    ExpectServerNumber<Converters<DisconnectedFromNetworkEventArgs, Generated::DisconnectedFromNetworkEventArgs,
-                                  DisconnectedFromNetworkEventArgsToThriftConverter,
+    ExpectServerNumber<Converters<DisconnectedFromNetworkEventArgsToThriftConverter,
                                   ThriftToDisconnectedFromNetworkEventArgsConverter>>("DisconnectedFromNetwork");
 }
 

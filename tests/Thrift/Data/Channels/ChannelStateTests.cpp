@@ -28,38 +28,9 @@ using namespace Corvane::Data::Channels;
 using TimePoints::TimeCode;
 using TimePoints::TimePoint;
 
-template<typename TConverter, typename TDestination>
-TDestination Converted(auto const& source, TDestination destination)
-{
-    EXPECT_TRUE(TConverter().To(source, destination).success);
-    return destination;
-}
-
-Generated::PlayerClipOnAir Sent(PlayerClipOnAir const& clip, Generated::PlayerClipOnAir const& wire = {})
-{
-    return Converted<PlayerClipOnAirToThriftConverter>(clip, wire);
-}
-Generated::PlayerState Sent(PlayerState const& state, Generated::PlayerState const& wire = {})
-{
-    return Converted<PlayerStateToThriftConverter>(state, wire);
-}
-Generated::RecorderState Sent(RecorderState const& state, Generated::RecorderState const& wire = {})
-{
-    return Converted<RecorderStateToThriftConverter>(state, wire);
-}
-
-PlayerClipOnAir Received(Generated::PlayerClipOnAir const& wire, PlayerClipOnAir const& clip)
-{
-    return Converted<ThriftToPlayerClipOnAirConverter>(wire, clip);
-}
-PlayerState Received(Generated::PlayerState const& wire, PlayerState const& state)
-{
-    return Converted<ThriftToPlayerStateConverter>(wire, state);
-}
-RecorderState Received(Generated::RecorderState const& wire, RecorderState const& state)
-{
-    return Converted<ThriftToRecorderStateConverter>(wire, state);
-}
+using OnAir = Converters<PlayerClipOnAirToThriftConverter, ThriftToPlayerClipOnAirConverter>;
+using Player = Converters<PlayerStateToThriftConverter, ThriftToPlayerStateConverter>;
+using Recorder = Converters<RecorderStateToThriftConverter, ThriftToRecorderStateConverter>;
 
 // The same states without all that may stay off the wire.
 
@@ -99,22 +70,21 @@ RecorderState Bare(RecorderState state)
 
 /// What stays off the wire keeps value and flag of a wire record that is used again, and the value of the domain object
 /// that such a record is read into.
-void ExpectAbsentIsKept(auto const& full)
+template<typename TConverters>
+void ExpectAbsentIsKept(typename TConverters::Domain const& full)
 {
-    EXPECT_EQ(Sent(Bare(full), Sent(full)), Sent(full));
-    EXPECT_EQ(Received(Sent(Bare(full)), full), full);
+    auto const wire = TConverters::Sent(full);
+    EXPECT_EQ(TConverters::Sent(Bare(full), wire), wire);
+    EXPECT_EQ(TConverters::Received(TConverters::Sent(Bare(full)), full), full);
 }
 
 TEST(PlayerClipOnAirConversion, RoundTrip)
 {
-    ExpectRoundTrip<PlayerClipOnAirToThriftConverter, ThriftToPlayerClipOnAirConverter, Generated::PlayerClipOnAir>(
-        FullClipOnAir());
-    ExpectRoundTrip<PlayerClipOnAirToThriftConverter, ThriftToPlayerClipOnAirConverter, Generated::PlayerClipOnAir>(
-        PlayerClipOnAir());
-    ExpectFieldByField<PlayerClipOnAirToThriftConverter, ThriftToPlayerClipOnAirConverter, Generated::PlayerClipOnAir>(
-        FullClipOnAir());
-    ExpectAbsentIsKept(FullClipOnAir());
-    EXPECT_EQ(Printed(Sent(Bare(FullClipOnAir()))),
+    ExpectRoundTrip<OnAir>(FullClipOnAir());
+    ExpectRoundTrip<OnAir>(PlayerClipOnAir());
+    ExpectFieldByField<OnAir>(FullClipOnAir());
+    ExpectAbsentIsKept<OnAir>(FullClipOnAir());
+    EXPECT_EQ(Printed(OnAir::Sent(Bare(FullClipOnAir()))),
               "PlayerClipOnAir(clipOnAir=<null>, curTimePointOnAir=<null>, todCurTimecodeOnAir=<null>, "
               "userCurTimecodeOnAir=<null>)");
 }
@@ -125,7 +95,7 @@ TEST(PlayerClipOnAirConversion, ClipReplacesAndABadOneLeavesTheDestination)
     wire.__isset.clipOnAir = true;
     wire.__set_curTimePointOnAir(99);
     auto clip = FullClipOnAir();
-    EXPECT_EQ(ThriftToPlayerClipOnAirConverter().To(wire, clip).message, "Clip is empty");
+    EXPECT_EQ(OnAir::Told(wire, clip), "Clip is empty");
     EXPECT_EQ(clip, FullClipOnAir());
 
     wire.clipOnAir.kviIndex = 5;
@@ -134,7 +104,7 @@ TEST(PlayerClipOnAirConversion, ClipReplacesAndABadOneLeavesTheDestination)
     expected.clipOnAir = {};
     expected.clipOnAir.kviIndex = 5;
     expected.curTimePointOnAir = {99};
-    EXPECT_TRUE(ThriftToPlayerClipOnAirConverter().To(wire, clip).success);
+    EXPECT_EQ(OnAir::Told(wire, clip), "");
     EXPECT_EQ(clip, expected);
 }
 
@@ -154,10 +124,9 @@ TEST(PlayerClipOnAirConversionDeathTest, TimeCodeTextsAreReadUnguarded)
 
 TEST(PlayerStateConversion, RoundTrip)
 {
-    ExpectRoundTrip<PlayerStateToThriftConverter, ThriftToPlayerStateConverter, Generated::PlayerState>(
-        FullPlayerState());
-    ExpectRoundTrip<PlayerStateToThriftConverter, ThriftToPlayerStateConverter, Generated::PlayerState>(PlayerState());
-    ExpectAbsentIsKept(FullPlayerState());
+    ExpectRoundTrip<Player>(FullPlayerState());
+    ExpectRoundTrip<Player>(PlayerState());
+    ExpectAbsentIsKept<Player>(FullPlayerState());
 }
 
 TEST(PlayerStateConversion, EachFieldOfTheWireHoldsItsOwn)
@@ -166,7 +135,7 @@ TEST(PlayerStateConversion, EachFieldOfTheWireHoldsItsOwn)
     state.pgmOnAir = state.previewOnAir = {};
     state.pgmOnAir.curTimePointOnAir = {9};
     EXPECT_EQ(
-        Printed(Sent(state)),
+        Printed(Player::Sent(state)),
         "PlayerState(serial=4294967294, channelIndex=-2, name=A name of 24 bytes, full, status=5, mode=13, "
         "infoOnAir=PlayerInfoOnAir(playoutConfig=7, status=3, mode=2, commonSpeedNumerator=-1, "
         "commonSpeedDenominator=2, curVideoSpeedNumerator=3, curVideoSpeedDenominator=4, audioPgmInstruction=-17, "
@@ -187,7 +156,7 @@ TEST(PlayerStateConversion, EachFieldOfTheWireHoldsItsOwn)
         "outBoundary=LoadBoundary(type=3, specializedLoadBoundary=SpecializedLoadBoundary("
         "absoluteLoadBoundary=<null>, relativeLoadBoundary=RelativeLoadBoundary(fieldCount=4294967293))))");
 
-    auto const isset = Sent(state).infoOnAir.__isset;
+    auto const isset = Player::Sent(state).infoOnAir.__isset;
     EXPECT_TRUE(isset.status && isset.mode && isset.audioPgmInstruction && isset.audioPgmInstructionDecSpeedD &&
                 isset.fieldPgm && isset.fieldPgmAudio && isset.fieldPreview && isset.curFieldInProtect &&
                 isset.curFieldOutProtect && isset.limitIn && isset.limitOut && isset.limitUserIn && isset.limitUserOut);
@@ -195,29 +164,28 @@ TEST(PlayerStateConversion, EachFieldOfTheWireHoldsItsOwn)
 
 TEST(PlayerStateConversion, AppliesFieldByFieldAndCountsAllButTheBoundaries)
 {
-    auto const wire = Sent(FullPlayerState());
+    auto const wire = Player::Sent(FullPlayerState());
     PlayerState assembled;
     for (auto const& bytes : FieldByField(wire))
     {
         auto const field = Read<Generated::PlayerState>(bytes);
         bool const isBoundary = field.__isset.inBoundary || field.__isset.outBoundary;
-        EXPECT_EQ(ThriftToPlayerStateConverter().To(field, assembled).message,
-                  isBoundary ? "PlayerState is empty" : "");
+        EXPECT_EQ(Player::Told(field, assembled), isBoundary ? "PlayerState is empty" : "");
     }
     EXPECT_EQ(assembled, FullPlayerState()); // the boundaries too
 
     auto state = FullPlayerState();
-    EXPECT_EQ(ThriftToPlayerStateConverter().To(Generated::PlayerState(), state).message, "PlayerState is empty");
+    EXPECT_EQ(Player::Told(Generated::PlayerState(), state), "PlayerState is empty");
     EXPECT_EQ(state, FullPlayerState());
 }
 
 TEST(PlayerStateConversion, ASpeedTravelsAsAPair)
 {
     auto state = Bare(FullPlayerState()); // one half of each speed is 0
-    EXPECT_EQ(FieldByField(Sent(state).infoOnAir).size(), 13u);
+    EXPECT_EQ(FieldByField(Player::Sent(state).infoOnAir).size(), 13u);
     std::swap(state.commonSpeedNumerator, state.commonSpeedDenominator);
     std::swap(state.curVideoSpeedNumerator, state.curVideoSpeedDenominator);
-    EXPECT_EQ(FieldByField(Sent(state).infoOnAir).size(), 13u);
+    EXPECT_EQ(FieldByField(Player::Sent(state).infoOnAir).size(), 13u);
 }
 
 TEST(PlayerStateConversion, InfoOnAirOverwritesWhateverItsFlagsSay)
@@ -241,17 +209,17 @@ TEST(PlayerStateConversion, InfoOnAirOverwritesWhateverItsFlagsSay)
     expected.curFieldInProtect = expected.curFieldOutProtect = 0;
     expected.limitIn = expected.limitOut = expected.limitUserIn = 0;
     expected.limitUserOut = 77;
-    EXPECT_EQ(Received(wire, FullPlayerState()), expected);
+    EXPECT_EQ(Player::Received(wire, FullPlayerState()), expected);
 
     info.__isset = {};
     info.__isset.commonSpeedNumerator = info.__isset.curVideoSpeedDenominator = true; // nor is the other half
-    EXPECT_EQ(Received(wire, FullPlayerState()), expected);
+    EXPECT_EQ(Player::Received(wire, FullPlayerState()), expected);
 
     info.__isset.commonSpeedDenominator = info.__isset.playoutConfig = true;
     expected.commonSpeedNumerator = 9;
     expected.commonSpeedDenominator = 0; // a 0 on the wire is taken
     expected.playoutConfig = PlayoutConfig::Mix;
-    EXPECT_EQ(Received(wire, FullPlayerState()), expected);
+    EXPECT_EQ(Player::Received(wire, FullPlayerState()), expected);
 }
 
 TEST(PlayerStateConversion, ARefusedBoundaryReplacesByANewOne)
@@ -262,18 +230,18 @@ TEST(PlayerStateConversion, ARefusedBoundaryReplacesByANewOne)
     auto expected = FullPlayerState();
     expected.inBoundary = expected.outBoundary = Boundary();
     auto state = FullPlayerState();
-    EXPECT_EQ(ThriftToPlayerStateConverter().To(wire, state).message, "PlayerState is empty");
+    EXPECT_EQ(Player::Told(wire, state), "PlayerState is empty");
     EXPECT_EQ(state, expected);
 
     wire.__isset.globalLoopMode = true; // something that counts, of an unknown number
     wire.globalLoopMode = static_cast<Generated::PlayingLoopMode::type>(4);
     expected.globalLoopMode = PlayingLoopMode::Unknown;
-    EXPECT_EQ(Received(wire, FullPlayerState()), expected);
+    EXPECT_EQ(Player::Received(wire, FullPlayerState()), expected);
 }
 
 TEST(PlayerStateConversion, ABadClipStopsTheConversion)
 {
-    auto wire = Sent(FullPlayerState());
+    auto wire = Player::Sent(FullPlayerState());
     auto const before = Bare(FullPlayerState()); // all before the clips equals what is sent, but for the two speeds
     for (bool const inPreview : {false, true})
     {
@@ -285,30 +253,26 @@ TEST(PlayerStateConversion, ABadClipStopsTheConversion)
         auto bad = wire;
         (inPreview ? bad.previewOnAir : bad.pgmOnAir).clipOnAir.__set_inBoundTodTimecode("2024-01-01T00:00:00:00@25");
         auto state = before;
-        EXPECT_EQ(ThriftToPlayerStateConverter().To(bad, state).message,
-                  "In Bound TOD Timecode Rate inconsistent with Clip Rate");
+        EXPECT_EQ(Player::Told(bad, state), "In Bound TOD Timecode Rate inconsistent with Clip Rate");
         EXPECT_EQ(state, expected);
     }
 }
 
 TEST(RecorderStateConversion, RoundTrip)
 {
-    ExpectRoundTrip<RecorderStateToThriftConverter, ThriftToRecorderStateConverter, Generated::RecorderState>(
-        FullRecorderState());
-    ExpectRoundTrip<RecorderStateToThriftConverter, ThriftToRecorderStateConverter, Generated::RecorderState>(
-        RecorderState());
-    ExpectFieldByField<RecorderStateToThriftConverter, ThriftToRecorderStateConverter, Generated::RecorderState>(
-        FullRecorderState());
-    ExpectAbsentIsKept(FullRecorderState());
+    ExpectRoundTrip<Recorder>(FullRecorderState());
+    ExpectRoundTrip<Recorder>(RecorderState());
+    ExpectFieldByField<Recorder>(FullRecorderState());
+    ExpectAbsentIsKept<Recorder>(FullRecorderState());
 
     auto state = FullRecorderState();
     state.hasRecorderTrain = false;
-    EXPECT_EQ(Printed(Sent(state)),
+    EXPECT_EQ(Printed(Recorder::Sent(state)),
               "RecorderState(serial=4294967294, channelIndex=-2, name=A name of 24 bytes, full, status=2, "
               "isFirstTimePointRunning=1, firstTimePoint=-1, lastTimePoint=2, "
               "lastTodTimecode=2024-06-15T18:00:00:01@50, lastUserTimecode=2024-06-15T18:00:00;02@30, "
               "primaryTimecodeType=2, remainingCapacity=2147483648, totalCapacity=4294967295, recorderTrain=<null>)");
-    EXPECT_EQ(Printed(Sent(RecorderState())),
+    EXPECT_EQ(Printed(Recorder::Sent(RecorderState())),
               "RecorderState(serial=0, channelIndex=0, name=, status=0, isFirstTimePointRunning=0, "
               "firstTimePoint=<null>, lastTimePoint=<null>, lastTodTimecode=<null>, lastUserTimecode=<null>, "
               "primaryTimecodeType=<null>, remainingCapacity=0, totalCapacity=0, recorderTrain=<null>)");
@@ -348,7 +312,7 @@ TEST(RecorderStateConversion, RemainingNeverEndsAboveTotal)
         state.totalCapacity = 100;
         expected.remainingCapacity = row.remainingAfter;
         expected.totalCapacity = row.totalAfter;
-        EXPECT_EQ(Received(wire, state), expected) << row.rule;
+        EXPECT_EQ(Recorder::Received(wire, state), expected) << row.rule;
     }
 }
 
@@ -356,14 +320,14 @@ TEST(RecorderStateConversion, TrainReplacesAndABadOneLeavesTheDestinationsTrain)
 {
     Generated::RecorderState wire;
     auto state = FullRecorderState();
-    EXPECT_EQ(ThriftToRecorderStateConverter().To(wire, state).message, "RecorderState is empty");
+    EXPECT_EQ(Recorder::Told(wire, state), "RecorderState is empty");
     EXPECT_EQ(state, FullRecorderState());
 
     wire.channelIndex = 5;
     wire.__isset.channelIndex = wire.__isset.recorderTrain = true;
     auto expected = FullRecorderState();
     expected.channelIndex = 5;
-    EXPECT_EQ(ThriftToRecorderStateConverter().To(wire, state).message, "Clip is empty");
+    EXPECT_EQ(Recorder::Told(wire, state), "Clip is empty");
     EXPECT_EQ(state, expected);
 
     wire.__isset.channelIndex = false;
@@ -371,7 +335,7 @@ TEST(RecorderStateConversion, TrainReplacesAndABadOneLeavesTheDestinationsTrain)
     wire.recorderTrain.__isset.kviIndex = true;
     expected.recorderTrain = {};
     expected.recorderTrain.kviIndex = 5;
-    EXPECT_TRUE(ThriftToRecorderStateConverter().To(wire, state).success);
+    EXPECT_EQ(Recorder::Told(wire, state), "");
     EXPECT_EQ(state, expected);
 }
 
@@ -379,46 +343,47 @@ TEST(ChannelStateConversion, BadTimeCodesAreSkippedYetSeen)
 {
     for (auto const* const bad : {"", "noon", "2023-02-29T00:00:00:00@50", "00:00:00:00@99999999999"})
     {
-        auto const expectSkipped = [bad](auto const set, auto wire, auto const& state)
+        auto const expectSkipped = [bad]<typename TConverters>(TConverters, auto const& state, auto const... set)
         {
-            (wire.*set)(bad);
-            EXPECT_EQ(Received(wire, state), state) << bad;
+            for (auto const setOne : {set...})
+            {
+                typename TConverters::Wire wire;
+                (wire.*setOne)(bad);
+                EXPECT_EQ(TConverters::Received(wire, state), state) << bad;
+            }
         };
-        using Player = Generated::PlayerState;
-        for (auto const set : {&Player::__set_todPgmInTimecodeOnAir, &Player::__set_todPgmShortInTimecodeOnAir,
-                               &Player::__set_todPgmShortOutTimecodeOnAir, &Player::__set_todPgmOutTimecodeOnAir,
-                               &Player::__set_userPgmInTimecodeOnAir, &Player::__set_userPgmShortInTimecodeOnAir,
-                               &Player::__set_userPgmShortOutTimecodeOnAir, &Player::__set_userPgmOutTimecodeOnAir})
-            expectSkipped(set, Player(), FullPlayerState());
-        using Recorder = Generated::RecorderState;
-        for (auto const set : {&Recorder::__set_lastTodTimecode, &Recorder::__set_lastUserTimecode})
-            expectSkipped(set, Recorder(), FullRecorderState());
+        using WirePlayer = Generated::PlayerState;
+        expectSkipped(Player(), FullPlayerState(), &WirePlayer::__set_todPgmInTimecodeOnAir,
+                      &WirePlayer::__set_todPgmShortInTimecodeOnAir, &WirePlayer::__set_todPgmShortOutTimecodeOnAir,
+                      &WirePlayer::__set_todPgmOutTimecodeOnAir, &WirePlayer::__set_userPgmInTimecodeOnAir,
+                      &WirePlayer::__set_userPgmShortInTimecodeOnAir, &WirePlayer::__set_userPgmShortOutTimecodeOnAir,
+                      &WirePlayer::__set_userPgmOutTimecodeOnAir);
+        expectSkipped(Recorder(), FullRecorderState(), &Generated::RecorderState::__set_lastTodTimecode,
+                      &Generated::RecorderState::__set_lastUserTimecode);
     }
 }
 
 TEST(ChannelStateConversion, NamesAreCutAndHighWordsAreLost)
 {
-    auto const expect = [](auto const toDomain, auto const toWire, auto wire, auto const& fresh)
+    auto const expect = []<typename TConverters>(TConverters)
     {
+        typename TConverters::Wire wire;
         wire.serial = -1;
         wire.name = "A name of more than 24 bytes";
         wire.__isset.serial = wire.__isset.name = true;
-        auto state = fresh;
-        EXPECT_TRUE(toDomain.To(wire, state).success);
+        auto state = TConverters::Received(wire);
         EXPECT_EQ(state.serial, 0xFFFFFFFF);
         EXPECT_EQ(std::string(state.name.begin(), state.name.end()), std::string("A name of more than 24 b\0", 25));
 
         wire.serial = 0x1'0000'0007;
         wire.name = std::string("Up to\0here", 10);
-        EXPECT_TRUE(toDomain.To(wire, state).success);
+        state = TConverters::Received(wire, state);
         EXPECT_EQ(state.serial, 7u);
         EXPECT_EQ(std::string(state.name.begin(), state.name.end()), wire.name + std::string(15, '\0'));
-        EXPECT_TRUE(toWire.To(state, wire).success);
-        EXPECT_EQ(wire.name, "Up to");
+        EXPECT_EQ(TConverters::Sent(state, wire).name, "Up to");
     };
-    expect(ThriftToPlayerStateConverter(), PlayerStateToThriftConverter(), Generated::PlayerState(), PlayerState());
-    expect(ThriftToRecorderStateConverter(), RecorderStateToThriftConverter(), Generated::RecorderState(),
-           RecorderState());
+    expect(Player());
+    expect(Recorder());
 }
 
 } // namespace

@@ -18,6 +18,7 @@ using namespace Corvane::Zelmar::Serialization::Thrift::Data::Channels;
 using Corvane::Data::Channels::Boundary;
 using Generated::LoadBoundaryType;
 using enum Boundary::RelativeTo;
+using OfBoundary = Converters<LoadBoundaryToThriftConverter, ThriftToLoadBoundaryConverter>;
 
 Boundary const Before = Boundary::RelativeBoundary(RelativeToOppositeClipBoundary, 77);
 
@@ -40,10 +41,8 @@ TEST(LoadBoundaryConversion, RoundTrip)
          })
     {
         SCOPED_TRACE(type);
-        ExpectRoundTrip<LoadBoundaryToThriftConverter, ThriftToLoadBoundaryConverter, Generated::LoadBoundary>(boundary,
-                                                                                                               Before);
-        Generated::LoadBoundary wire;
-        EXPECT_TRUE(LoadBoundaryToThriftConverter().To(boundary, wire).success);
+        ExpectRoundTrip<OfBoundary>(boundary, Before);
+        auto const wire = OfBoundary::Sent(boundary);
         EXPECT_EQ(wire.type, type);
         auto const& specialized = wire.specializedLoadBoundary;
         EXPECT_EQ(specialized.__isset.absoluteLoadBoundary, boundary.IsAbsolute());
@@ -56,23 +55,18 @@ TEST(LoadBoundaryConversion, RoundTrip)
 
 TEST(LoadBoundaryConversion, ReusedWireRecordKeepsTheOtherMember)
 {
-    Generated::LoadBoundary wire;
-    EXPECT_TRUE(LoadBoundaryToThriftConverter().To(Boundary::AbsoluteBoundary({5}), wire).success);
     auto const unknown = Boundary::RelativeBoundary(static_cast<Boundary::RelativeTo>(3), 6);
-    EXPECT_TRUE(LoadBoundaryToThriftConverter().To(unknown, wire).success);
+    auto wire = OfBoundary::Sent(unknown, OfBoundary::Sent(Boundary::AbsoluteBoundary({5})));
     auto const& specialized = wire.specializedLoadBoundary;
     EXPECT_TRUE(specialized.__isset.absoluteLoadBoundary && specialized.__isset.relativeLoadBoundary);
     EXPECT_EQ(specialized.relativeLoadBoundary.fieldCount, 6);
     EXPECT_EQ(wire.type, LoadBoundaryType::Absolute); // an unknown reference leaves it
 
-    auto boundary = Before;
-    EXPECT_TRUE(ThriftToLoadBoundaryConverter().To(wire, boundary).success);
-    EXPECT_EQ(boundary, Boundary::AbsoluteBoundary({5}));
-    EXPECT_TRUE(LoadBoundaryToThriftConverter().To(Before, wire).success);
+    EXPECT_EQ(OfBoundary::Received(wire, Before), Boundary::AbsoluteBoundary({5}));
+    wire = OfBoundary::Sent(Before, wire);
     EXPECT_EQ(specialized.absoluteLoadBoundary.timepoint, 5);
-    EXPECT_TRUE(ThriftToLoadBoundaryConverter().To(wire, boundary).success);
-    EXPECT_EQ(boundary, Before);
-    EXPECT_TRUE(LoadBoundaryToThriftConverter().To(Boundary::AbsoluteBoundary({8}), wire).success);
+    EXPECT_EQ(OfBoundary::Received(wire, Boundary::AbsoluteBoundary({5})), Before);
+    wire = OfBoundary::Sent(Boundary::AbsoluteBoundary({8}), wire);
     EXPECT_TRUE(specialized.__isset.relativeLoadBoundary);
     EXPECT_EQ(specialized.relativeLoadBoundary.fieldCount, std::int64_t{Before.FieldCount()});
 }
@@ -118,17 +112,16 @@ TEST(LoadBoundaryConversion, TypeDecidesWhichMemberIsNeeded)
         specialized.__isset.absoluteLoadBoundary = row.hasAbsolute;
         specialized.__isset.relativeLoadBoundary = row.hasRelative;
 
-        auto const read = [&wire](Boundary& boundary) { return ThriftToLoadBoundaryConverter().To(wire, boundary); };
         auto boundary = Before;
-        EXPECT_EQ(read(boundary).message, row.expected == Before ? "LoadBoundary is empty" : "");
+        EXPECT_EQ(OfBoundary::Told(wire, boundary), row.expected == Before ? "LoadBoundary is empty" : "");
         EXPECT_EQ(boundary, row.expected);
 
         boundary = Before;
         wire.__isset.type = false;
-        EXPECT_EQ(read(boundary).message, "LoadBoundary is empty");
+        EXPECT_EQ(OfBoundary::Told(wire, boundary), "LoadBoundary is empty");
         wire.__isset.type = true;
         wire.__isset.specializedLoadBoundary = false;
-        EXPECT_FALSE(read(boundary).success);
+        EXPECT_FALSE(OfBoundary::Told(wire, boundary).empty());
         EXPECT_EQ(boundary, Before);
     }
 }

@@ -29,25 +29,8 @@ using testing::HasSubstr;
 
 namespace Essences = Corvane::Data::Clips::Essences;
 
-Generated::Clip Sent(Clip const& clip)
-{
-    Generated::Clip wire;
-    EXPECT_TRUE(ClipToThriftConverter().To(clip, wire).success);
-    return wire;
-}
-
-Clip Received(Generated::Clip const& wire, Clip clip = Clip())
-{
-    EXPECT_TRUE(ThriftToClipConverter().To(wire, clip).success);
-    return clip;
-}
-
-std::string Refused(Generated::Clip const& wire, Clip& clip)
-{
-    auto const result = ThriftToClipConverter().To(wire, clip);
-    EXPECT_FALSE(result.success);
-    return result.message;
-}
+using OfClip = Converters<ClipToThriftConverter, ThriftToClipConverter>;
+using OfEssence = Converters<EssenceToThriftConverter, ThriftToEssenceConverter>;
 
 std::string Text(auto const& payload)
 {
@@ -58,11 +41,11 @@ TEST(EssenceConversion, RoundTrip)
 {
     for (auto const type : {Essences::Type::Intra, Essences::Type::LongGop, Essences::Type::LowRes})
     {
-        ExpectRoundTrip<EssenceToThriftConverter, ThriftToEssenceConverter, Generated::Essence>(FullEssence(type));
-        ExpectFieldByField<EssenceToThriftConverter, ThriftToEssenceConverter, Generated::Essence>(FullEssence(type));
+        ExpectRoundTrip<OfEssence>(FullEssence(type));
+        ExpectFieldByField<OfEssence>(FullEssence(type));
         Clip::Essence cleared;
         cleared.Clear(type);
-        ExpectRoundTrip<EssenceToThriftConverter, ThriftToEssenceConverter, Generated::Essence>(cleared);
+        ExpectRoundTrip<OfEssence>(cleared);
     }
 }
 
@@ -72,43 +55,35 @@ TEST(EssenceConversion, TypeResetsAndOtherFieldsPatch)
     wire.__isset.verticalFrameSize = true;
     wire.verticalFrameSize = 7;
     auto expected = FullEssence(Essences::Type::LowRes);
-    auto essence = expected;
-    EXPECT_TRUE(ThriftToEssenceConverter().To(wire, essence).success);
     expected.verticalFrameSize = 7;
-    EXPECT_EQ(essence, expected);
+    EXPECT_EQ(OfEssence::Received(wire, FullEssence(Essences::Type::LowRes)), expected);
 
     wire.__isset.type = true;
     for (auto const type : {Essences::Type::LongGop, Essences::Type::LowRes}) // another type and the one it holds
     {
-        essence = FullEssence(Essences::Type::LowRes);
         wire.type = EnumConverter::ToGeneratedEnum(type);
-        EXPECT_TRUE(ThriftToEssenceConverter().To(wire, essence).success);
         expected.Clear(type);
         expected.verticalFrameSize = 7;
-        EXPECT_EQ(essence, expected);
+        EXPECT_EQ(OfEssence::Received(wire, FullEssence(Essences::Type::LowRes)), expected);
     }
 
-    auto const result = ThriftToEssenceConverter().To(Generated::Essence(), essence);
-    EXPECT_FALSE(result.success);
-    EXPECT_EQ(result.message, "Essence is empty");
+    auto essence = expected;
+    EXPECT_EQ(OfEssence::Told({}, essence), "Essence is empty");
     EXPECT_EQ(essence, expected);
 }
 
 TEST(EssenceConversion, ZerosAreSentToo)
 {
-    Generated::Essence wire;
-    EXPECT_TRUE(EssenceToThriftConverter().To(Clip::Essence(), wire).success);
+    auto wire = OfEssence::Sent(Clip::Essence());
     wire.__isset.type = false; // which would reset the rest
-    auto essence = FullEssence(Essences::Type::Intra);
-    EXPECT_TRUE(ThriftToEssenceConverter().To(wire, essence).success);
-    EXPECT_EQ(essence, Clip::Essence());
+    EXPECT_EQ(OfEssence::Received(wire, FullEssence(Essences::Type::Intra)), Clip::Essence());
 }
 
 TEST(ClipConversion, RoundTrip)
 {
-    ExpectRoundTrip<ClipToThriftConverter, ThriftToClipConverter, Generated::Clip>(FullClip(), NtscClip());
-    ExpectFieldByField<ClipToThriftConverter, ThriftToClipConverter, Generated::Clip>(FullClip(), NtscClip());
-    ExpectRoundTrip<ClipToThriftConverter, ThriftToClipConverter, Generated::Clip>(Clip());
+    ExpectRoundTrip<OfClip>(FullClip(), NtscClip());
+    ExpectFieldByField<OfClip>(FullClip(), NtscClip());
+    ExpectRoundTrip<OfClip>(Clip());
 }
 
 TEST(ClipConversion, SendsEachFieldUnderItsName)
@@ -124,7 +99,7 @@ TEST(ClipConversion, SendsEachFieldUnderItsName)
     };
     std::string const blankKeyword = "AsciiOrUtf16String(data=            , isUtf16=0), ";
     EXPECT_EQ(
-        Printed(Sent(FullClip())),
+        Printed(OfClip::Sent(FullClip())),
         "Clip(umId=UMID0001, sourceUmId=UMID0002, fillAndKeyUmId=UMID0003, materialId=MATERIAL, "
         "name=AsciiOrUtf16String(data=A name of 24 bytes, full, isUtf16=1), "
         "varId=AsciiOrUtf16String(data=A variable identifier, 32 bytes., isUtf16=0), "
@@ -145,10 +120,10 @@ TEST(ClipConversion, SendsEachFieldUnderItsName)
     // The flags all hold the same above.
     Clip clip;
     clip.isDual = clip.isLegacyTimecodeDrop = true;
-    EXPECT_THAT(Printed(Sent(clip)), HasSubstr("is3D=0, isDual=1, isTwinRec=0, isLegacyTimecodeDrop=1"));
+    EXPECT_THAT(Printed(OfClip::Sent(clip)), HasSubstr("is3D=0, isDual=1, isTwinRec=0, isLegacyTimecodeDrop=1"));
     clip = Clip();
     clip.isDual = clip.isTwinRec = true;
-    EXPECT_THAT(Printed(Sent(clip)), HasSubstr("is3D=0, isDual=1, isTwinRec=1, isLegacyTimecodeDrop=0"));
+    EXPECT_THAT(Printed(OfClip::Sent(clip)), HasSubstr("is3D=0, isDual=1, isTwinRec=1, isLegacyTimecodeDrop=0"));
 }
 
 TEST(ClipConversion, ReservedFieldsStayInTheProcess)
@@ -157,13 +132,13 @@ TEST(ClipConversion, ReservedFieldsStayInTheProcess)
     clip.reservedName.isUtf16 = true;
     clip.reservedFlagA = clip.reservedFlagB = clip.reservedFlagC = true;
     clip.reservedValue = 99;
-    EXPECT_EQ(Received(Sent(clip)), Clip());
-    EXPECT_EQ(Received(Sent(Clip()), clip), clip);
+    EXPECT_EQ(OfClip::Received(OfClip::Sent(clip)), Clip());
+    EXPECT_EQ(OfClip::Received(OfClip::Sent(Clip()), clip), clip);
 }
 
 TEST(ClipConversion, FreshClipSendsItsDefaultsAndNoAbsentField)
 {
-    auto const wire = Sent(Clip());
+    auto const wire = OfClip::Sent(Clip());
     EXPECT_EQ(wire.umId, "        ");
     EXPECT_EQ(wire.name.data, std::string(24, ' '));
     EXPECT_EQ(wire.varId.data, std::string(32, ' '));
@@ -192,14 +167,13 @@ TEST(ClipConversion, FreshClipSendsItsDefaultsAndNoAbsentField)
     clip.hdrProfile = Corvane::Data::Clips::HdrProfile::Unknown;
     ASSERT_TRUE(clip.TrySetInBoundTodTimecode(TimePoints::TimeCode::Empty()));
     ASSERT_TRUE(clip.TrySetInBoundUserTimecode(TimePoints::TimeCode::Empty()));
-    auto const absent = Sent(clip).__isset;
+    auto const absent = OfClip::Sent(clip).__isset;
     EXPECT_FALSE(absent.hdrProfile || absent.inBoundTodTimecode || absent.inBoundUserTimecode);
 }
 
 TEST(ClipConversion, AbsentFieldsKeepWhatAReusedWireRecordHeld)
 {
-    auto wire = Sent(FullClip());
-    EXPECT_TRUE(ClipToThriftConverter().To(Clip(), wire).success);
+    auto const wire = OfClip::Sent(Clip(), OfClip::Sent(FullClip()));
     EXPECT_TRUE(wire.__isset.camera && wire.__isset.inBoundTimepoint && wire.__isset.intraEssence);
     EXPECT_EQ(wire.camera, Generated::Camera::X);
     EXPECT_EQ(wire.inBoundTimepoint, -1);
@@ -221,7 +195,7 @@ TEST(ClipConversion, TextsAreCutPaddedAndEndedAsTheirSlotsSay)
 
     auto before = FullClip();
     before.varId.end.fill('!');
-    auto const clip = Received(wire, before);
+    auto const clip = OfClip::Received(wire, before);
     EXPECT_EQ(Text(clip.umId), std::string("TWELVE C\0", 9));
     EXPECT_EQ(Text(clip.sourceUmId), std::string(9, '\0'));
     EXPECT_EQ(Text(clip.materialId), std::string("A\0B\0\0\0\0\0\0", 9));
@@ -230,7 +204,7 @@ TEST(ClipConversion, TextsAreCutPaddedAndEndedAsTheirSlotsSay)
     EXPECT_EQ(Text(clip.varId.payload), std::string(32, 'v'));
     EXPECT_THAT(clip.varId.end, Each('\0'));
 
-    auto const again = Sent(clip);
+    auto const again = OfClip::Sent(clip);
     EXPECT_EQ(again.umId, "TWELVE C");
     EXPECT_EQ(again.sourceUmId, "");
     EXPECT_EQ(again.materialId, "A");
@@ -246,7 +220,7 @@ TEST(ClipConversion, ListsPatchTheSlotsThatTheyReach)
     wire.keywords[1].data = "longer than twelve";
     wire.keywords[1].isUtf16 = true;
     wire.userBits = {-1, 0x1234};
-    auto const few = Received(wire);
+    auto const few = OfClip::Received(wire);
     EXPECT_EQ(Text(few.keywords[0].payload), std::string(12, '\0'));
     EXPECT_EQ(Text(few.keywords[1].payload), "longer than ");
     EXPECT_TRUE(few.keywords[1].isUtf16);
@@ -257,30 +231,30 @@ TEST(ClipConversion, ListsPatchTheSlotsThatTheyReach)
     wire.keywords.resize(7);
     wire.userBits.assign(8, -1);
     wire.userBits.resize(10);
-    auto const many = Received(wire);
+    auto const many = OfClip::Received(wire);
     for (auto const& slot : many.keywords) EXPECT_EQ(Text(slot.payload), "longer than ");
     EXPECT_THAT(many.userBits, Each(0xFF));
-    EXPECT_THAT(Sent(many).userBits, testing::AllOf(testing::SizeIs(8), Each(255)));
+    EXPECT_THAT(OfClip::Sent(many).userBits, testing::AllOf(testing::SizeIs(8), Each(255)));
 }
 
 TEST(ClipConversion, LegacyDropIsTakenOnlyByAClipThatIsNtscBefore)
 {
     Generated::Clip wire;
     wire.__isset.isLegacyTimecodeDrop = wire.isLegacyTimecodeDrop = true;
-    EXPECT_EQ(Received(wire), Clip()); // dropped, yet it counts as a field
+    EXPECT_EQ(OfClip::Received(wire), Clip()); // dropped, yet it counts as a field
 
     wire.__isset.videoStandard = true;
     wire.videoStandard = Generated::VideoStandard::Ntsc;
-    EXPECT_FALSE(Received(wire).isLegacyTimecodeDrop);
+    EXPECT_FALSE(OfClip::Received(wire).isLegacyTimecodeDrop);
     wire.videoStandard = Generated::VideoStandard::Pal;
-    EXPECT_TRUE(Received(wire, NtscClip()).isLegacyTimecodeDrop);
+    EXPECT_TRUE(OfClip::Received(wire, NtscClip()).isLegacyTimecodeDrop);
 }
 
 TEST(ClipConversion, WordsAreZeroExtendedAndHighWordsAreLost)
 {
     Clip clip;
     clip.legacyTimecodeOffset = clip.userLock = clip.thumbnailOffset = clip.sequence = clip.machineSerial = 0xFFFFFFFE;
-    auto wire = Sent(clip);
+    auto wire = OfClip::Sent(clip);
     using Wire = Generated::Clip;
     for (auto const field :
          {&Wire::legacyTimecodeOffset, &Wire::userLock, &Wire::thumbnailOffset, &Wire::sequence, &Wire::machineSerial})
@@ -288,7 +262,7 @@ TEST(ClipConversion, WordsAreZeroExtendedAndHighWordsAreLost)
         EXPECT_EQ(wire.*field, 0xFFFFFFFE);
         wire.*field += 0x1'0000'0000;
     }
-    EXPECT_EQ(Received(wire), clip);
+    EXPECT_EQ(OfClip::Received(wire), clip);
 }
 
 TEST(ClipConversion, EmptyWhenNothingCounts)
@@ -297,7 +271,7 @@ TEST(ClipConversion, EmptyWhenNothingCounts)
     auto const expectEmpty = [&wire]
     {
         auto clip = FullClip();
-        EXPECT_EQ(Refused(wire, clip), "Clip is empty");
+        EXPECT_EQ(OfClip::Told(wire, clip), "Clip is empty");
         EXPECT_EQ(clip, FullClip());
     };
     expectEmpty();
@@ -321,25 +295,25 @@ TEST(ClipConversion, TimeCodeOfAnotherRateStopsTheConversion)
                  "In Bound User Timecode Rate inconsistent with Clip Rate"},
          })
     {
-        auto wire = Sent(FullClip());
+        auto wire = OfClip::Sent(FullClip());
         (wire.*set)("2024-02-29T12:00:00:00@25");
         auto clip = NtscClip();
-        EXPECT_EQ(Refused(wire, clip), message);
+        EXPECT_EQ(OfClip::Told(wire, clip), message);
         EXPECT_EQ(clip.dolbyMonoSignal, 2);                               // before it: applied
         EXPECT_EQ(clip.inBoundTimepoint, TimePoints::TimePoint::Empty()); // behind it: not
         EXPECT_EQ(clip.InBoundUserTimecode(), Clip::DefaultTimecode());
         wire.videoStandard = Generated::VideoStandard::Pal; // the standard of the same record decides
         (wire.*set)("2024-02-29T12:00:00;00@30");
-        EXPECT_FALSE(Refused(wire, clip).empty());
+        EXPECT_FALSE(OfClip::Told(wire, clip).empty());
     }
 }
 
 TEST(ClipConversion, EmptyEssenceStopsTheConversion)
 {
-    auto wire = Sent(FullClip());
+    auto wire = OfClip::Sent(FullClip());
     wire.longGopEssence.__isset = {};
     auto clip = NtscClip();
-    EXPECT_EQ(Refused(wire, clip), "Essence is empty");
+    EXPECT_EQ(OfClip::Told(wire, clip), "Essence is empty");
     EXPECT_EQ(clip.intraEssence, FullClip().intraEssence);
     EXPECT_EQ(clip.longGopEssence, Clip().longGopEssence);
     EXPECT_EQ(clip.lowResEssence, Clip().lowResEssence);
@@ -347,7 +321,7 @@ TEST(ClipConversion, EmptyEssenceStopsTheConversion)
     Generated::Clip only;
     only.__isset.lowResEssence = true;
     Clip fresh;
-    EXPECT_EQ(Refused(only, fresh), "Essence is empty");
+    EXPECT_EQ(OfClip::Told(only, fresh), "Essence is empty");
 }
 
 TEST(ClipConversionDeathTest, TimeCodeTextsAreReadUnguarded)
@@ -364,7 +338,7 @@ TEST(ClipConversionDeathTest, TimeCodeTextsAreReadUnguarded)
 
     // An undated time code is read, but what it is sent as is not.
     wire.__set_inBoundUserTimecode("01:02:03:04@25");
-    wire = Sent(Received(wire));
+    wire = OfClip::Sent(OfClip::Received(wire));
     EXPECT_EQ(wire.inBoundUserTimecode, "-1-0-1-0-1T01:02:03:04@25");
     EXPECT_DEATH(std::ignore = ThriftToClipConverter().To(wire, clip), "terminate");
 }

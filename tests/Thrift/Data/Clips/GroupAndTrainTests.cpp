@@ -14,6 +14,7 @@
 #include "generated/Angle_types.h"
 #include "generated/AnglesGroup_types.h"
 #include "generated/Train_types.h"
+#include "tests/Thrift/Data/Values.h"
 #include "tests/Thrift/RoundTrip.h"
 
 #include <gmock/gmock.h>
@@ -36,31 +37,27 @@ using TimePoints::TimePoint;
 namespace Clips = Corvane::Data::Clips;
 namespace WireGroups = Corvane::Data::Clips::Groups::Generated;
 
-template<typename TGuid>
-TGuid SomeGuid(char const fill)
-{
-    TGuid guid;
-    static_cast<Corvane::Data::Guid&>(guid) =
-        Corvane::Data::Guid(reinterpret_cast<unsigned char const*>(std::string(16, fill).data()), 16);
-    return guid;
-}
+using OfAngle = Converters<AngleToThriftConverter, ThriftToAngleConverter>;
+using OfGroup = Converters<AnglesGroupToThriftConverter, ThriftToAnglesGroupConverter>;
+using OfRange = Converters<RecordingRangeToThriftConverter, ThriftToRecordingRangeConverter>;
+using OfTrain = Converters<TrainToThriftConverter, ThriftToTrainConverter>;
 
 Groups::AnglesGroup FullGroup()
 {
-    Groups::AnglesGroup group(SomeGuid<Groups::Guid>('g'));
-    group.AddAngle(Camera::Z, SomeGuid<Clips::Guid>('z'), PreferentialCamera::Primary);
-    group.AddAngle(Camera::B, SomeGuid<Clips::Guid>('b'), PreferentialCamera::Secondary);
-    group.AddAngle(Camera::A, SomeGuid<Clips::Guid>('a'), PreferentialCamera::None);
+    Groups::AnglesGroup group(Id<Groups::Guid>('g'));
+    group.AddAngle(Camera::Z, Id<Clips::Guid>('z'), PreferentialCamera::Primary);
+    group.AddAngle(Camera::B, Id<Clips::Guid>('b'), PreferentialCamera::Secondary);
+    group.AddAngle(Camera::A, Id<Clips::Guid>('a'), PreferentialCamera::None);
     group.AddAngle(Camera::C, Clips::Guid(), PreferentialCamera::None); // no clip, but not the empty angle
     return group;
 }
 
 /// What a group sends: camera, first byte of the identifier and mark of each item.
-std::string Told(Groups::AnglesGroup const& group)
+std::string SentItems(Groups::AnglesGroup const& group)
 {
     WireGroups::AnglesGroup wire;
     wire.angles[Generated::Camera::Y]; // cleared before the group is written
-    EXPECT_TRUE(AnglesGroupToThriftConverter().To(group, wire).success);
+    wire = OfGroup::Sent(group, wire);
     EXPECT_EQ(wire.id.value, std::string(16, 'g'));
     std::string told;
     for (auto const& [camera, item] : wire.angles)
@@ -70,42 +67,35 @@ std::string Told(Groups::AnglesGroup const& group)
 
 TEST(AngleConversion, RoundTrip)
 {
-    Groups::Angle const angle{Camera::L, SomeGuid<Clips::Guid>('l')};
-    ExpectRoundTrip<AngleToThriftConverter, ThriftToAngleConverter, WireGroups::Angle>(angle);
+    Groups::Angle const angle{Camera::L, Id<Clips::Guid>('l')};
+    ExpectRoundTrip<OfAngle>(angle);
     WireGroups::Angle wire;
     wire.camera = static_cast<Generated::Camera::type>(16);
-    auto read = angle;
-    EXPECT_TRUE(ThriftToAngleConverter().To(wire, read).success);
-    EXPECT_EQ(read, Groups::Angle::Empty());
+    EXPECT_EQ(OfAngle::Received(wire, angle), Groups::Angle::Empty());
 }
 
 TEST(AnglesGroupConversion, SendsOneItemACameraInTheOrderOfCameras)
 {
     using namespace std::string_literals;
     auto group = FullGroup();
-    EXPECT_EQ(Told(group), "1a0 2b2 3\0000 15z1 "s);
+    EXPECT_EQ(SentItems(group), "1a0 2b2 3\0000 15z1 "s);
 
     // What only slots that are filled by hand can hold.
     group.angleSlots[3] = {false, Camera::NotSet, Clips::Guid(), PreferentialCamera::None}; // the empty angle: not sent
-    group.angleSlots[4] = {false, Camera::NotSet, SomeGuid<Clips::Guid>('n'), PreferentialCamera::None};
-    group.angleSlots[5] = {false, Camera::Z, SomeGuid<Clips::Guid>('y'), PreferentialCamera::None}; // the later wins
-    EXPECT_EQ(Told(group), "0n0 1a0 2b2 3\0000 15y0 "s);
+    group.angleSlots[4] = {false, Camera::NotSet, Id<Clips::Guid>('n'), PreferentialCamera::None};
+    group.angleSlots[5] = {false, Camera::Z, Id<Clips::Guid>('y'), PreferentialCamera::None}; // the later wins
+    EXPECT_EQ(SentItems(group), "0n0 1a0 2b2 3\0000 15y0 "s);
 }
 
 TEST(AnglesGroupConversion, RoundTripReplacesTheDestination)
 {
     Groups::AnglesGroup const empty{Groups::Guid()};
-    WireGroups::AnglesGroup wire;
-    ASSERT_TRUE(AnglesGroupToThriftConverter().To(FullGroup(), wire).success);
+    auto const wire = OfGroup::Sent(FullGroup());
     auto group = empty;
     group.AddAngle(Camera::Y, Clips::Guid(), PreferentialCamera::Primary);
-    EXPECT_TRUE(ThriftToAnglesGroupConverter().To(Read<WireGroups::AnglesGroup>(Written(wire)), group).success);
-    EXPECT_EQ(group, FullGroup());
-
-    EXPECT_TRUE(ThriftToAnglesGroupConverter().To(WireGroups::AnglesGroup(), group).success);
-    EXPECT_EQ(group, empty);
-    EXPECT_TRUE(AnglesGroupToThriftConverter().To(empty, wire).success);
-    EXPECT_TRUE(wire.angles.empty());
+    EXPECT_EQ(OfGroup::Received(Read<WireGroups::AnglesGroup>(Written(wire)), group), FullGroup());
+    EXPECT_EQ(OfGroup::Received({}, FullGroup()), empty);
+    EXPECT_TRUE(OfGroup::Sent(empty, wire).angles.empty());
 }
 
 RecordingRange FullRange()
@@ -115,34 +105,26 @@ RecordingRange FullRange()
 
 TEST(RecordingRangeConversion, RoundTrip)
 {
-    ExpectRoundTrip<RecordingRangeToThriftConverter, ThriftToRecordingRangeConverter, Generated::RecordingRange>(
-        FullRange());
+    ExpectRoundTrip<OfRange>(FullRange());
 
-    Generated::RecordingRange full;
-    EXPECT_TRUE(RecordingRangeToThriftConverter().To(FullRange(), full).success);
-    EXPECT_EQ(Printed(full), "RecordingRange(inBoundTimepoint=1, outBoundTimepoint=-2, "
-                             "inBoundTimecode=2001-01-01T01:02:03:04@25, outBoundTimecode=2001-01-01T01:02:59;29@30)");
+    EXPECT_EQ(Printed(OfRange::Sent(FullRange())),
+              "RecordingRange(inBoundTimepoint=1, outBoundTimepoint=-2, "
+              "inBoundTimecode=2001-01-01T01:02:03:04@25, outBoundTimecode=2001-01-01T01:02:59;29@30)");
 
     // Empty bounds travel. An empty time code comes back as the time code of the origin, which is not empty.
-    Generated::RecordingRange wire;
-    EXPECT_TRUE(RecordingRangeToThriftConverter().To(RecordingRange(), wire).success);
+    auto const wire = OfRange::Sent(RecordingRange());
     EXPECT_EQ(wire.inBoundTimepoint, TimePoint::Empty().position);
     EXPECT_EQ(wire.outBoundTimecode, "1900-01-01T00:00:00:00@50");
-    RecordingRange range;
-    EXPECT_TRUE(ThriftToRecordingRangeConverter().To(wire, range).success);
-    EXPECT_EQ(range.rangeInTimecode, Clip::DefaultTimecode());
+    EXPECT_EQ(OfRange::Received(wire).rangeInTimecode, Clip::DefaultTimecode());
 }
 
 TEST(RecordingRangeConversion, IncompleteOrBadRangesLeaveTheDestination)
 {
-    Generated::RecordingRange full;
-    ASSERT_TRUE(RecordingRangeToThriftConverter().To(FullRange(), full).success);
+    auto const full = OfRange::Sent(FullRange());
     auto const expectRefused = [](Generated::RecordingRange const& wire, char const* const message)
     {
         RecordingRange range;
-        auto const result = ThriftToRecordingRangeConverter().To(wire, range);
-        EXPECT_FALSE(result.success);
-        EXPECT_EQ(result.message, message);
+        EXPECT_EQ(OfRange::Told(wire, range), message);
         EXPECT_EQ(range, RecordingRange());
     };
 
@@ -194,15 +176,13 @@ TEST(TrainConversion, RoundTrip)
     for (bool const isInMoving : {true, false})
     {
         auto const source = FullTrain(isInMoving);
-        Generated::Train wire;
-        EXPECT_TRUE(TrainToThriftConverter().To(source, wire).success);
+        auto const wire = OfTrain::Sent(source);
         EXPECT_EQ(wire.isInMoving, isInMoving);
         EXPECT_EQ(wire.isOutMoving, !isInMoving);
         for (auto const& protocol : Protocols())
         {
-            auto train = EmptyTrain();
             auto const received = Read<Generated::Train>(Written(wire, *protocol), *protocol);
-            EXPECT_TRUE(ThriftToTrainConverter().To(received, train).success);
+            auto const train = OfTrain::Received(received, EmptyTrain());
             ASSERT_NE(train.trainClip, nullptr);
             EXPECT_EQ(*train.trainClip, *source.trainClip);
             EXPECT_EQ(train.trainRanges, source.trainRanges);
@@ -215,15 +195,13 @@ TEST(TrainConversion, RoundTrip)
 
 TEST(TrainConversion, ReusedWireRecordKeepsRangesAndLosesAMissingClip)
 {
-    Generated::Train wire;
-    EXPECT_TRUE(TrainToThriftConverter().To(EmptyTrain(), wire).success);
+    auto wire = OfTrain::Sent(EmptyTrain());
     EXPECT_FALSE(wire.__isset.trainData || wire.__isset.recordingRanges || wire.__isset.lastKnownTimeCode);
     EXPECT_TRUE(wire.__isset.isInMoving && wire.__isset.isOutMoving);
 
-    EXPECT_TRUE(TrainToThriftConverter().To(FullTrain(), wire).success);
-    EXPECT_TRUE(TrainToThriftConverter().To(FullTrain(), wire).success);
+    wire = OfTrain::Sent(FullTrain(), OfTrain::Sent(FullTrain(), wire));
     EXPECT_EQ(wire.recordingRanges.size(), 4u);
-    EXPECT_TRUE(TrainToThriftConverter().To(EmptyTrain(), wire).success);
+    wire = OfTrain::Sent(EmptyTrain(), wire);
     EXPECT_FALSE(wire.__isset.trainData || wire.isInMoving);
     EXPECT_TRUE(wire.__isset.recordingRanges && wire.__isset.lastKnownTimeCode);
     EXPECT_EQ(wire.recordingRanges.size(), 4u);
@@ -231,13 +209,11 @@ TEST(TrainConversion, ReusedWireRecordKeepsRangesAndLosesAMissingClip)
 
 TEST(TrainConversion, BadRangesAndABadLastTimeCodeAreNoFailure)
 {
-    Generated::Train wire;
-    ASSERT_TRUE(TrainToThriftConverter().To(FullTrain(), wire).success);
+    auto wire = OfTrain::Sent(FullTrain());
     wire.recordingRanges[0].inBoundTimecode = "noon";
     wire.recordingRanges.emplace_back(); // all flags clear
     wire.lastKnownTimeCode = "2001-01-01T00:00:00:00@99999999999";
-    auto train = EmptyTrain();
-    EXPECT_TRUE(ThriftToTrainConverter().To(wire, train).success);
+    auto const train = OfTrain::Received(wire, EmptyTrain());
     EXPECT_THAT(train.trainRanges, testing::ElementsAre(RecordingRange(), FullRange(), RecordingRange()));
     EXPECT_EQ(train.lastKnownTimeCode, TimeCode::Empty());
 }
@@ -251,27 +227,19 @@ TEST(TrainConversion, OneFieldIsEnoughAndNoneEmptiesTheDestination)
     onlyIn.__isset.isInMoving = true;
     onlyOut.__isset.isOutMoving = true;
     for (auto const& wire : {onlyRanges, onlyTimeCode, onlyIn, onlyOut})
-    {
-        auto train = FullTrain();
-        EXPECT_TRUE(ThriftToTrainConverter().To(wire, train).success);
-        ExpectEmpty(train);
-    }
+        ExpectEmpty(OfTrain::Received(wire, FullTrain()));
 
     ASSERT_TRUE(ClipToThriftConverter().To(NtscClip(), onlyClip.trainData).success);
     onlyClip.__isset.trainData = true;
-    auto train = FullTrain();
-    EXPECT_TRUE(ThriftToTrainConverter().To(onlyClip, train).success);
+    auto train = OfTrain::Received(onlyClip, FullTrain());
     ASSERT_NE(train.trainClip, nullptr);
     EXPECT_EQ(*train.trainClip, NtscClip());
 
     for (bool const isInMoving : {true, false})
     {
-        Generated::Train wire;
-        ASSERT_TRUE(TrainToThriftConverter().To(FullTrain(isInMoving), wire).success);
+        auto wire = OfTrain::Sent(FullTrain(isInMoving));
         wire.__isset = {}; // the flags decide, not the values
-        auto const result = ThriftToTrainConverter().To(wire, train);
-        EXPECT_FALSE(result.success);
-        EXPECT_EQ(result.message, "Train is empty");
+        EXPECT_EQ(OfTrain::Told(wire, train), "Train is empty");
         ExpectEmpty(train);
     }
 }
@@ -282,9 +250,7 @@ TEST(TrainConversion, BadClipLeavesTheDestination)
     wire.__isset.trainData = wire.__isset.isInMoving = true;
     auto train = FullTrain(false);
     auto const* const clip = train.trainClip.get();
-    auto const result = ThriftToTrainConverter().To(wire, train);
-    EXPECT_FALSE(result.success);
-    EXPECT_EQ(result.message, "Clip is empty");
+    EXPECT_EQ(OfTrain::Told(wire, train), "Clip is empty");
     EXPECT_EQ(train.trainClip.get(), clip);
     EXPECT_EQ(train.trainRanges.size(), 2u);
     EXPECT_TRUE(train.isOutMoving);

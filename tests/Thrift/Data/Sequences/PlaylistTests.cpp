@@ -35,23 +35,10 @@ using testing::SizeIs;
 
 using AudioVideoTrack = Track<AudioVideoElement>;
 
-template<typename TToWire, typename TWire>
-TWire Sent(auto const& value)
-{
-    TWire wire;
-    EXPECT_EQ(Told<TToWire>(value, wire), "");
-    return wire;
-}
-
-Generated::Element WireElement()
-{
-    return Sent<ElementToThriftConverter, Generated::Element>(FullElement());
-}
-
-Generated::AudioVideoElement WireAudioVideoElement()
-{
-    return Sent<AudioVideoElementToThriftConverter, Generated::AudioVideoElement>(FullElement());
-}
+using OfElement = Converters<ElementToThriftConverter, ThriftToElementConverter>;
+using OfAudioVideoElement = Converters<AudioVideoElementToThriftConverter, ThriftToAudioVideoElementConverter>;
+using OfTrack = Converters<AudioVideoTrackToThriftConverter, ThriftToAudioVideoTrackConverter>;
+using OfPlaylist = Converters<PlaylistToThriftConverter, ThriftToPlaylistConverter>;
 
 /// What of FullElement() is applied before its tags, and these tags.
 Element UpToTags(std::vector<Tag> tags)
@@ -66,10 +53,10 @@ Element UpToTags(std::vector<Tag> tags)
 
 TEST(ElementConversion, RoundTrip)
 {
-    ExpectRoundTrip<ElementToThriftConverter, ThriftToElementConverter, Generated::Element, Element>(FullElement());
-    ExpectRoundTrip<ElementToThriftConverter, ThriftToElementConverter, Generated::Element>(Element());
-    ExpectFieldByField<ElementToThriftConverter, ThriftToElementConverter, Generated::Element, Element>(FullElement());
-    EXPECT_THAT(FieldByField(WireElement()), SizeIs(13));
+    ExpectRoundTrip<OfElement>(FullElement());
+    ExpectRoundTrip<OfElement>(Element());
+    ExpectFieldByField<OfElement>(FullElement());
+    EXPECT_THAT(FieldByField(OfElement::Sent(FullElement())), SizeIs(13));
 }
 
 TEST(ElementConversion, AnyFieldIsEnough)
@@ -78,18 +65,17 @@ TEST(ElementConversion, AnyFieldIsEnough)
     wire.speed.numerator = 3; // its inner flags are clear, and not looked at
     wire.id = 5;
     Element element = FullElement();
-    EXPECT_EQ(Told<ThriftToElementConverter>(wire, element), "Element is empty");
+    EXPECT_EQ(OfElement::Told(wire, element), "Element is empty");
     EXPECT_EQ(element, FullElement());
 
     wire.__isset.tags = true; // an empty list
-    EXPECT_EQ(Told<ThriftToElementConverter>(wire, element), "");
-    EXPECT_EQ(element, FullElement());
+    EXPECT_EQ(OfElement::Received(wire, FullElement()), FullElement());
 
     wire.__isset.tags = false;
     wire.__isset.speed = true;
-    EXPECT_EQ(Told<ThriftToElementConverter>(wire, element), "");
-    EXPECT_EQ(element.speed, (Speed{3, 0}));
-    EXPECT_FALSE(WireElement().speed.__isset.numerator || WireElement().speed.__isset.denominator);
+    EXPECT_EQ(OfElement::Received(wire, element).speed, (Speed{3, 0}));
+    EXPECT_FALSE(OfElement::Sent(FullElement()).speed.__isset.numerator ||
+                 OfElement::Sent(FullElement()).speed.__isset.denominator);
 }
 
 TEST(ElementConversion, SequenceIdIsReplaced)
@@ -99,26 +85,24 @@ TEST(ElementConversion, SequenceIdIsReplaced)
     wire.position = 6;
     wire.__isset.id = wire.__isset.sequenceId = wire.__isset.position = true;
     Element element = FullElement();
-    EXPECT_EQ(Told<ThriftToElementConverter>(wire, element), "SequenceId is empty");
+    EXPECT_EQ(OfElement::Told(wire, element), "SequenceId is empty");
     Element expected = FullElement();
     expected.id = 5;
     EXPECT_EQ(element, expected);
 
     wire.sequenceId.location = 7;
     wire.sequenceId.__isset.location = true;
-    EXPECT_EQ(Told<ThriftToElementConverter>(wire, element), "");
-    EXPECT_EQ(element.sequenceId, SequenceId(ServerId::None(), 7));
+    EXPECT_EQ(OfElement::Received(wire, element).sequenceId, SequenceId(ServerId::None(), 7));
 }
 
 TEST(ElementConversion, TagsAreAppendedBothWays)
 {
-    auto wire = WireElement();
+    auto wire = OfElement::Sent(FullElement());
     wire.tags[1].__isset.commandType = false; // the type is taken all the same
-    Element element = FullElement();
-    EXPECT_EQ(Told<ThriftToElementConverter>(wire, element), "");
+    auto const element = OfElement::Received(wire, FullElement());
     EXPECT_THAT(element.tags,
                 ElementsAre(FullTag(), Tag(Tag::CommandType::GpiOut), FullTag(), Tag(Tag::CommandType::GpiOut)));
-    EXPECT_EQ(Told<ElementToThriftConverter>(element, wire), "");
+    wire = OfElement::Sent(element, wire);
     EXPECT_THAT(wire.tags, SizeIs(6));
     EXPECT_EQ(wire.tags[5].commandType, Generated::CommandType::GpiOut);
 }
@@ -127,14 +111,14 @@ TEST(ElementConversion, BadTagStopsTheConversion)
 {
     for (auto const* const told : {"Tag is empty", "TagProperty is empty"})
     {
-        auto wire = WireElement();
+        auto wire = OfElement::Sent(FullElement());
         wire.tags.insert(wire.tags.begin() + 1, wire.tags[0]);
         if (told == std::string("Tag is empty"))
             wire.tags[1].__isset = {};
         else
             wire.tags[1].properties.begin()->second.__isset = {};
         Element element;
-        EXPECT_EQ(Told<ThriftToElementConverter>(wire, element), told);
+        EXPECT_EQ(OfElement::Told(wire, element), told);
         EXPECT_EQ(element, UpToTags({FullTag()}));
     }
 }
@@ -143,14 +127,14 @@ TEST(ElementConversion, MillionTagsGrowTheListsByFactors)
 {
     Element thousand;
     for (auto id = 0; id < 1000; ++id) thousand.tags.emplace_back(Tag::CommandType::GpiOut).id = id;
-    auto const wireThousand = Sent<ElementToThriftConverter, Generated::Element>(thousand);
+    auto const wireThousand = OfElement::Sent(thousand);
     Element element;
     Generated::Element wire;
     auto growths = 0;
     for (auto i = 0; i < 1000; ++i)
     {
         auto const capacities = element.tags.capacity() + wire.tags.capacity();
-        ASSERT_EQ(Told<ThriftToElementConverter>(wireThousand, element), "");
+        ASSERT_EQ(OfElement::Told(wireThousand, element), "");
         ASSERT_EQ(Told<ElementToThriftConverter>(thousand, wire), "");
         growths += element.tags.capacity() + wire.tags.capacity() != capacities;
     }
@@ -158,27 +142,24 @@ TEST(ElementConversion, MillionTagsGrowTheListsByFactors)
     EXPECT_EQ(element.tags.size(), 1'000'000u);
 
     element = {};
-    EXPECT_EQ(Told<ThriftToElementConverter>(wire, element), "");
+    EXPECT_EQ(OfElement::Told(wire, element), "");
     EXPECT_EQ(element.tags.size(), 1'000'000u);
     EXPECT_EQ(element.tags.back(), thousand.tags.back());
 }
 
 TEST(AudioVideoElementConversion, RoundTrip)
 {
-    ExpectRoundTrip<AudioVideoElementToThriftConverter, ThriftToAudioVideoElementConverter,
-                    Generated::AudioVideoElement>(FullElement());
-    ExpectRoundTrip<AudioVideoElementToThriftConverter, ThriftToAudioVideoElementConverter,
-                    Generated::AudioVideoElement>(AudioVideoElement());
+    ExpectRoundTrip<OfAudioVideoElement>(FullElement());
+    ExpectRoundTrip<OfAudioVideoElement>(AudioVideoElement());
 }
 
 TEST(AudioVideoElementConversion, EveryFieldIsAppliedByItsOwnFlagAndAllButTheElementCount)
 {
     AudioVideoElement assembled;
     std::string counted;
-    for (auto const& field : FieldByField(WireAudioVideoElement()))
+    for (auto const& field : FieldByField(OfAudioVideoElement::Sent(FullElement())))
     {
-        auto const told =
-            Told<ThriftToAudioVideoElementConverter>(Read<Generated::AudioVideoElement>(field), assembled);
+        auto const told = OfAudioVideoElement::Told(Read<Generated::AudioVideoElement>(field), assembled);
         if (told.empty())
             counted += std::to_string(field[2]) + ' '; // its id, behind the type
         else
@@ -190,32 +171,29 @@ TEST(AudioVideoElementConversion, EveryFieldIsAppliedByItsOwnFlagAndAllButTheEle
 
 TEST(AudioVideoElementConversion, FailureOfTheElementIsSwallowed)
 {
-    auto wire = WireAudioVideoElement();
+    auto wire = OfAudioVideoElement::Sent(FullElement());
     wire.element.tags[1].__isset = {};
-    AudioVideoElement element;
-    EXPECT_EQ(Told<ThriftToAudioVideoElementConverter>(wire, element), "");
     auto expected = FullElement();
     static_cast<Element&>(expected) = UpToTags({FullTag()});
-    EXPECT_EQ(element, expected);
+    EXPECT_EQ(OfAudioVideoElement::Received(wire), expected);
 
     Generated::AudioVideoElement onlyElement;
     onlyElement.element = wire.element;
     onlyElement.__isset.element = true;
     AudioVideoElement other;
-    EXPECT_EQ(Told<ThriftToAudioVideoElementConverter>(onlyElement, other), "AudioVideoElement is empty");
+    EXPECT_EQ(OfAudioVideoElement::Told(onlyElement, other), "AudioVideoElement is empty");
     EXPECT_EQ(static_cast<Element const&>(other), UpToTags({FullTag()}));
 
     onlyElement.element = {};
-    EXPECT_EQ(Told<ThriftToAudioVideoElementConverter>(onlyElement, other), "AudioVideoElement is empty");
-    EXPECT_EQ(Told<ThriftToAudioVideoElementConverter>(Generated::AudioVideoElement(), other),
-              "AudioVideoElement is empty");
+    EXPECT_EQ(OfAudioVideoElement::Told(onlyElement, other), "AudioVideoElement is empty");
+    EXPECT_EQ(OfAudioVideoElement::Told(Generated::AudioVideoElement(), other), "AudioVideoElement is empty");
 }
 
 TEST(AudioVideoElementConversion, WireElementIsReplaced)
 {
-    auto wire = WireAudioVideoElement();
+    auto wire = OfAudioVideoElement::Sent(FullElement());
     wire.element.speed.__isset.numerator = true;
-    EXPECT_EQ(Told<AudioVideoElementToThriftConverter>(FullElement(), wire), "");
+    wire = OfAudioVideoElement::Sent(FullElement(), wire);
     EXPECT_THAT(wire.element.tags, SizeIs(2));
     EXPECT_FALSE(wire.element.speed.__isset.numerator);
 }
@@ -224,8 +202,7 @@ TEST(TrackConversion, RoundTrip)
 {
     for (auto const& track : {AudioVideoTrack{0, {FullElement(), AudioVideoElement()}}, AudioVideoTrack{250, {}},
                               AudioVideoTrack{-1, {}}, AudioVideoTrack()})
-        ExpectRoundTrip<AudioVideoTrackToThriftConverter, ThriftToAudioVideoTrackConverter, Generated::AudioVideoTrack>(
-            track);
+        ExpectRoundTrip<OfTrack>(track);
 }
 
 TEST(TrackConversion, ElementsTravelOrTheirNumber)
@@ -233,7 +210,7 @@ TEST(TrackConversion, ElementsTravelOrTheirNumber)
     Generated::AudioVideoTrack wire;
     auto const expectSent = [&wire](AudioVideoTrack const& track, bool const isNumber, std::size_t const size)
     {
-        EXPECT_EQ(Told<AudioVideoTrackToThriftConverter>(track, wire), "");
+        wire = OfTrack::Sent(track, wire);
         EXPECT_EQ(wire.__isset.numberOfElements, isNumber);
         EXPECT_EQ(wire.__isset.elements, !isNumber);
         EXPECT_THAT(wire.elements, SizeIs(size));
@@ -250,15 +227,11 @@ TEST(TrackConversion, ElementsTravelOrTheirNumber)
 TEST(TrackConversion, ReadingAppendsElementsOrTakesTheNumber)
 {
     Generated::AudioVideoTrack wire;
-    wire.elements = {WireAudioVideoElement()};
+    wire.elements = {OfAudioVideoElement::Sent(FullElement())};
     wire.numberOfElements = 5;
     AudioVideoTrack const held{9, {AudioVideoElement()}};
     auto const expectRead = [&](AudioVideoTrack const& expected)
-    {
-        auto track = held;
-        EXPECT_EQ(Told<ThriftToAudioVideoTrackConverter>(wire, track), "");
-        EXPECT_EQ(track, expected);
-    };
+    { EXPECT_EQ(OfTrack::Received(wire, held), expected); };
     expectRead(held); // neither flag
     wire.__isset.numberOfElements = true;
     expectRead({5, {}});
@@ -271,25 +244,24 @@ TEST(TrackConversion, ReadingAppendsElementsOrTakesTheNumber)
 TEST(TrackConversion, BadElementStopsTheConversion)
 {
     Generated::AudioVideoTrack wire;
-    wire.elements = {WireAudioVideoElement(), Generated::AudioVideoElement(), WireAudioVideoElement()};
+    wire.elements = {OfAudioVideoElement::Sent(FullElement()), Generated::AudioVideoElement(),
+                     OfAudioVideoElement::Sent(FullElement())};
     wire.__isset.elements = true;
     AudioVideoTrack track{9, {AudioVideoElement()}};
-    EXPECT_EQ(Told<ThriftToAudioVideoTrackConverter>(wire, track), "AudioVideoElement is empty");
+    EXPECT_EQ(OfTrack::Told(wire, track), "AudioVideoElement is empty");
     EXPECT_EQ(track, (AudioVideoTrack{9, {AudioVideoElement(), FullElement()}}));
 }
 
 TEST(PlaylistConversion, RoundTrip)
 {
-    ExpectRoundTrip<PlaylistToThriftConverter, ThriftToPlaylistConverter, Generated::Playlist>(FullPlaylist());
-    ExpectRoundTrip<PlaylistToThriftConverter, ThriftToPlaylistConverter, Generated::Playlist>(Playlist::Empty(),
-                                                                                               FullPlaylist());
-    ExpectFieldByField<PlaylistToThriftConverter, ThriftToPlaylistConverter, Generated::Playlist>(FullPlaylist());
+    ExpectRoundTrip<OfPlaylist>(FullPlaylist());
+    ExpectRoundTrip<OfPlaylist>(Playlist::Empty(), FullPlaylist());
+    ExpectFieldByField<OfPlaylist>(FullPlaylist());
 }
 
 TEST(PlaylistConversion, WireTrackIsReplaced)
 {
-    auto wire = Sent<PlaylistToThriftConverter, Generated::Playlist>(FullPlaylist());
-    EXPECT_EQ(Told<PlaylistToThriftConverter>(FullPlaylist(), wire), "");
+    auto const wire = OfPlaylist::Sent(FullPlaylist(), OfPlaylist::Sent(FullPlaylist()));
     EXPECT_THAT(wire.audioVideoTrack.elements, SizeIs(2));
     EXPECT_TRUE(wire.__isset.audioVideoTrack && wire.__isset.auxTrackClipUmId && wire.__isset.sequence);
 }
@@ -297,19 +269,19 @@ TEST(PlaylistConversion, WireTrackIsReplaced)
 TEST(PlaylistConversion, EmptyWhenNoFieldIsThere)
 {
     auto playlist = FullPlaylist();
-    EXPECT_EQ(Told<ThriftToPlaylistConverter>(Generated::Playlist(), playlist), "Playlist is empty");
+    EXPECT_EQ(OfPlaylist::Told(Generated::Playlist(), playlist), "Playlist is empty");
     EXPECT_EQ(playlist, FullPlaylist());
 }
 
 TEST(PlaylistConversion, FailuresOfThePartsAreSwallowed)
 {
-    auto wire = Sent<PlaylistToThriftConverter, Generated::Playlist>(FullPlaylist());
+    auto wire = OfPlaylist::Sent(FullPlaylist());
     wire.audioVideoTrack.elements.insert(wire.audioVideoTrack.elements.begin() + 1, Generated::AudioVideoElement());
     wire.sequence.playRateDenominator = 2;
     wire.sequence.playRateNumerator = 25;
     auto playlist = Playlist::Empty();
     playlist.audioVideoTrack = {5, {AudioVideoElement(), AudioVideoElement()}};
-    EXPECT_EQ(Told<ThriftToPlaylistConverter>(wire, playlist), "");
+    playlist = OfPlaylist::Received(wire, playlist);
     auto expected = FullPlaylist();
     expected.audioVideoTrack = {0, {FullElement()}}; // replaced by what it reached
     expected.playRate = Playlist().playRate;
@@ -319,9 +291,8 @@ TEST(PlaylistConversion, FailuresOfThePartsAreSwallowed)
 
     Generated::Playlist onlyEmptyParts;
     onlyEmptyParts.__isset.audioVideoTrack = onlyEmptyParts.__isset.sequence = true;
-    EXPECT_EQ(Told<ThriftToPlaylistConverter>(onlyEmptyParts, playlist), "");
     expected.audioVideoTrack = {};
-    EXPECT_EQ(playlist, expected);
+    EXPECT_EQ(OfPlaylist::Received(onlyEmptyParts, playlist), expected);
 }
 
 } // namespace

@@ -36,15 +36,11 @@ using TimePoints::VideoRate;
 
 using WireArchiveStatus = Corvane::Zelmar::Serialization::Thrift::Data::Clips::Generated::ArchiveStatus;
 
+using OfSequenceId = Converters<SequenceIdToThriftConverter, ThriftToSequenceIdConverter>;
+using OfSequence = Converters<SequenceToThriftConverter, ThriftToSequenceConverter>;
+
 constexpr auto Min64 = std::numeric_limits<std::int64_t>::min();
 constexpr auto Max64 = std::numeric_limits<std::int64_t>::max();
-
-Generated::Sequence Sent(Sequence const& sequence)
-{
-    Generated::Sequence wire;
-    EXPECT_EQ(Told<SequenceToThriftConverter>(sequence, wire), "");
-    return wire;
-}
 
 std::string Text(auto const& payload)
 {
@@ -54,19 +50,18 @@ std::string Text(auto const& payload)
 TEST(SequenceIdConversion, RoundTripAndPatch)
 {
     SequenceId const full(ServerId(0x7FFFFFFF), SequenceId::MaxLocation);
-    ExpectRoundTrip<SequenceIdToThriftConverter, ThriftToSequenceIdConverter, Generated::SequenceId>(full);
-    ExpectRoundTrip<SequenceIdToThriftConverter, ThriftToSequenceIdConverter, Generated::SequenceId>(SequenceId());
-    ExpectFieldByField<SequenceIdToThriftConverter, ThriftToSequenceIdConverter, Generated::SequenceId>(full);
+    ExpectRoundTrip<OfSequenceId>(full);
+    ExpectRoundTrip<OfSequenceId>(SequenceId());
+    ExpectFieldByField<OfSequenceId>(full);
 
     Generated::SequenceId wire;
     wire.serverId = 5;
     wire.location = 110; // its flag is clear
     auto id = full;
-    EXPECT_EQ(Told<ThriftToSequenceIdConverter>(wire, id), "SequenceId is empty");
+    EXPECT_EQ(OfSequenceId::Told(wire, id), "SequenceId is empty");
     EXPECT_EQ(id, full);
     wire.__isset.serverId = true;
-    EXPECT_EQ(Told<ThriftToSequenceIdConverter>(wire, id), "");
-    EXPECT_EQ(id, SequenceId(ServerId(5), SequenceId::MaxLocation));
+    EXPECT_EQ(OfSequenceId::Received(wire, full), SequenceId(ServerId(5), SequenceId::MaxLocation));
 }
 
 TEST(SequenceIdConversionDeathTest, LocationOutOfRangeEndsTheProcess)
@@ -99,21 +94,20 @@ TEST(SequenceIdConversionDeathTest, LocationOutOfRangeEndsTheProcess)
 
 TEST(SequenceConversion, RoundTrip)
 {
-    ExpectRoundTrip<SequenceToThriftConverter, ThriftToSequenceConverter, Generated::Sequence>(FullSequence());
-    ExpectRoundTrip<SequenceToThriftConverter, ThriftToSequenceConverter, Generated::Sequence>(Sequence());
-    ExpectRoundTrip<SequenceToThriftConverter, ThriftToSequenceConverter, Generated::Sequence>(Sequence(),
-                                                                                               FullSequence());
+    ExpectRoundTrip<OfSequence>(FullSequence());
+    ExpectRoundTrip<OfSequence>(Sequence());
+    ExpectRoundTrip<OfSequence>(Sequence(), FullSequence());
 }
 
 TEST(SequenceConversion, EveryFieldIsAppliedByItsOwnFlagAndSixCount)
 {
     Sequence assembled;
     std::string counted;
-    auto const fields = FieldByField(Sent(FullSequence()));
+    auto const fields = FieldByField(OfSequence::Sent(FullSequence()));
     EXPECT_EQ(fields.size(), 16u);
     for (auto const& field : fields)
     {
-        auto const told = Told<ThriftToSequenceConverter>(Read<Generated::Sequence>(field), assembled);
+        auto const told = OfSequence::Told(Read<Generated::Sequence>(field), assembled);
         if (told.empty())
             counted += std::to_string(field[2]) + ' '; // its id, behind the type
         else
@@ -125,12 +119,12 @@ TEST(SequenceConversion, EveryFieldIsAppliedByItsOwnFlagAndSixCount)
     EXPECT_EQ(assembled, expected);
 
     Generated::Sequence wire;
-    EXPECT_EQ(Told<ThriftToSequenceConverter>(wire, assembled), "Sequence is empty");
+    EXPECT_EQ(OfSequence::Told(wire, assembled), "Sequence is empty");
     wire.playRateNumerator = 60000;
     wire.playRateDenominator = 1001;
     wire.__isset.playRateNumerator = wire.__isset.playRateDenominator = true;
     EXPECT_EQ(assembled, expected);
-    EXPECT_EQ(Told<ThriftToSequenceConverter>(wire, assembled), "Sequence is empty"); // applied, yet it does not count
+    EXPECT_EQ(OfSequence::Told(wire, assembled), "Sequence is empty"); // applied, yet it does not count
     EXPECT_EQ(assembled, FullSequence());
 }
 
@@ -164,11 +158,11 @@ TEST(SequenceConversion, PlayRateGoesByItsNumeratorAlone)
              Row{Max64, Min64, refused},
          })
     {
-        auto wire = Sent(FullSequence());
+        auto wire = OfSequence::Sent(FullSequence());
         wire.playRateNumerator = numerator;
         wire.playRateDenominator = denominator;
         Sequence sequence;
-        auto const told = Told<ThriftToSequenceConverter>(wire, sequence);
+        auto const told = OfSequence::Told(wire, sequence);
         auto expected = FullSequence();
         if (taken != refused)
         {
@@ -203,10 +197,10 @@ TEST(SequenceConversion, TextThatIsNoTimeCodeStopsTheConversion)
          {"", "noon", "2024-02-29T12:00:00:00", "0999-01-01T00:00:00:00@25", "2024-02-29 12:00:00:00@25",
           "30:00:00:00@25", "00:60:00:00@25", "00:00:00:00@", "00:00:00:00@25 ", "00:00:00.00@25", "00:00:00:00@-25"})
     {
-        auto wire = Sent(FullSequence());
+        auto wire = OfSequence::Sent(FullSequence());
         wire.timeCodeRegenReference = text;
         Sequence sequence;
-        EXPECT_EQ(Told<ThriftToSequenceConverter>(wire, sequence),
+        EXPECT_EQ(OfSequence::Told(wire, sequence),
                   std::string("Invalid TimeCode format (TalvoTimeCodeParser the string '") + text +
                       "' has not the expected format.)");
         EXPECT_EQ(sequence, expected);
@@ -217,7 +211,7 @@ TEST(SequenceConversion, TextThatIsNoTimeCodeStopsTheConversion)
     undated.timeCodeRegenReference = ParsedTimeCode("10:11:12:13@25");
     Sequence sequence;
     EXPECT_EQ(
-        Told<ThriftToSequenceConverter>(Sent(undated), sequence),
+        OfSequence::Told(OfSequence::Sent(undated), sequence),
         "Invalid TimeCode format (TalvoTimeCodeParser the string '-1-0-1-0-1T10:11:12:13@25' has not the expected "
         "format.)");
     EXPECT_EQ(sequence, expected);
@@ -228,7 +222,7 @@ TEST(SequenceConversionDeathTest, TimeCodeWithABadValueEndsTheProcess)
     for (auto const* const text : {"2023-02-29T00:00:00:00@50", "24:00:00:00@25", "00:00:00:25@25", "00:00:00:00@0",
                                    "00:01:00;00@30", "00:00:00;00@25", "2024-01-01T00:00:00:00@99999999999"})
     {
-        auto wire = Sent(FullSequence());
+        auto wire = OfSequence::Sent(FullSequence());
         wire.timeCodeRegenReference = text;
         Sequence sequence;
         EXPECT_DEATH(std::ignore = ThriftToSequenceConverter().To(wire, sequence), "terminate") << text;
@@ -240,11 +234,9 @@ TEST(SequenceConversion, ArchiveStatusComesBeforeTheEmptyTest)
     Generated::Sequence wire;
     wire.archiveStatus = static_cast<WireArchiveStatus::type>(99);
     wire.__isset.archiveStatus = true;
-    auto sequence = FullSequence();
-    EXPECT_EQ(Told<ThriftToSequenceConverter>(wire, sequence), "");
     auto expected = FullSequence();
     expected.archiveStatus = Corvane::Data::Clips::ArchiveStatus::NoStore;
-    EXPECT_EQ(sequence, expected);
+    EXPECT_EQ(OfSequence::Received(wire, FullSequence()), expected);
 }
 
 TEST(SequenceConversion, TextsAreCutAndFilledWithZeros)
@@ -256,14 +248,13 @@ TEST(SequenceConversion, TextsAreCutAndFilledWithZeros)
     wire.varId.data = "\x3D\xD8\x00"s; // a UTF-16 unit and a half
     wire.varId.isUtf16 = true;
     wire.name.data = "a\0b\0c\0d\0e\0f\0g\0h\0i\0j\0k\0\x3D\xD8\x00\xDE"s; // the last two units are one character
-    auto sequence = FullSequence();
-    EXPECT_EQ(Told<ThriftToSequenceConverter>(wire, sequence), "");
+    auto sequence = OfSequence::Received(wire, FullSequence());
     EXPECT_EQ(sequence.id, SequenceId(ServerId(0), 0));
     EXPECT_STREQ(sequence.umId.GetUmId(), "TWELVE C");
     EXPECT_TRUE(sequence.varId.isUtf16);
     EXPECT_FALSE(sequence.name.isUtf16);
 
-    auto const again = Sent(sequence);
+    auto const again = OfSequence::Sent(sequence);
     EXPECT_EQ(again.umId, "TWELVE C");
     EXPECT_EQ(again.varId.data, wire.varId.data + std::string(29, '\0'));
     EXPECT_EQ(again.name.data, wire.name.data.substr(0, 24));
@@ -272,12 +263,12 @@ TEST(SequenceConversion, TextsAreCutAndFilledWithZeros)
     wire.varId.data = std::string(31, 'v') + "wx"; // an odd start: the cut falls inside a unit
     wire.name.data = "";
     wire.umId = "A\0B"s;
-    EXPECT_EQ(Told<ThriftToSequenceConverter>(wire, sequence), "");
+    sequence = OfSequence::Received(wire, sequence);
     EXPECT_EQ(Text(sequence.varId.payload), std::string(31, 'v') + 'w');
     EXPECT_EQ(Text(sequence.name.payload), std::string(24, '\0'));
     EXPECT_THAT(sequence.varId.end, testing::Each('\0'));
     EXPECT_EQ(sequence.umId, SomeUmId("A"));
-    EXPECT_EQ(Sent(Sequence()).varId.data, std::string(32, ' '));
+    EXPECT_EQ(OfSequence::Sent(Sequence()).varId.data, std::string(32, ' '));
 }
 
 } // namespace

@@ -27,6 +27,9 @@ using Corvane::Data::Sequences::TagProperty;
 using testing::ElementsAre;
 using testing::Pair;
 
+using OfProperty = Converters<TagPropertyToThriftConverter, ThriftToTagPropertyConverter>;
+using OfTag = Converters<TagToThriftConverter, ThriftToTagConverter>;
+
 Generated::TagProperty WireProperty(std::vector<int> const& value)
 {
     Generated::TagProperty property;
@@ -52,8 +55,7 @@ TEST(TagPropertyConversion, RoundTripReplacesTheDestination)
     for (auto const& property : {Property(TagProperty::Type::String, {72, 105}),
                                  Property(TagProperty::Type::Vector, {-2147483647 - 1, 0, 2147483647}),
                                  Property(TagProperty::Type::Boolean, {})})
-        ExpectRoundTrip<TagPropertyToThriftConverter, ThriftToTagPropertyConverter, Generated::TagProperty>(property,
-                                                                                                            fresh);
+        ExpectRoundTrip<OfProperty>(property, fresh);
 }
 
 TEST(TagPropertyConversion, BothFieldsAreNeeded)
@@ -64,7 +66,7 @@ TEST(TagPropertyConversion, BothFieldsAreNeeded)
         if (missing != 1) wire.__isset.dataType = false;
         if (missing != 0) wire.__isset.value = false;
         auto property = Property(TagProperty::Type::Vector, {7});
-        EXPECT_EQ(Told<ThriftToTagPropertyConverter>(wire, property), "TagProperty is empty");
+        EXPECT_EQ(OfProperty::Told(wire, property), "TagProperty is empty");
         EXPECT_EQ(property, Property(TagProperty::Type::Vector, {7}));
     }
 }
@@ -73,24 +75,21 @@ TEST(TagPropertyConversion, WireIntegersAreAppendedTo)
 {
     auto wire = WireProperty({1, 2});
     wire.__isset = {};
-    EXPECT_EQ(Told<TagPropertyToThriftConverter>(Property(TagProperty::Type::Vector, {3}), wire), "");
+    wire = OfProperty::Sent(Property(TagProperty::Type::Vector, {3}), wire);
     EXPECT_THAT(wire.value, ElementsAre(1, 2, 3));
     EXPECT_EQ(wire.dataType, Generated::TagPropertyType::Vector);
     EXPECT_TRUE(wire.__isset.dataType && wire.__isset.value);
 
-    Generated::TagProperty empty;
-    EXPECT_EQ(Told<TagPropertyToThriftConverter>(Property(TagProperty::Type::Vector, {}), empty), "");
-    EXPECT_TRUE(empty.__isset.value);
+    EXPECT_TRUE(OfProperty::Sent(Property(TagProperty::Type::Vector, {})).__isset.value);
 }
 
 TEST(TagConversion, RoundTripResetsTheDestination)
 {
     Tag const custom(Tag::CommandType::Custom);
     for (auto const& [value, fresh] : {std::pair(FullTag(), custom), {custom, custom}, {custom, FullTag()}})
-        ExpectRoundTrip<TagToThriftConverter, ThriftToTagConverter, Generated::Tag>(value, fresh);
+        ExpectRoundTrip<OfTag>(value, fresh);
 
-    Generated::Tag wire;
-    EXPECT_EQ(Told<TagToThriftConverter>(custom, wire), "");
+    auto const wire = OfTag::Sent(custom);
     EXPECT_EQ(FieldByField(wire).size(), 4u);
     EXPECT_TRUE(wire.__isset.id && wire.__isset.commandType && wire.__isset.field && wire.__isset.properties);
 }
@@ -123,18 +122,17 @@ TEST(TagConversion, CommandTypeResetsBeforeTheOtherFieldsPatch)
         if (has('f')) expected.field = 2;
         if (has('P')) expected.properties.emplace(TagProperty::Key::Duration, TagProperty(3));
         auto tag = FullTag();
-        EXPECT_EQ(Told<ThriftToTagConverter>(wire, tag), told) << flags;
+        EXPECT_EQ(OfTag::Told(wire, tag), told) << flags;
         EXPECT_EQ(tag, expected) << flags;
     }
 }
 
 TEST(TagConversion, BadPropertyStopsTheConversion)
 {
-    Generated::Tag wire;
-    ASSERT_EQ(Told<TagToThriftConverter>(FullTag(), wire), "");
+    auto wire = OfTag::Sent(FullTag());
     wire.properties[Generated::TagPropertyKey::Levels].__isset.value = false;
     Tag tag(Tag::CommandType::Custom);
-    EXPECT_EQ(Told<ThriftToTagConverter>(wire, tag), "TagProperty is empty");
+    EXPECT_EQ(OfTag::Told(wire, tag), "TagProperty is empty");
     auto expected = FullTag(); // what stands before it, in the order of the keys
     expected.properties.erase(TagProperty::Key::Levels);
     expected.properties.erase(TagProperty::Key::TriggerType);
@@ -147,14 +145,11 @@ TEST(TagConversion, KeysThatAreThereKeepTheirValues)
     wire.properties[Generated::TagPropertyKey::Name] = WireProperty({1});
     wire.properties[Generated::TagPropertyKey::Width] = WireProperty({2});
     wire.__isset.properties = true;
-    auto tag = FullTag();
-    EXPECT_EQ(Told<ThriftToTagConverter>(wire, tag), "");
     auto expected = FullTag();
     expected.properties.emplace(TagProperty::Key::Width, TagProperty(2));
-    EXPECT_EQ(tag, expected);
+    EXPECT_EQ(OfTag::Received(wire, FullTag()), expected);
 
-    EXPECT_EQ(Told<TagToThriftConverter>(FullTag(), wire), "");
-    EXPECT_THAT(ByKey(wire.properties),
+    EXPECT_THAT(ByKey(OfTag::Sent(FullTag(), wire).properties),
                 ElementsAre(Pair(0, ElementsAre(1)), Pair(6, ElementsAre(1)), Pair(13, ElementsAre(2)),
                             Pair(15, ElementsAre(-2147483647 - 1, 0, 2147483647)), Pair(17, ElementsAre())));
 }
@@ -172,8 +167,7 @@ TEST(TagConversion, UnknownWireKeysCollapseToTheFirst)
         wire.__isset.properties = true;
         for (auto const key : keys)
             wire.properties[static_cast<Generated::TagPropertyKey::type>(key)] = WireProperty({key});
-        Tag tag(Tag::CommandType::Custom);
-        EXPECT_EQ(Told<ThriftToTagConverter>(wire, tag), "");
+        auto const tag = OfTag::Received(wire, Tag(Tag::CommandType::Custom));
         EXPECT_THAT(ByKey(tag.properties), ElementsAre(Pair(0, ElementsAre(kept))));
     }
 }
@@ -200,9 +194,8 @@ TEST(TagConversion, UnknownDomainKeysCollapseWhateverTheirOrder)
                 for (auto const key : order)
                     tag.properties.emplace(static_cast<TagProperty::Key>(key), TagProperty(key));
                 tag.properties.emplace(TagProperty::Key::Name, TagProperty(6));
-                Generated::Tag wire;
-                EXPECT_EQ(Told<TagToThriftConverter>(tag, wire), "");
-                EXPECT_THAT(ByKey(wire.properties), ElementsAre(Pair(0, ElementsAre(kept)), Pair(6, ElementsAre(6))));
+                EXPECT_THAT(ByKey(OfTag::Sent(tag).properties),
+                            ElementsAre(Pair(0, ElementsAre(kept)), Pair(6, ElementsAre(6))));
             } while (std::next_permutation(order.begin(), order.end()));
         }
     }

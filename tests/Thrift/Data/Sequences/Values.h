@@ -11,14 +11,6 @@
 namespace Talvo::Tests
 {
 
-/// Converts, and gives the text of the failure: nothing for a success.
-template<typename TConverter>
-std::string Told(auto const& source, auto& destination)
-{
-    auto const result = TConverter().To(source, destination);
-    return result.success == result.message.empty() ? result.message : "a success with a text, or a failure without";
-}
-
 inline Corvane::Data::Clips::UmId SomeUmId(char const* const text)
 {
     Corvane::Data::Clips::UmId umId;

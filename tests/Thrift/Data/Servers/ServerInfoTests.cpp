@@ -25,27 +25,21 @@ using Corvane::Data::Servers::ServerId;
 using Corvane::Data::Servers::ServerInfo;
 using testing::ElementsAre;
 
-Generated::ServerInfo Sent(ServerInfo const& info)
-{
-    Generated::ServerInfo wire;
-    EXPECT_TRUE(ServerInfoToThriftConverter().To(info, wire).success);
-    return wire;
-}
+using Info = Converters<ServerInfoToThriftConverter, ThriftToServerInfoConverter>;
 
 /// What becomes of a full destination, which holds nothing afterwards that was not on the wire.
 ServerInfo Received(Generated::ServerInfo const& wire, std::string const& failure = {})
 {
     auto info = FullServerInfo();
-    EXPECT_EQ(ThriftToServerInfoConverter().To(wire, info).message, failure);
+    EXPECT_EQ(Info::Told(wire, info), failure);
     return info;
 }
 
 TEST(ServerInfoConversion, RoundTrip)
 {
-    ExpectRoundTrip<ServerInfoToThriftConverter, ThriftToServerInfoConverter, Generated::ServerInfo>(FullServerInfo());
-    ExpectRoundTrip<ServerInfoToThriftConverter, ThriftToServerInfoConverter, Generated::ServerInfo>(ServerInfo(),
-                                                                                                     FullServerInfo());
-    EXPECT_EQ(Printed(Sent(FullServerInfo())),
+    ExpectRoundTrip<Info>(FullServerInfo());
+    ExpectRoundTrip<Info>(ServerInfo(), FullServerInfo());
+    EXPECT_EQ(Printed(Info::Sent(FullServerInfo())),
               "ServerInfo(serverId=-7, userNumber=-8, corvaneVersion=A version text of 32 bytes, full, "
               "serverChassis=18, hardwareRevision=16 bytes of text, hostName=" +
                   std::string(254, 'h') +
@@ -58,22 +52,21 @@ TEST(ServerInfoConversion, ANewOneIsNoServer)
     EXPECT_EQ(info.serverId, ServerId(-1));
     EXPECT_TRUE(info.hasNoGbeAddresses);
     EXPECT_FALSE(info.isLocal);
-    auto const wire = Sent(info);
+    auto const wire = Info::Sent(info);
     EXPECT_FALSE(wire.__isset.corvaneVersion || wire.__isset.hardwareRevision || wire.__isset.hostName ||
                  wire.__isset.gbeIpAddresses);
 }
 
 TEST(ServerInfoConversion, ReusedWireRecordKeepsTextsAndAppendsAddresses)
 {
-    auto wire = Sent(FullServerInfo());
-    EXPECT_TRUE(ServerInfoToThriftConverter().To(ServerInfo(), wire).success);
+    auto wire = Info::Sent(FullServerInfo());
+    wire = Info::Sent(ServerInfo(), wire);
     EXPECT_EQ(wire.hostName, std::string(254, 'h'));
     EXPECT_EQ(wire.corvaneVersion, "A version text of 32 bytes, full");
     EXPECT_EQ(wire.hardwareRevision, "16 bytes of text");
     EXPECT_EQ(wire.serverId, -1);
     EXPECT_THAT(wire.gbeIpAddresses, ElementsAre(0x0A000001, -66052));
-    EXPECT_TRUE(ServerInfoToThriftConverter().To(FullServerInfo(), wire).success);
-    EXPECT_THAT(wire.gbeIpAddresses, ElementsAre(0x0A000001, -66052, 0x0A000001, -66052));
+    EXPECT_THAT(Info::Sent(FullServerInfo(), wire).gbeIpAddresses, ElementsAre(0x0A000001, -66052, 0x0A000001, -66052));
 }
 
 TEST(ServerInfoConversion, AddressesAreFourOctetsMostSignificantFirst)
@@ -95,7 +88,7 @@ TEST(ServerInfoConversion, AddressesAreFourOctetsMostSignificantFirst)
         info.kronoIpAddress = octets;
         info.gbeIpAddressPair = {octets, {1, 2, 3, 4}};
         info.hasNoGbeAddresses = false;
-        auto const wire = Sent(info);
+        auto const wire = Info::Sent(info);
         EXPECT_EQ(wire.kronoIpAddress, number);
         EXPECT_THAT(wire.gbeIpAddresses, ElementsAre(number, 0x01020304));
         EXPECT_EQ(Received(wire), info);
@@ -110,7 +103,7 @@ TEST(ServerInfoConversion, ChassisOutsideOneToEighteenIsNone)
         auto const expected = number >= 1 && number <= 18 ? number : 0;
         ServerInfo info;
         info.serverChassis = static_cast<ServerChassis>(number);
-        auto wire = Sent(info);
+        auto wire = Info::Sent(info);
         EXPECT_EQ(wire.serverChassis, expected);
         wire.serverChassis = static_cast<Generated::ServerChassis::type>(number);
         EXPECT_EQ(Received(wire).serverChassis, static_cast<ServerChassis>(expected));
@@ -137,14 +130,14 @@ TEST(ServerInfoConversion, TextsAreCutAndEnded)
     expected = {};
     SetText(expected.corvaneVersion, wire.corvaneVersion);
     EXPECT_EQ(Received(wire), expected);
-    EXPECT_EQ(Sent(expected).corvaneVersion, "1");
+    EXPECT_EQ(Info::Sent(expected).corvaneVersion, "1");
 }
 
 TEST(ServerInfoConversion, AddressesComeInTwosOrNotAtAll)
 {
     for (auto const count : {1u, 3u, 4u, 1'000'000u})
     {
-        auto wire = Sent(FullServerInfo());
+        auto wire = Info::Sent(FullServerInfo());
         wire.gbeIpAddresses.assign(count, 0x01020304);
         auto expected = FullServerInfo(); // all before the addresses, nothing from there on
         expected.gbeIpAddressPair = {};
@@ -172,7 +165,7 @@ TEST(ServerInfoConversion, AddressesComeInTwosOrNotAtAll)
 
 TEST(ServerInfoConversion, EachFieldAloneIsEnoughAndNoOtherIsKept)
 {
-    for (auto const& bytes : FieldByField(Sent(FullServerInfo())))
+    for (auto const& bytes : FieldByField(Info::Sent(FullServerInfo())))
     {
         auto const info = Received(Read<Generated::ServerInfo>(bytes));
         auto const full = FullServerInfo();
