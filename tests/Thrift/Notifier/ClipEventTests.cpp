@@ -51,8 +51,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cstddef>
 #include <sstream>
 #include <string>
 #include <tuple>
@@ -100,75 +98,46 @@ Details FullDetails()
             true};
 }
 
-// What the constructors take behind the block, and what is sent of a full event.
-struct Creation
+// What the constructors take behind the block.
+auto Clips(Details const& all)
 {
-    static auto Arguments(Details const& all) { return std::tie(all.first, all.second, all.creation, all.network); }
-    static constexpr auto Fields = "sourceClip=<first>, newClip=<second>, creationType=Copy, networkType=PushGbe";
-};
-struct FailedCreation
+    return std::tie(all.first, all.second);
+}
+auto FailedClips(Details const& all)
 {
-    static auto Arguments(Details const& all)
-    {
-        return std::tie(all.result, all.internal, all.first, all.second, all.creation, all.network);
-    }
-    static constexpr auto Fields =
-        "sourceClip=<first>, newClip=<second>, creationType=Copy, networkType=PushGbe, result=3, internalResult=0";
-};
-struct Update
+    return std::tie(all.result, all.internal, all.first, all.second);
+}
+auto Creation(Details const& all)
 {
-    static auto Arguments(Details const& all) { return std::tie(all.flag, all.first, all.second); }
-    static constexpr auto Fields = "oldClip=<first>, newClip=<second>, endOfGrowingClipCreation=1";
-};
-struct FailedUpdate
+    return std::tie(all.first, all.second, all.creation, all.network);
+}
+auto FailedCreation(Details const& all)
 {
-    static auto Arguments(Details const& all) { return std::tie(all.result, all.internal, all.first, all.second); }
-    static constexpr auto Fields = "oldClip=<first>, newClip=<second>, result=3, internalResult=-7";
-};
-struct Deletion
+    return std::tie(all.result, all.internal, all.first, all.second, all.creation, all.network);
+}
+auto Update(Details const& all)
 {
-    static auto Arguments(Details const& all) { return std::tie(all.first, all.reserved, all.otherReserved); }
-    static constexpr auto Fields = "removedClip=<first>";
-};
-struct FailedDeletion
+    return std::tie(all.flag, all.first, all.second);
+}
+auto Deletion(Details const& all)
 {
-    static auto Arguments(Details const& all)
-    {
-        return std::tie(all.result, all.internal, all.first, all.reserved, all.otherReserved, all.essences, all.flag,
-                        all.otherFlag);
-    }
-    static constexpr auto Fields =
-        "removedClip=<first>, result=3, internalResult=-7, essenceBitmap=254, fromUCode=1, forceForPlaylist=0";
-};
-struct Mass
+    return std::tie(all.first, all.reserved, all.otherReserved);
+}
+auto FailedDeletion(Details const& all)
 {
-    static auto Arguments(Details const& all) { return std::tie(all.serial); }
-    static constexpr auto Fields = "machineSerial=4294967292";
-};
-struct FailedMass
+    return std::tie(all.result, all.internal, all.first, all.reserved, all.otherReserved, all.essences, all.flag,
+                    all.otherFlag);
+}
+auto Mass(Details const& all)
 {
-    static auto Arguments(Details const& all) { return std::tie(all.result, all.internal, all.serial); }
-    static constexpr auto Fields = "machineSerial=4294967292, result=3, internalResult=-7";
-};
-struct Move
+    return std::tie(all.serial);
+}
+auto FailedMass(Details const& all)
 {
-    static auto Arguments(Details const& all) { return std::tie(all.first, all.second); }
-    static constexpr auto Fields = "sourceClip=<first>, destClip=<second>";
-};
-struct FailedMove : FailedUpdate
-{
-    static constexpr auto Fields = "sourceClip=<first>, destClip=<second>, result=3, internalResult=-7";
-};
+    return std::tie(all.result, all.internal, all.serial);
+}
 
-/// A text that may stand among the arguments of a template.
-template<std::size_t size>
-struct Literal
-{
-    constexpr Literal(char const (&literal)[size]) { std::copy_n(literal, size, text); }
-    char text[size] = {};
-};
-
-template<Literal name, typename TKind, typename TToWire, typename TToDomain>
+template<auto arguments, typename TToWire, typename TToDomain>
 struct ClipEvent : Converters<TToWire, TToDomain>
 {
     using Domain = typename Converters<TToWire, TToDomain>::Domain;
@@ -181,7 +150,7 @@ struct ClipEvent : Converters<TToWire, TToDomain>
                 return Domain(block.localMachineSerial, block.requestSource, block.operationNumber, block.userTicket,
                               block.commandGuid, block.databaseRevision, values...);
             },
-            TKind::Arguments(details));
+            arguments(details));
         event.subCommandIndex = block.subCommandIndex;
         return event;
     }
@@ -190,51 +159,97 @@ struct ClipEvent : Converters<TToWire, TToDomain>
 
     /// What a destination holds before.
     static Domain Held() { return Of(HeldBlock(), {}); }
-
-    /// What is sent of a full event.
-    static std::string Text()
-    {
-        return std::string(name.text) + "(clipCommand=<block>, " + TKind::Fields + ", databaseRevision=-4294967301)";
-    }
 };
 
-using CreationStarted =
-    ClipEvent<"ClipCreationStartedEventArgs", Creation, ClipCreationStartedEventArgsToThriftConverter,
-              ThriftToClipCreationStartedEventArgsConverter>;
-using CreationFinished =
-    ClipEvent<"ClipCreationFinishedEventArgs", Creation, ClipCreationFinishedEventArgsToThriftConverter,
-              ThriftToClipCreationFinishedEventArgsConverter>;
-using CreationFailed =
-    ClipEvent<"ClipCreationFailedEventArgs", FailedCreation, ClipCreationFailedEventArgsToThriftConverter,
-              ThriftToClipCreationFailedEventArgsConverter>;
-using UpdateFinished = ClipEvent<"ClipUpdateFinishedEventArgs", Update, ClipUpdateFinishedEventArgsToThriftConverter,
-                                 ThriftToClipUpdateFinishedEventArgsConverter>;
-using UpdateFailed = ClipEvent<"ClipUpdateFailedEventArgs", FailedUpdate, ClipUpdateFailedEventArgsToThriftConverter,
-                               ThriftToClipUpdateFailedEventArgsConverter>;
-using MassUpdateFinished =
-    ClipEvent<"MassClipUpdateFinishedEventArgs", Mass, MassClipUpdateFinishedEventArgsToThriftConverter,
-              ThriftToMassClipUpdateFinishedEventArgsConverter>;
-using MassUpdateFailed =
-    ClipEvent<"MassClipUpdateFailedEventArgs", FailedMass, MassClipUpdateFailedEventArgsToThriftConverter,
-              ThriftToMassClipUpdateFailedEventArgsConverter>;
-using DeletionFinished =
-    ClipEvent<"ClipDeletionFinishedEventArgs", Deletion, ClipDeletionFinishedEventArgsToThriftConverter,
-              ThriftToClipDeletionFinishedEventArgsConverter>;
-using DeletionFailed =
-    ClipEvent<"ClipDeletionFailedEventArgs", FailedDeletion, ClipDeletionFailedEventArgsToThriftConverter,
-              ThriftToClipDeletionFailedEventArgsConverter>;
-using MassDeletionFinished =
-    ClipEvent<"MassClipDeletionFinishedEventArgs", Mass, MassClipDeletionFinishedEventArgsToThriftConverter,
-              ThriftToMassClipDeletionFinishedEventArgsConverter>;
-using MassDeletionFailed =
-    ClipEvent<"MassClipDeletionFailedEventArgs", FailedMass, MassClipDeletionFailedEventArgsToThriftConverter,
-              ThriftToMassClipDeletionFailedEventArgsConverter>;
-using MoveStarted = ClipEvent<"ClipMoveStartedEventArgs", Move, ClipMoveStartedEventArgsToThriftConverter,
-                              ThriftToClipMoveStartedEventArgsConverter>;
-using MoveFinished = ClipEvent<"ClipMoveFinishedEventArgs", Move, ClipMoveFinishedEventArgsToThriftConverter,
-                               ThriftToClipMoveFinishedEventArgsConverter>;
-using MoveFailed = ClipEvent<"ClipMoveFailedEventArgs", FailedMove, ClipMoveFailedEventArgsToThriftConverter,
-                             ThriftToClipMoveFailedEventArgsConverter>;
+// Each with what it sends of a full event.
+struct CreationStarted
+    : ClipEvent<Creation, ClipCreationStartedEventArgsToThriftConverter, ThriftToClipCreationStartedEventArgsConverter>
+{
+    static constexpr auto Text =
+        "ClipCreationStartedEventArgs(clipCommand=<block>, sourceClip=<first>, newClip=<second>, creationType=Copy, "
+        "networkType=PushGbe, databaseRevision=-4294967301)";
+};
+struct CreationFinished : ClipEvent<Creation, ClipCreationFinishedEventArgsToThriftConverter,
+                                    ThriftToClipCreationFinishedEventArgsConverter>
+{
+    static constexpr auto Text =
+        "ClipCreationFinishedEventArgs(clipCommand=<block>, sourceClip=<first>, newClip=<second>, creationType=Copy, "
+        "networkType=PushGbe, databaseRevision=-4294967301)";
+};
+struct CreationFailed : ClipEvent<FailedCreation, ClipCreationFailedEventArgsToThriftConverter,
+                                  ThriftToClipCreationFailedEventArgsConverter>
+{
+    static constexpr auto Text =
+        "ClipCreationFailedEventArgs(clipCommand=<block>, sourceClip=<first>, newClip=<second>, creationType=Copy, "
+        "networkType=PushGbe, result=3, internalResult=0, databaseRevision=-4294967301)";
+};
+struct UpdateFinished
+    : ClipEvent<Update, ClipUpdateFinishedEventArgsToThriftConverter, ThriftToClipUpdateFinishedEventArgsConverter>
+{
+    static constexpr auto Text = "ClipUpdateFinishedEventArgs(clipCommand=<block>, oldClip=<first>, newClip=<second>, "
+                                 "endOfGrowingClipCreation=1, databaseRevision=-4294967301)";
+};
+struct UpdateFailed
+    : ClipEvent<FailedClips, ClipUpdateFailedEventArgsToThriftConverter, ThriftToClipUpdateFailedEventArgsConverter>
+{
+    static constexpr auto Text = "ClipUpdateFailedEventArgs(clipCommand=<block>, oldClip=<first>, newClip=<second>, "
+                                 "result=3, internalResult=-7, databaseRevision=-4294967301)";
+};
+struct MassUpdateFinished : ClipEvent<Mass, MassClipUpdateFinishedEventArgsToThriftConverter,
+                                      ThriftToMassClipUpdateFinishedEventArgsConverter>
+{
+    static constexpr auto Text = "MassClipUpdateFinishedEventArgs(clipCommand=<block>, machineSerial=4294967292, "
+                                 "databaseRevision=-4294967301)";
+};
+struct MassUpdateFailed : ClipEvent<FailedMass, MassClipUpdateFailedEventArgsToThriftConverter,
+                                    ThriftToMassClipUpdateFailedEventArgsConverter>
+{
+    static constexpr auto Text = "MassClipUpdateFailedEventArgs(clipCommand=<block>, machineSerial=4294967292, "
+                                 "result=3, internalResult=-7, databaseRevision=-4294967301)";
+};
+struct DeletionFinished : ClipEvent<Deletion, ClipDeletionFinishedEventArgsToThriftConverter,
+                                    ThriftToClipDeletionFinishedEventArgsConverter>
+{
+    static constexpr auto Text =
+        "ClipDeletionFinishedEventArgs(clipCommand=<block>, removedClip=<first>, databaseRevision=-4294967301)";
+};
+struct DeletionFailed : ClipEvent<FailedDeletion, ClipDeletionFailedEventArgsToThriftConverter,
+                                  ThriftToClipDeletionFailedEventArgsConverter>
+{
+    static constexpr auto Text =
+        "ClipDeletionFailedEventArgs(clipCommand=<block>, removedClip=<first>, result=3, internalResult=-7, "
+        "essenceBitmap=254, fromUCode=1, forceForPlaylist=0, databaseRevision=-4294967301)";
+};
+struct MassDeletionFinished : ClipEvent<Mass, MassClipDeletionFinishedEventArgsToThriftConverter,
+                                        ThriftToMassClipDeletionFinishedEventArgsConverter>
+{
+    static constexpr auto Text = "MassClipDeletionFinishedEventArgs(clipCommand=<block>, machineSerial=4294967292, "
+                                 "databaseRevision=-4294967301)";
+};
+struct MassDeletionFailed : ClipEvent<FailedMass, MassClipDeletionFailedEventArgsToThriftConverter,
+                                      ThriftToMassClipDeletionFailedEventArgsConverter>
+{
+    static constexpr auto Text = "MassClipDeletionFailedEventArgs(clipCommand=<block>, machineSerial=4294967292, "
+                                 "result=3, internalResult=-7, databaseRevision=-4294967301)";
+};
+struct MoveStarted
+    : ClipEvent<Clips, ClipMoveStartedEventArgsToThriftConverter, ThriftToClipMoveStartedEventArgsConverter>
+{
+    static constexpr auto Text = "ClipMoveStartedEventArgs(clipCommand=<block>, sourceClip=<first>, "
+                                 "destClip=<second>, databaseRevision=-4294967301)";
+};
+struct MoveFinished
+    : ClipEvent<Clips, ClipMoveFinishedEventArgsToThriftConverter, ThriftToClipMoveFinishedEventArgsConverter>
+{
+    static constexpr auto Text = "ClipMoveFinishedEventArgs(clipCommand=<block>, sourceClip=<first>, "
+                                 "destClip=<second>, databaseRevision=-4294967301)";
+};
+struct MoveFailed
+    : ClipEvent<FailedClips, ClipMoveFailedEventArgsToThriftConverter, ThriftToClipMoveFailedEventArgsConverter>
+{
+    static constexpr auto Text = "ClipMoveFailedEventArgs(clipCommand=<block>, sourceClip=<first>, destClip=<second>, "
+                                 "result=3, internalResult=-7, databaseRevision=-4294967301)";
+};
 
 using WireClip = Corvane::Zelmar::Serialization::Thrift::Data::Clips::Generated::Clip;
 
@@ -282,7 +297,7 @@ TYPED_TEST(ClipEventConversion, RoundTripReplacesTheDestination)
     EXPECT_EQ(
         Shown(wire,
               {{Printed(wire.clipCommand), "<block>"}, {Printed(first), "<first>"}, {Printed(second), "<second>"}}),
-        Event::Text());
+        Event::Text);
 
     if constexpr (!std::is_same_v<Event, CreationFailed>) // what that one loses is told below
         for (auto const& [value, fresh] : {std::pair(Event::Full(), Event::Held()), {Event::Held(), Event::Full()}})
@@ -292,7 +307,7 @@ TYPED_TEST(ClipEventConversion, RoundTripReplacesTheDestination)
 TYPED_TEST(ClipEventConversion, EveryFieldButInternalResultAndRevisionIsNeeded)
 {
     using Event = TypeParam;
-    auto const text = Event::Text();
+    std::string const text = Event::Text;
     auto const failure = "Incomplete " + text.substr(0, text.find('(')) + " - missing fields";
     auto const names = FieldNames(text);
     auto const incomplete = EachFieldMissing(Event::Sent(Event::Full()));
