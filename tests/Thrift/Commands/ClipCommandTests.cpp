@@ -1,6 +1,5 @@
-#include "tests/Thrift/Commands/Values.h"
+#include "tests/Thrift/Commands/ResultsItems.h"
 
-#include "Domain/CorvaneData/Optional.h"
 #include "Domain/HighLevelOperations/Commands/AnglesGroupCommandReply.h"
 #include "Domain/HighLevelOperations/Commands/CreateAnglesGroupCommandParams.h"
 #include "Domain/HighLevelOperations/Commands/DeleteAnglesGroupCommandParams.h"
@@ -36,11 +35,9 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <string>
 #include <tuple>
 #include <utility>
-#include <vector>
 
 namespace Talvo::Tests
 {
@@ -50,10 +47,8 @@ namespace
 using namespace Corvane::Zelmar::HighLevelOperations::Commands;
 using namespace Corvane::Zelmar::Serialization::Thrift::Commands;
 using Corvane::Data::Guid;
-using Corvane::Data::OperationResult;
 using Corvane::Data::OperationStatus;
 using Corvane::Data::Clips::Clip;
-using Status = OperationStatus::Status;
 using WireStatusOf = Corvane::Data::Generated::OperationStatusStatus;
 
 namespace Clips = Corvane::Data::Clips;
@@ -168,32 +163,7 @@ TEST(AnglesGroupParamsConversion, AngleWithoutFlagStaysAsItWas)
     EXPECT_EQ(DeleteGroup::Sent(deletion).groupGuid.value, std::string(16, 'g'));
 }
 
-ClipResultsItem SomeItem(OperationStatus const& status, std::unique_ptr<Clip> clip = nullptr)
-{
-    ClipResultsItem item;
-    item.OperationStatus(status);
-    item.clip = std::move(clip);
-    return item;
-}
-
-std::unique_ptr<Clip> Held(Clip const& clip)
-{
-    return std::make_unique<Clip>(clip);
-}
-
-/// What an item holds, the clip even where it does not count.
-std::pair<OperationStatus, Corvane::Data::Optional<Clip>> Shown(ClipResultsItem const& item)
-{
-    if (item.clip == nullptr) return {item.OperationStatus(), {}};
-    return {item.OperationStatus(), *item.clip};
-}
-
-auto Shown(ClipCommandReply const& reply)
-{
-    std::vector<std::pair<OperationStatus, Corvane::Data::Optional<Clip>>> items;
-    for (auto const& item : reply.results) items.push_back(Shown(item));
-    return std::pair(reply.commandGuid, items);
-}
+using Tests::Shown;
 
 auto Shown(AnglesGroupCommandReply const& reply)
 {
@@ -202,32 +172,27 @@ auto Shown(AnglesGroupCommandReply const& reply)
 
 auto const Show = [](auto const& value) { return Shown(value); };
 
-OperationStatus const Succeeded{Status::Succeeded, OperationResult::Success};
-OperationStatus const Refused{Status::Failed, OperationResult::UsedResource};
-OperationStatus const StartOfAnItem{Status::Failed, OperationResult::DefaultError};
-
 TEST(ClipResultsItemConversion, OnlyAClipOfAnItemThatSucceededTravels)
 {
-    auto const expectSent = [](OperationStatus const& status, std::unique_ptr<Clip> clip, bool const isSent)
+    auto const expectSent = [](ClipResultsItem const& item, bool const isSent)
     {
         Generated::ClipResultsItem wire;
         wire.__isset.clip = true; // a used record
-        auto const item = SomeItem(status, std::move(clip));
-        EXPECT_TRUE(ClipResultsItemToThriftConverter().To(item, wire).success);
+        wire = Item::Sent(item, wire);
         EXPECT_TRUE(wire.__isset.operationStatus);
         EXPECT_EQ(wire.__isset.clip, isSent);
         EXPECT_EQ(wire.clip.umId, isSent ? "UMID0001" : "");
     };
-    expectSent(Succeeded, Held(NestedClip()), true);
-    expectSent(Succeeded, Held(Clip()), false); // nothing but defaults
-    expectSent(Succeeded, nullptr, false);
-    expectSent(Refused, Held(NestedClip()), false);
-    expectSent({Status::Pending, OperationResult::Unknown}, Held(NestedClip()), false);
+    expectSent(SomeItem<ClipResultsItem>(Succeeded, NestedClip()), true);
+    expectSent(SomeItem<ClipResultsItem>(Succeeded, Clip()), false); // nothing but defaults
+    expectSent(SomeItem<ClipResultsItem>(Succeeded), false);
+    expectSent(SomeItem<ClipResultsItem>(Refused, NestedClip()), false);
+    expectSent(SomeItem<ClipResultsItem>(Waiting, NestedClip()), false);
 }
 
 TEST(ClipResultsItemConversion, ReceivedClipIsKeptByAnItemThatHasSucceededByThen)
 {
-    auto const sent = Item::Sent(SomeItem(Succeeded, Held(NamedClip("SENT"))));
+    auto const sent = Item::Sent(SomeItem<ClipResultsItem>(Succeeded, NamedClip("SENT")));
     auto const expectReceived = [&](bool const hasStatus, bool const hasClip, OperationStatus const& held,
                                     OperationStatus const& status, char const* const umId,
                                     WireStatusOf::type const wireStatus)
@@ -236,7 +201,7 @@ TEST(ClipResultsItemConversion, ReceivedClipIsKeptByAnItemThatHasSucceededByThen
         wire.operationStatus = WireStatus(wireStatus);
         wire.__isset.operationStatus = hasStatus;
         wire.__isset.clip = hasClip;
-        auto item = SomeItem(held, Held(NamedClip("HELD")));
+        auto item = SomeItem<ClipResultsItem>(held, NamedClip("HELD"));
         EXPECT_EQ(Item::Told(wire, item), hasStatus || hasClip ? "" : "ClipResultsItem is empty");
         EXPECT_EQ(item.OperationStatus(), status);
         EXPECT_STREQ(item.clip == nullptr ? "none" : item.clip->umId.data(), umId);
@@ -252,13 +217,13 @@ TEST(ClipResultsItemConversion, ReceivedClipIsKeptByAnItemThatHasSucceededByThen
     // A status without content is the one that an item starts with; a clip that fails is kept with what was applied.
     auto wire = sent;
     wire.operationStatus = {};
-    auto item = SomeItem(Succeeded, Held(NamedClip("HELD")));
+    auto item = SomeItem<ClipResultsItem>(Succeeded, NamedClip("HELD"));
     EXPECT_EQ(Item::Told(wire, item), "");
-    EXPECT_EQ(Shown(item), Shown(SomeItem(StartOfAnItem)));
+    EXPECT_EQ(Shown(item), Shown(SomeItem<ClipResultsItem>(StartOfAnItem)));
     wire = sent;
     wire.clip = {};
-    EXPECT_EQ(Shown(Item::Received(wire, SomeItem(Refused, Held(NestedClip())))),
-              Shown(SomeItem(Succeeded, Held(Clip::Empty()))));
+    EXPECT_EQ(Shown(Item::Received(wire, SomeItem<ClipResultsItem>(Refused, NestedClip()))),
+              Shown(SomeItem<ClipResultsItem>(Succeeded, Clip::Empty())));
 }
 
 TEST(ClipResultsItemConversionDeathTest, BadTimeCodeOfAClipThatWouldBeDroppedEndsTheProcess)
@@ -278,42 +243,26 @@ TEST(ClipResultsItemConversionDeathTest, BadTimeCodeOfAClipThatWouldBeDroppedEnd
 ClipCommandReply FullReply(char const id)
 {
     ClipCommandReply reply(Id(id), 3);
-    reply.results[0] = SomeItem(Succeeded, Held(NestedClip()));
-    reply.results[1] = SomeItem(Refused);
-    reply.results[2] = SomeItem({Status::Pending, OperationResult::Unknown});
+    reply.results[0] = SomeItem<ClipResultsItem>(Succeeded, NestedClip());
+    reply.results[1] = SomeItem<ClipResultsItem>(Refused);
+    reply.results[2] = SomeItem<ClipResultsItem>(Waiting);
     return reply;
 }
 
-TEST(ClipCommandReplyConversion, RoundTripReplacesTheReply)
+TEST(ClipCommandReplyConversion, RoundTripReplacesTheReplyAndNeedsBothFields)
 {
-    auto const fresh = [] { return FullReply('h'); };
-    ExpectReplyRoundTrip<Reply>([] { return FullReply('c'); }, Show, fresh);
-    ExpectReplyRoundTrip<Reply>([] { return ClipCommandReply(Id('c'), 0); }, Show, fresh);
-    EXPECT_TRUE(Reply::Sent(ClipCommandReply(Id('c'), 0)).__isset.results);
-    auto const wire = Reply::Sent(FullReply('c'));
-    EXPECT_TRUE(wire.__isset.guid);
-    EXPECT_EQ(Reply::Sent(FullReply('c'), wire).results.size(), 6u);
+    ExpectReplyOfItems<Reply>(FullReply, "ClipCommandReply");
 }
 
-TEST(ClipCommandReplyConversion, NeedsBothFieldsAndKeepsAnEmptyItemAsFailed)
+TEST(ClipCommandReplyConversion, KeepsAnEmptyItemAsFailed)
 {
     auto wire = Reply::Sent(FullReply('c'));
-    for (auto const field : {0, 1, 2})
-    {
-        auto partial = wire;
-        partial.__isset.guid = field == 1;
-        partial.__isset.results = field == 2;
-        auto reply = FullReply('h');
-        EXPECT_EQ(Reply::Told(partial, reply), "ClipCommandReply is empty");
-        EXPECT_EQ(Shown(reply), Shown(FullReply('h')));
-    }
-
     wire.results[1] = {};
     wire.results[2].__isset.operationStatus = false; // a clip alone would be dropped
     wire.results[2].__isset.clip = true;
     auto expected = FullReply('c');
-    expected.results[1] = SomeItem(StartOfAnItem);
-    expected.results[2] = SomeItem(StartOfAnItem);
+    expected.results[1] = SomeItem<ClipResultsItem>(StartOfAnItem);
+    expected.results[2] = SomeItem<ClipResultsItem>(StartOfAnItem);
     EXPECT_EQ(Shown(Reply::Received(wire, FullReply('h'))), Shown(expected));
 }
 

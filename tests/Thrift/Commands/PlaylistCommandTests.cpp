@@ -1,6 +1,5 @@
-#include "tests/Thrift/Commands/Values.h"
+#include "tests/Thrift/Commands/ResultsItems.h"
 
-#include "Domain/CorvaneData/Optional.h"
 #include "Domain/HighLevelOperations/Commands/CreatePlaylistsCommandParams.h"
 #include "Domain/HighLevelOperations/Commands/DeletePlaylistsCommandParams.h"
 #include "Domain/HighLevelOperations/Commands/PlaylistCommandReply.h"
@@ -23,10 +22,6 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
-#include <utility>
-#include <vector>
-
 namespace Talvo::Tests
 {
 namespace
@@ -34,10 +29,8 @@ namespace
 
 using namespace Corvane::Zelmar::HighLevelOperations::Commands;
 using namespace Corvane::Zelmar::Serialization::Thrift::Commands;
-using Corvane::Data::OperationResult;
 using Corvane::Data::OperationStatus;
 using Corvane::Data::Sequences::Playlist;
-using Status = OperationStatus::Status;
 using WireStatusOf = Corvane::Data::Generated::OperationStatusStatus;
 using SequenceGuid = Corvane::Data::Sequences::Guid;
 
@@ -89,56 +82,26 @@ TEST(PlaylistParamsConversion, ListsTravelWhateverThePlaylistsReport)
                        &Generated::DeletePlaylistsCommandParams::playlists, HasPlaylists);
 }
 
-PlaylistResultsItem SomeItem(OperationStatus const& status, std::unique_ptr<Playlist> playlist = nullptr)
-{
-    PlaylistResultsItem item;
-    item.OperationStatus(status);
-    item.playlist = std::move(playlist);
-    return item;
-}
-
-std::unique_ptr<Playlist> Held(Playlist const& playlist)
-{
-    return std::make_unique<Playlist>(playlist);
-}
-
-std::pair<OperationStatus, Corvane::Data::Optional<Playlist>> Shown(PlaylistResultsItem const& item)
-{
-    if (item.playlist == nullptr) return {item.OperationStatus(), {}};
-    return {item.OperationStatus(), *item.playlist};
-}
-
-auto Shown(PlaylistCommandReply const& reply)
-{
-    std::vector<std::pair<OperationStatus, Corvane::Data::Optional<Playlist>>> items;
-    for (auto const& item : reply.results) items.push_back(Shown(item));
-    return std::pair(reply.commandGuid, items);
-}
-
-OperationStatus const Succeeded{Status::Succeeded, OperationResult::Success};
-OperationStatus const Refused{Status::Failed, OperationResult::UsedResource};
-OperationStatus const StartOfAnItem{Status::Failed, OperationResult::DefaultError};
-
 TEST(PlaylistResultsItemConversion, EveryHeldPlaylistTravelsWhateverTheStatus)
 {
     for (auto const& status : {Succeeded, Refused})
     {
         for (auto const& playlist : {FullPlaylist(), Playlist::Empty()})
         {
-            auto const wire = Item::Sent(SomeItem(status, Held(playlist)));
+            auto const item = SomeItem<PlaylistResultsItem>(status, playlist);
+            auto const wire = Item::Sent(item);
             EXPECT_TRUE(wire.__isset.operationStatus && wire.__isset.playlist);
-            EXPECT_EQ(Shown(Item::Received(wire)), Shown(SomeItem(status, Held(playlist))));
+            EXPECT_EQ(Shown(Item::Received(wire)), Shown(item));
         }
         Generated::PlaylistResultsItem used;
         used.__isset.playlist = true;
-        EXPECT_TRUE(PlaylistResultsItemToThriftConverter().To(SomeItem(status), used).success);
-        EXPECT_FALSE(used.__isset.playlist);
+        EXPECT_FALSE(Item::Sent(SomeItem<PlaylistResultsItem>(status), used).__isset.playlist);
     }
 }
 
 TEST(PlaylistResultsItemConversion, ReceivedPlaylistIsKeptWhateverTheStatus)
 {
-    auto const sent = Item::Sent(SomeItem(Succeeded, Held(NamedPlaylist("SENT"))));
+    auto const sent = Item::Sent(SomeItem<PlaylistResultsItem>(Succeeded, NamedPlaylist("SENT")));
     auto const expectReceived =
         [&](bool const hasStatus, bool const hasPlaylist, OperationStatus const& status, char const* const umId)
     {
@@ -146,7 +109,7 @@ TEST(PlaylistResultsItemConversion, ReceivedPlaylistIsKeptWhateverTheStatus)
         wire.operationStatus = WireStatus(WireStatusOf::Failed);
         wire.__isset.operationStatus = hasStatus;
         wire.__isset.playlist = hasPlaylist;
-        auto item = SomeItem(Refused, Held(NamedPlaylist("HELD")));
+        auto item = SomeItem<PlaylistResultsItem>(Refused, NamedPlaylist("HELD"));
         EXPECT_EQ(Item::Told(wire, item), hasStatus || hasPlaylist ? "" : "PlaylistResultsItem is empty");
         EXPECT_EQ(item.OperationStatus(), status);
         EXPECT_STREQ(item.playlist == nullptr ? "none" : item.playlist->umId.GetUmId(), umId);
@@ -159,49 +122,32 @@ TEST(PlaylistResultsItemConversion, ReceivedPlaylistIsKeptWhateverTheStatus)
     auto wire = sent;
     wire.operationStatus = {};
     wire.playlist = {};
-    EXPECT_EQ(Shown(Item::Received(wire, SomeItem(Succeeded))),
-              Shown(SomeItem(StartOfAnItem, Held(Playlist::Empty()))));
+    EXPECT_EQ(Shown(Item::Received(wire, SomeItem<PlaylistResultsItem>(Succeeded))),
+              Shown(SomeItem<PlaylistResultsItem>(StartOfAnItem, Playlist::Empty())));
 }
 
 PlaylistCommandReply FullReply(char const id)
 {
     PlaylistCommandReply reply(Id(id), 3);
-    reply.results[0] = SomeItem(Succeeded, Held(FullPlaylist()));
-    reply.results[1] = SomeItem(Refused, Held(NamedPlaylist("FAILED")));
-    reply.results[2] = SomeItem({Status::Pending, OperationResult::Unknown});
+    reply.results[0] = SomeItem<PlaylistResultsItem>(Succeeded, FullPlaylist());
+    reply.results[1] = SomeItem<PlaylistResultsItem>(Refused, NamedPlaylist("FAILED"));
+    reply.results[2] = SomeItem<PlaylistResultsItem>(Waiting);
     return reply;
 }
 
-TEST(PlaylistCommandReplyConversion, RoundTripReplacesTheReply)
+TEST(PlaylistCommandReplyConversion, RoundTripReplacesTheReplyAndNeedsBothFields)
 {
-    auto const show = [](auto const& value) { return Shown(value); };
-    auto const fresh = [] { return FullReply('h'); };
-    ExpectReplyRoundTrip<Reply>([] { return FullReply('c'); }, show, fresh);
-    ExpectReplyRoundTrip<Reply>([] { return PlaylistCommandReply(Id('c'), 0); }, show, fresh);
-    EXPECT_TRUE(Reply::Sent(PlaylistCommandReply(Id('c'), 0)).__isset.results);
-    auto const wire = Reply::Sent(FullReply('c'));
-    EXPECT_TRUE(wire.__isset.guid);
-    EXPECT_EQ(Reply::Sent(FullReply('c'), wire).results.size(), 6u);
+    ExpectReplyOfItems<Reply>(FullReply, "PlaylistCommandReply");
 }
 
-TEST(PlaylistCommandReplyConversion, NeedsBothFieldsAndKeepsAnEmptyItemAsFailed)
+TEST(PlaylistCommandReplyConversion, KeepsAnEmptyItemAsFailed)
 {
     auto wire = Reply::Sent(FullReply('c'));
-    for (auto const field : {0, 1, 2})
-    {
-        auto partial = wire;
-        partial.__isset.guid = field == 1;
-        partial.__isset.results = field == 2;
-        auto reply = FullReply('h');
-        EXPECT_EQ(Reply::Told(partial, reply), "PlaylistCommandReply is empty");
-        EXPECT_EQ(Shown(reply), Shown(FullReply('h')));
-    }
-
     wire.results[0] = {};
     wire.results[1].__isset.operationStatus = false;
     auto expected = FullReply('c');
-    expected.results[0] = SomeItem(StartOfAnItem);
-    expected.results[1] = SomeItem(StartOfAnItem, Held(NamedPlaylist("FAILED")));
+    expected.results[0] = SomeItem<PlaylistResultsItem>(StartOfAnItem);
+    expected.results[1] = SomeItem<PlaylistResultsItem>(StartOfAnItem, NamedPlaylist("FAILED"));
     EXPECT_EQ(Shown(Reply::Received(wire, FullReply('h'))), Shown(expected));
 }
 
