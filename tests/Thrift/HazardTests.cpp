@@ -18,6 +18,7 @@
 #include "generated/Playlist_types.h"
 #include "generated/Train_types.h"
 #include "generated/UpdatePlaylistsCommandParams_types.h"
+#include "tests/Thrift/RoundTrip.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -56,17 +57,16 @@ std::vector<std::string> Paths(TRecord const& record)
 }
 
 /// A record with one hazard, and what would end the process.
-template<typename TConverter, typename TDomain, typename TWire>
-void ExpectHazard(TWire const& record, char const* const path, char const* const reason)
+template<typename TConverter>
+void ExpectHazard(SourceOf<TConverter> const& record, char const* const path, char const* const reason)
 {
     EXPECT_THAT(FindHazards(record), ElementsAre(Hazard{path, reason}));
-    TDomain domain;
+    DestinationOf<TConverter> domain;
     EXPECT_DEATH(std::ignore = TConverter().To(record, domain), "terminate");
 }
 
 TEST(HazardsDeathTest, EachCauseEndsTheProcess)
 {
-    using Corvane::Data::Clips::Clip;
     auto const clip = [](char const* const tod, char const* const user)
     {
         WireClips::Clip wire;
@@ -76,48 +76,41 @@ TEST(HazardsDeathTest, EachCauseEndsTheProcess)
     };
     constexpr auto* noForm = "TalvoTimeCodeParser the string 'noon' has not the expected format.";
     constexpr auto* badDay = "day 30is negative or greater than 29 in month 2";
-    ExpectHazard<Data::Clips::ThriftToClipConverter, Clip>(clip("noon", nullptr), "inBoundTodTimecode", noForm);
-    ExpectHazard<Data::Clips::ThriftToClipConverter, Clip>(clip(nullptr, "2024-02-30T00:00:00:00@50"),
-                                                           "inBoundUserTimecode", badDay);
-    ExpectHazard<Data::Clips::ThriftToClipConverter, Clip>(clip("00:00:00:00@99999999999", nullptr),
-                                                           "inBoundTodTimecode", "stoi");
+    ExpectHazard<Data::Clips::ThriftToClipConverter>(clip("noon", nullptr), "inBoundTodTimecode", noForm);
+    ExpectHazard<Data::Clips::ThriftToClipConverter>(clip(nullptr, "2024-02-30T00:00:00:00@50"), "inBoundUserTimecode",
+                                                     badDay);
+    ExpectHazard<Data::Clips::ThriftToClipConverter>(clip("00:00:00:00@99999999999", nullptr), "inBoundTodTimecode",
+                                                     "stoi");
 
     WireChannels::PlayerClipOnAir onAir;
     onAir.__set_todCurTimecodeOnAir("noon");
-    using Corvane::Data::Channels::PlayerClipOnAir;
-    ExpectHazard<Data::Channels::ThriftToPlayerClipOnAirConverter, PlayerClipOnAir>(onAir, "todCurTimecodeOnAir",
-                                                                                    noForm);
+    ExpectHazard<Data::Channels::ThriftToPlayerClipOnAirConverter>(onAir, "todCurTimecodeOnAir", noForm);
     onAir = {};
     onAir.__set_userCurTimecodeOnAir("noon");
-    ExpectHazard<Data::Channels::ThriftToPlayerClipOnAirConverter, PlayerClipOnAir>(onAir, "userCurTimecodeOnAir",
-                                                                                    noForm);
+    ExpectHazard<Data::Channels::ThriftToPlayerClipOnAirConverter>(onAir, "userCurTimecodeOnAir", noForm);
 
     constexpr auto* badLocation = "SequenceId.Location : invalid location number";
-    using Corvane::Data::Sequences::SequenceId;
     WireSequences::SequenceId id;
     id.location = 110;
     id.__isset.location = true;
-    ExpectHazard<Data::Sequences::ThriftToSequenceIdConverter, SequenceId>(id, "location", badLocation);
+    ExpectHazard<Data::Sequences::ThriftToSequenceIdConverter>(id, "location", badLocation);
     WireSequences::Element element;
     element.sequenceId = id;
     element.__isset.sequenceId = true;
-    ExpectHazard<Data::Sequences::ThriftToElementConverter, Corvane::Data::Sequences::Element>(
-        element, "sequenceId.location", badLocation);
-    using Corvane::Data::Sequences::Sequence;
+    ExpectHazard<Data::Sequences::ThriftToElementConverter>(element, "sequenceId.location", badLocation);
     WireSequences::Sequence sequence;
     sequence.id.location = -1; // the flag inside is not read
     sequence.__isset.id = true;
-    ExpectHazard<Data::Sequences::ThriftToSequenceConverter, Sequence>(sequence, "id.location", badLocation);
+    ExpectHazard<Data::Sequences::ThriftToSequenceConverter>(sequence, "id.location", badLocation);
     sequence = {};
     sequence.timeCodeRegenReference = "2024-02-30T00:00:00:00@50";
     sequence.__isset.timeCodeRegenReference = true;
-    ExpectHazard<Data::Sequences::ThriftToSequenceConverter, Sequence>(sequence, "timeCodeRegenReference", badDay);
+    ExpectHazard<Data::Sequences::ThriftToSequenceConverter>(sequence, "timeCodeRegenReference", badDay);
 
     // A clip that its caller drops.
     Commands::Generated::ClipResultsItem item;
     item.__set_clip(BadClip());
-    using Corvane::Zelmar::HighLevelOperations::Commands::ClipResultsItem;
-    ExpectHazard<Commands::ThriftToClipResultsItemConverter, ClipResultsItem>(item, "clip.inBoundUserTimecode", noForm);
+    ExpectHazard<Commands::ThriftToClipResultsItemConverter>(item, "clip.inBoundUserTimecode", noForm);
 }
 
 TEST(Hazards, AreFoundWhereverAConverterReads)

@@ -32,7 +32,13 @@ std::string Told(auto const& source, auto& destination)
 }
 
 template<typename TSource, typename TDestination>
-std::type_identity<TSource> SourceOf(Common::Serialization::Converter<TSource, TDestination> const&);
+std::pair<TSource, TDestination>* TypesOf(Common::Serialization::Converter<TSource, TDestination> const&);
+
+// What a converter reads, and what it fills.
+template<typename TConverter>
+using SourceOf = typename std::remove_pointer_t<decltype(TypesOf(std::declval<TConverter>()))>::first_type;
+template<typename TConverter>
+using DestinationOf = typename std::remove_pointer_t<decltype(TypesOf(std::declval<TConverter>()))>::second_type;
 
 /// The two converters of a record, and what they do to its values.
 template<typename TToWire, typename TToDomain>
@@ -40,8 +46,8 @@ struct Converters
 {
     using ToWire = TToWire;
     using ToDomain = TToDomain;
-    using Domain = typename decltype(SourceOf(std::declval<TToWire>()))::type;
-    using Wire = typename decltype(SourceOf(std::declval<TToDomain>()))::type;
+    using Domain = SourceOf<TToWire>;
+    using Wire = SourceOf<TToDomain>;
 
     static Wire Sent(Domain const& value, Wire wire = {})
     {
