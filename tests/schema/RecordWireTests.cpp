@@ -6,13 +6,11 @@
 #include "generated/OperationStatus_types.h"
 #include "generated/Sequence_types.h"
 #include "generated/SetLoadBoundariesCommandParams_types.h"
+#include "tests/Thrift/WireBytes.h"
 
 #include <gmock/gmock.h>
 #include <thrift/protocol/TBinaryProtocol.h>
-#include <thrift/protocol/TCompactProtocol.h>
-#include <thrift/protocol/TJSONProtocol.h>
 
-#include <array>
 #include <map>
 
 namespace Talvo::Tests
@@ -25,34 +23,18 @@ using namespace Talvo::Corvane::Zelmar::Serialization::Thrift;
 using namespace apache::thrift::protocol;
 using apache::thrift::transport::TMemoryBuffer;
 using testing::Pair;
-using Buffer = std::shared_ptr<TMemoryBuffer>;
-
-struct ProtocolKind
-{
-    std::string_view name;
-    std::shared_ptr<TProtocol> (*over)(Buffer const&);
-};
-
-template<typename Protocol>
-std::shared_ptr<TProtocol> Over(Buffer const& buffer)
-{
-    return std::make_shared<Protocol>(buffer);
-}
-
-constexpr std::array Protocols{ProtocolKind{"binary", Over<TBinaryProtocolT<TMemoryBuffer>>},
-                               ProtocolKind{"compact", Over<TCompactProtocolT<TMemoryBuffer>>},
-                               ProtocolKind{"JSON", Over<TJSONProtocol>}};
 
 /// Writes the record, reads it back and compares, through each protocol.
 void ExpectRoundTrips(RecordType const& type, AnyRecord const& record, std::string_view what)
 {
-    for (auto const& protocol : Protocols)
+    for (auto const& protocol : Protocols())
     {
-        SCOPED_TRACE(testing::Message() << type.name << ", " << what << ", " << protocol.name);
+        SCOPED_TRACE(testing::Message() << type.name << ", " << what << ", protocol "
+                                        << &protocol - Protocols().data());
         auto const buffer = std::make_shared<TMemoryBuffer>();
         auto const back = type.make();
-        record.Write(*protocol.over(buffer));
-        ASSERT_NO_THROW(back->Read(*protocol.over(buffer)));
+        record.Write(*protocol->getProtocol(buffer));
+        ASSERT_NO_THROW(back->Read(*protocol->getProtocol(buffer)));
         EXPECT_TRUE(*back == record) << record.Text() << "\n" << back->Text();
         EXPECT_EQ(buffer->available_read(), 0U);
     }
@@ -75,31 +57,9 @@ bool CanBeRead(AnyRecord& record, RecordFiller::Filter const& offered)
 }
 
 template<typename T>
-std::string Bytes(T const& record, ProtocolKind const& protocol)
+T RoundTrip(T const& record, TProtocolFactory& protocol)
 {
-    auto const buffer = std::make_shared<TMemoryBuffer>();
-    auto const output = protocol.over(buffer);
-    record.write(output.get());
-    return buffer->getBufferAsString();
-}
-
-template<typename T>
-T RoundTrip(T const& record, ProtocolKind const& protocol)
-{
-    auto const buffer = std::make_shared<TMemoryBuffer>();
-    auto const both = protocol.over(buffer);
-    record.write(both.get());
-    T back;
-    back.read(both.get());
-    return back;
-}
-
-template<typename T>
-void Read(std::string const& bytes, ProtocolKind const& protocol, T& record)
-{
-    auto const buffer = std::make_shared<TMemoryBuffer>();
-    buffer->write(reinterpret_cast<std::uint8_t const*>(bytes.data()), static_cast<std::uint32_t>(bytes.size()));
-    record.read(protocol.over(buffer).get());
+    return Read<T>(Written(record, protocol), protocol);
 }
 
 TEST(RecordWire, CarriesEveryRecordEmptyAndFull)
@@ -155,7 +115,7 @@ TEST(RecordWire, NumbersEnumerationsFreely)
     {
         OperationStatus status;
         status.__set_result(static_cast<OperationResult::type>(number));
-        for (auto const& protocol : Protocols) EXPECT_EQ(RoundTrip(status, protocol).result, number) << protocol.name;
+        for (auto const& protocol : Protocols()) EXPECT_EQ(RoundTrip(status, *protocol).result, number);
     }
 }
 
@@ -163,11 +123,11 @@ TEST(RecordWire, FlagsWhatThePeerSent)
 {
     Guid guid;
     guid.__set_value("value");
-    EXPECT_TRUE(RoundTrip(guid, Protocols[0]).__isset.value); // a default field is always written
+    EXPECT_TRUE(RoundTrip(guid, *Protocols()[0]).__isset.value); // a default field is always written
 
     auto const buffer = std::make_shared<TMemoryBuffer>();
-    OperationStatus().write(Protocols[0].over(buffer).get());
-    guid.read(Protocols[0].over(buffer).get());
+    OperationStatus().write(Protocols()[0]->getProtocol(buffer).get());
+    guid.read(Protocols()[0]->getProtocol(buffer).get());
     EXPECT_EQ(guid.value, "value"); // nothing sent: the value stands
     EXPECT_FALSE(guid.__isset.value);
 }
@@ -177,12 +137,12 @@ TEST(RecordWire, LeavesTheGapsInTheFieldIds)
     Commands::Generated::SetLoadBoundariesCommandParam param;
     param.inBoundary.type = Data::Channels::Generated::LoadBoundaryType::RelativeToOppositeClipBoundary;
     std::string const boundaryStart("\x08\0\1\0\0\0", 6), boundaryRest("\x0C\0\2\0\0", 5);
-    EXPECT_EQ(Bytes(param, Protocols[0]), std::string("\x0C\0\3", 3) + boundaryStart + '\2' + boundaryRest +
-                                              std::string("\x0C\0\4", 3) + boundaryStart + '\0' + boundaryRest + '\0');
+    EXPECT_EQ(Written(param), std::string("\x0C\0\3", 3) + boundaryStart + '\2' + boundaryRest +
+                                  std::string("\x0C\0\4", 3) + boundaryStart + '\0' + boundaryRest + '\0');
 
     // Compact field headers hold the distance to the id before: 1 everywhere, but 2 after field 7.
     std::string const text("\x1C\x18\0\x12\0", 5);
-    EXPECT_EQ(Bytes(Data::Sequences::Generated::Sequence(), Protocols[1]),
+    EXPECT_EQ(Written(Data::Sequences::Generated::Sequence(), *Protocols()[1]),
               std::string("\x1C\x15\0\x15\0\0\x18\0", 8) + text + text +
                   std::string("\x12\x18\0\x15\0\x25\0\x15\0\x15\0\x16\0\x16\0\x16\0\x16\0\x12\x15\0\0", 23));
 }
@@ -196,7 +156,7 @@ TEST(RecordWire, IsTheSameThroughAConcreteProtocol)
     auto const buffer = std::make_shared<TMemoryBuffer>();
     TBinaryProtocolT<TMemoryBuffer> protocol(buffer);
     clip.write(&protocol);
-    EXPECT_EQ(buffer->getBufferAsString(), Bytes(clip, Protocols[0]));
+    EXPECT_EQ(buffer->getBufferAsString(), Written(clip));
     Data::Clips::Generated::Clip back;
     back.read(&protocol);
     EXPECT_EQ(back, clip);
@@ -216,12 +176,11 @@ TEST(RecordWire, RefusesSizesOfTwoGibibytesAndMore)
     for (auto const& [binary, compact] :
          {Row{std::string("\x80\0\0\0", 4), "\x80\x80\x80\x80\x08"}, Row{"\xFF\xFF\xFF\xFF", "\xFF\xFF\xFF\xFF\x0F"}})
     {
-        Guid guid;
-        Commands::Generated::GetClipsCommandReply reply;
-        EXPECT_THROW(Read(binaryText + binary, Protocols[0], guid), TProtocolException);
-        EXPECT_THROW(Read(binaryList + binary, Protocols[0], reply), TProtocolException);
-        EXPECT_THROW(Read(compactText + compact, Protocols[1], guid), TProtocolException);
-        EXPECT_THROW(Read(compactList + compact, Protocols[1], reply), TProtocolException);
+        using Reply = Commands::Generated::GetClipsCommandReply;
+        EXPECT_THROW(Read<Guid>(binaryText + binary, *Protocols()[0]), TProtocolException);
+        EXPECT_THROW(Read<Reply>(binaryList + binary, *Protocols()[0]), TProtocolException);
+        EXPECT_THROW(Read<Guid>(compactText + compact, *Protocols()[1]), TProtocolException);
+        EXPECT_THROW(Read<Reply>(compactList + compact, *Protocols()[1]), TProtocolException);
     }
 }
 
@@ -230,9 +189,9 @@ TEST(RecordWire, LosesNulBytesInTheLibrarysJson)
     // The Thrift library writes NUL as \u0000 and drops that when it reads. JSON is for looking, not for keeping.
     Guid guid;
     guid.value = std::string("a\0b", 3);
-    EXPECT_EQ(RoundTrip(guid, Protocols[0]).value, guid.value);
-    EXPECT_EQ(RoundTrip(guid, Protocols[1]).value, guid.value);
-    EXPECT_EQ(RoundTrip(guid, Protocols[2]).value, "ab");
+    EXPECT_EQ(RoundTrip(guid, *Protocols()[0]).value, guid.value);
+    EXPECT_EQ(RoundTrip(guid, *Protocols()[1]).value, guid.value);
+    EXPECT_EQ(RoundTrip(guid, *Protocols()[2]).value, "ab");
 }
 
 } // namespace
