@@ -43,17 +43,34 @@ std::vector<std::int32_t> EqualNumbers(std::int32_t const count)
     return numbers;
 }
 
+auto Converted(auto const value)
+{
+    using namespace Thrift::Data;
+    using namespace Channels::EnumConverter;
+    using namespace Clips::EnumConverter;
+    using namespace Sequences::EnumConverter;
+    if constexpr (requires { ToGeneratedEnum(value); })
+        return ToGeneratedEnum(value);
+    else if constexpr (requires { FromGeneratedEnum(value); })
+        return FromGeneratedEnum(value);
+    else if constexpr (requires { OperationResultConverter::To(value); })
+        return OperationResultConverter::To(value);
+    else
+        return OperationStatusConverter::To(value);
+}
+
 template<typename TDomain, typename TWire>
 Table EnumTable(std::string name, std::vector<std::int32_t> domainNumbers)
 {
-    using namespace Thrift::Data::Channels::EnumConverter;
-    using namespace Thrift::Data::Clips::EnumConverter;
-    using namespace Thrift::Data::Sequences::EnumConverter;
-    return {std::move(name),
-            [](std::int32_t number) { return std::int32_t{ToGeneratedEnum(static_cast<TDomain>(number))}; },
-            [](std::int32_t number)
-            { return static_cast<std::int32_t>(FromGeneratedEnum(static_cast<TWire>(number))); },
+    return {std::move(name), [](std::int32_t number) { return std::int32_t{Converted(static_cast<TDomain>(number))}; },
+            [](std::int32_t number) { return static_cast<std::int32_t>(Converted(static_cast<TWire>(number))); },
             std::move(domainNumbers)};
+}
+
+template<typename TDomain, typename TWire>
+Table EnumTable(std::string name, std::int32_t const count)
+{
+    return EnumTable<TDomain, TWire>(std::move(name), EqualNumbers(count));
 }
 
 std::vector<Table> Tables()
@@ -62,79 +79,52 @@ std::vector<Table> Tables()
     using namespace Domain::Clips;
     using namespace Domain::Sequences;
     return {
-        EnumTable<TrainStatus, WireClips::TrainStatus::type>("trainStatus", EqualNumbers(3)),
-        EnumTable<SourceEngine, WireClips::SourceEngine::type>("sourceEngine", EqualNumbers(4)),
-        EnumTable<UhdDivisionMode, WireClips::UhdDivisionMode::type>("uhdDivisionMode", EqualNumbers(3)),
-        EnumTable<HdrProfile, WireClips::HdrProfile::type>("hdrProfile", EqualNumbers(6)),
-        EnumTable<AlphaArchiveStatus, WireClips::AlphaArchiveStatus::type>("alphaArchiveStatus", EqualNumbers(3)),
-        EnumTable<ArchiveStatus, WireClips::ArchiveStatus::type>("archiveStatus", EqualNumbers(3)),
-        EnumTable<FillAndKeyStatus, WireClips::FillAndKeyStatus::type>("fillAndKeyStatus", EqualNumbers(3)),
-        EnumTable<Camera, WireClips::Camera::type>("camera", EqualNumbers(16)),
-        EnumTable<AfdAspectRatio, WireClips::AfdAspectRatio::type>("afdAspectRatio", EqualNumbers(4)),
-        EnumTable<CodedFrameAspectRatio, WireClips::CodedFrameAspectRatio::type>("codedFrameAspectRatio",
-                                                                                 EqualNumbers(3)),
-        EnumTable<VideoFormat, WireClips::VideoFormat::type>("videoFormat", EqualNumbers(6)),
-        EnumTable<VideoStandard, WireClips::VideoStandard::type>("videoStandard", EqualNumbers(2)),
-        EnumTable<TimecodeType, WireClips::TimecodeType::type>("timecodeType", EqualNumbers(3)),
-        EnumTable<PrimaryTimecode, WireClips::PrimaryTimecode::type>("primaryTimecode", EqualNumbers(3)),
-        EnumTable<Rating, WireClips::Rating::type>("rating", EqualNumbers(4)),
-        EnumTable<PreferentialCamera, WireClips::PreferentialCamera::type>("preferentialCamera", EqualNumbers(3)),
-        EnumTable<Essences::Type, WireClips::Type::type>("essType", EqualNumbers(3)),
-        EnumTable<Essences::RecordingStatus, WireClips::RecordingStatus::type>("recordingStatus", EqualNumbers(5)),
-        EnumTable<Essences::ArchiveStatus, WireClips::EssenceArchiveStatus::type>("essenceArchiveStatus",
-                                                                                  EqualNumbers(2)),
-        EnumTable<Essences::Metadata, WireClips::Metadata::type>("metadata", EqualNumbers(5)),
+        EnumTable<TrainStatus, WireClips::TrainStatus::type>("trainStatus", 3),
+        EnumTable<SourceEngine, WireClips::SourceEngine::type>("sourceEngine", 4),
+        EnumTable<UhdDivisionMode, WireClips::UhdDivisionMode::type>("uhdDivisionMode", 3),
+        EnumTable<HdrProfile, WireClips::HdrProfile::type>("hdrProfile", 6),
+        EnumTable<AlphaArchiveStatus, WireClips::AlphaArchiveStatus::type>("alphaArchiveStatus", 3),
+        EnumTable<ArchiveStatus, WireClips::ArchiveStatus::type>("archiveStatus", 3),
+        EnumTable<FillAndKeyStatus, WireClips::FillAndKeyStatus::type>("fillAndKeyStatus", 3),
+        EnumTable<Camera, WireClips::Camera::type>("camera", 16),
+        EnumTable<AfdAspectRatio, WireClips::AfdAspectRatio::type>("afdAspectRatio", 4),
+        EnumTable<CodedFrameAspectRatio, WireClips::CodedFrameAspectRatio::type>("codedFrameAspectRatio", 3),
+        EnumTable<VideoFormat, WireClips::VideoFormat::type>("videoFormat", 6),
+        EnumTable<VideoStandard, WireClips::VideoStandard::type>("videoStandard", 2),
+        EnumTable<TimecodeType, WireClips::TimecodeType::type>("timecodeType", 3),
+        EnumTable<PrimaryTimecode, WireClips::PrimaryTimecode::type>("primaryTimecode", 3),
+        EnumTable<Rating, WireClips::Rating::type>("rating", 4),
+        EnumTable<PreferentialCamera, WireClips::PreferentialCamera::type>("preferentialCamera", 3),
+        EnumTable<Essences::Type, WireClips::Type::type>("essType", 3),
+        EnumTable<Essences::RecordingStatus, WireClips::RecordingStatus::type>("recordingStatus", 5),
+        EnumTable<Essences::ArchiveStatus, WireClips::EssenceArchiveStatus::type>("essenceArchiveStatus", 2),
+        EnumTable<Essences::Metadata, WireClips::Metadata::type>("metadata", 5),
         EnumTable<Essences::BlockSize, WireClips::BlockSize::type>("blockSize", {0, 2, 4, 5}),
-        EnumTable<Essences::VideoCompressionType, WireClips::VideoCompressionType::type>("videoCompressionType",
-                                                                                         EqualNumbers(26)),
-        EnumTable<Essences::AudioCompressionType, WireClips::AudioCompressionType::type>("audioCompressionType",
-                                                                                         EqualNumbers(3)),
-        EnumTable<Essences::VideoCompressionInfo, WireClips::VideoCompressionInfo::type>("videoCompressionInfo",
-                                                                                         EqualNumbers(11)),
-        EnumTable<Essences::AudioConfiguration, WireClips::AudioConfiguration::type>("audioConfiguration",
-                                                                                     EqualNumbers(8)),
-        EnumTable<PlayerModeStatus, WireChannels::PlayerModeStatus::type>("playerModeStatus", EqualNumbers(6)),
-        EnumTable<PlayerModeType, WireChannels::PlayerModeType::type>("playerModeType", EqualNumbers(14)),
-        EnumTable<PlayingLoopMode, WireChannels::PlayingLoopMode::type>("playingLoopMode", EqualNumbers(4)),
-        EnumTable<PlayoutConfig, WireChannels::PlayoutConfig::type>("playoutConfig", EqualNumbers(8)),
-        EnumTable<RecorderModeStatus, WireChannels::RecorderModeStatus::type>("recorderModeStatus", EqualNumbers(3)),
-        EnumTable<TagProperty::Type, WireSequences::TagPropertyType::type>("tagPropertyType", EqualNumbers(4)),
-        EnumTable<TagProperty::Key, WireSequences::TagPropertyKey::type>("tagPropertyKey", EqualNumbers(18)),
-        EnumTable<Tag::CommandType, WireSequences::CommandType::type>("commandType", EqualNumbers(15)),
-        EnumTable<BoundaryType, WireSequences::BoundaryType::type>("boundaryType", EqualNumbers(4)),
-        EnumTable<EffectPosition, WireSequences::EffectPosition::type>("effectPosition", EqualNumbers(4)),
-        EnumTable<StillMode, WireSequences::StillMode::type>("stillMode", EqualNumbers(5)),
-        EnumTable<VideoEffectType, WireSequences::VideoEffectType::type>("videoEffectType", EqualNumbers(21)),
-        EnumTable<AudioEffectType, WireSequences::AudioEffectType::type>("audioEffectType", EqualNumbers(9)),
-        EnumTable<TimeCodeRegenBase, WireSequences::TimeCodeRegenBase::type>("timeCodeRegenBase", EqualNumbers(2)),
-        EnumTable<TimeCodeRegenSource, WireSequences::TimeCodeRegenSource::type>("timeCodeRegenSource",
-                                                                                 EqualNumbers(4)),
+        EnumTable<Essences::VideoCompressionType, WireClips::VideoCompressionType::type>("videoCompressionType", 26),
+        EnumTable<Essences::AudioCompressionType, WireClips::AudioCompressionType::type>("audioCompressionType", 3),
+        EnumTable<Essences::VideoCompressionInfo, WireClips::VideoCompressionInfo::type>("videoCompressionInfo", 11),
+        EnumTable<Essences::AudioConfiguration, WireClips::AudioConfiguration::type>("audioConfiguration", 8),
+        EnumTable<PlayerModeStatus, WireChannels::PlayerModeStatus::type>("playerModeStatus", 6),
+        EnumTable<PlayerModeType, WireChannels::PlayerModeType::type>("playerModeType", 14),
+        EnumTable<PlayingLoopMode, WireChannels::PlayingLoopMode::type>("playingLoopMode", 4),
+        EnumTable<PlayoutConfig, WireChannels::PlayoutConfig::type>("playoutConfig", 8),
+        EnumTable<RecorderModeStatus, WireChannels::RecorderModeStatus::type>("recorderModeStatus", 3),
+        EnumTable<TagProperty::Type, WireSequences::TagPropertyType::type>("tagPropertyType", 4),
+        EnumTable<TagProperty::Key, WireSequences::TagPropertyKey::type>("tagPropertyKey", 18),
+        EnumTable<Tag::CommandType, WireSequences::CommandType::type>("commandType", 15),
+        EnumTable<BoundaryType, WireSequences::BoundaryType::type>("boundaryType", 4),
+        EnumTable<EffectPosition, WireSequences::EffectPosition::type>("effectPosition", 4),
+        EnumTable<StillMode, WireSequences::StillMode::type>("stillMode", 5),
+        EnumTable<VideoEffectType, WireSequences::VideoEffectType::type>("videoEffectType", 21),
+        EnumTable<AudioEffectType, WireSequences::AudioEffectType::type>("audioEffectType", 9),
+        EnumTable<TimeCodeRegenBase, WireSequences::TimeCodeRegenBase::type>("timeCodeRegenBase", 2),
+        EnumTable<TimeCodeRegenSource, WireSequences::TimeCodeRegenSource::type>("timeCodeRegenSource", 4),
         EnumTable<TimeCodeRegenOutput, WireSequences::TimeCodeRegenOutput::type>("timeCodeRegenOutput",
                                                                                  {0, 1, 2, 65535}),
-        EnumTable<TimeCodeRegenType, WireSequences::TimeCodeRegenType::type>("timeCodeRegenType", EqualNumbers(2)),
-        {"operationResult",
-         [](std::int32_t number) {
-             return std::int32_t{
-                 Thrift::Data::OperationResultConverter::To(static_cast<Domain::OperationResult>(number))};
-         },
-         [](std::int32_t number)
-         {
-             return static_cast<std::int32_t>(
-                 Thrift::Data::OperationResultConverter::To(static_cast<Wire::OperationResult::type>(number)));
-         },
-         {0, 1, 8, 2, 3, 4, 5, 6, 7, 9, 10, 11}},
-        {"operationStatus",
-         [](std::int32_t number)
-         {
-             return std::int32_t{
-                 Thrift::Data::OperationStatusConverter::To(static_cast<Domain::OperationStatus::Status>(number))};
-         },
-         [](std::int32_t number)
-         {
-             return static_cast<std::int32_t>(
-                 Thrift::Data::OperationStatusConverter::To(static_cast<Wire::OperationStatusStatus::type>(number)));
-         },
-         EqualNumbers(4)},
+        EnumTable<TimeCodeRegenType, WireSequences::TimeCodeRegenType::type>("timeCodeRegenType", 2),
+        EnumTable<Domain::OperationResult, Wire::OperationResult::type>("operationResult",
+                                                                        {0, 1, 8, 2, 3, 4, 5, 6, 7, 9, 10, 11}),
+        EnumTable<Domain::OperationStatus::Status, Wire::OperationStatusStatus::type>("operationStatus", 4),
     };
 }
 
