@@ -54,7 +54,7 @@ private:
 
         constexpr Value Find(Key key) const noexcept
         {
-            auto const& slot = slots_[Index(key)];
+            auto const slot = slots_[Index(key)]; // a copy, so that nothing depends on a branch
             return slot.key == key ? slot.value : Value{};
         }
 
