@@ -12,6 +12,9 @@ constexpr unsigned int ChannelIndexOffset = 4;
 constexpr unsigned int MachineSerialOffset = 8;
 constexpr std::uint32_t Mark = 1;
 
+// What the parts of a new identifier pack to, as a constant: a reply is built of dozens of them.
+constexpr unsigned char Undefined[Data::Guid::Size]{0, 0, 0, 2, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, Mark};
+
 Data::Guid Pack(std::uint32_t type, std::uint32_t channelIndex, std::uint32_t machineSerial) noexcept
 {
     unsigned char bytes[Data::Guid::Size];
@@ -31,7 +34,7 @@ std::uint32_t WordAt(Data::Guid const& guid, unsigned int offset) noexcept
 } // namespace
 
 Guid::Guid() noexcept
-    : Guid(Type::ChannelGuidTypeUndefined, 0, 0)
+    : Data::Guid(Undefined, Size)
 {
 }
 
