@@ -10,7 +10,8 @@ public:
     /// True if `year` divides by 4 and, if it divides by 100, also by 400.
     static constexpr bool IsLeapYear(int year) noexcept
     {
-        return year % 4 == 0 && (year % 100 != 0 || year % 400 == 0);
+        // A multiple of 4 is one of 100 if it is one of 25, and then one of 400 if it is one of 16.
+        return year % 4 == 0 && (year % 25 != 0 || year % 16 == 0);
     }
 
     /// The days of `month` (1 to 12); 0 for any other month.

@@ -59,10 +59,15 @@ Shape ScanClock(std::string_view text, TimeCodeBuilder& fields) noexcept
         return Shape::Neither;
 
     int rate = 0;
-    char const* const end = text.data() + text.size();
-    auto const [rateEnd, error] = std::from_chars(text.data() + ratePosition, end, rate);
-    if (rateEnd != end) return Shape::Neither;
-    if (error != std::errc{}) return Shape::RateTooLarge;
+    if (text.size() == ratePosition + 2 && IsDigit(text[ratePosition + 1])) // most rates
+        rate = Pair(text, ratePosition);
+    else
+    {
+        char const* const end = text.data() + text.size();
+        auto const [rateEnd, error] = std::from_chars(text.data() + ratePosition, end, rate);
+        if (rateEnd != end) return Shape::Neither;
+        if (error != std::errc{}) return Shape::RateTooLarge;
+    }
 
     fields.hour = Pair(text, 0);
     fields.minute = Pair(text, 3);

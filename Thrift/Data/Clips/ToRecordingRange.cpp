@@ -21,7 +21,10 @@ ConversionResult ThriftToRecordingRangeConverter::To(Generated::RecordingRange c
     auto const outTimecode = ReadTimeCode(source.outBoundTimecode);
     if (!inTimecode || !outTimecode) return Failure("Invalid TimeCode format");
 
-    destination = {{source.inBoundTimepoint}, {source.outBoundTimepoint}, *inTimecode, *outTimecode};
+    destination.rangeInTimePoint = {source.inBoundTimepoint};
+    destination.rangeOutTimePoint = {source.outBoundTimepoint};
+    destination.rangeInTimecode = *inTimecode;
+    destination.rangeOutTimecode = *outTimecode;
     return Success();
 }
 
