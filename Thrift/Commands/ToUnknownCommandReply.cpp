@@ -13,7 +13,8 @@ ConversionResult
 ThriftToUnknownCommandReplyConverter::To(Generated::UnknownCommandReply const& source,
                                          HighLevelOperations::Commands::UnknownCommandReply& destination) const noexcept
 {
-    destination = {Corvane::Data::Guid::Empty(), source.commandType}; // whether the flag is set or not
+    destination.commandGuid = Corvane::Data::Guid::Empty();
+    destination.commandType = source.commandType; // whether the flag is set or not
     return Success();
 }
 

@@ -6,7 +6,6 @@
 #include "generated/MultiviewerDataOverrides_types.h"
 
 #include <cstdint>
-#include <utility>
 
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data
 {
@@ -23,9 +22,11 @@ FromMultiviewerDataOverrides::To(Multiviewer::MultiviewerDataOverrides const& so
     destination.playersData.reserve(source.playerCount);
     for (std::uint32_t i = 0; i < source.playerCount; ++i)
     {
-        Corvane::Data::Generated::PlayerDataOverrides player;
-        if (auto const result = fromPlayer.To(source[i], player); !result.success) return Nested(result);
-        destination.playersData.push_back(std::move(player));
+        if (auto const result = fromPlayer.To(source[i], destination.playersData.emplace_back()); !result.success)
+        {
+            destination.playersData.pop_back();
+            return Nested(result);
+        }
     }
     return Success();
 }

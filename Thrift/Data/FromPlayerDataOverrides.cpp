@@ -74,7 +74,8 @@ ConversionResult FromPlayerDataOverrides::To(Multiviewer::PlayerDataOverrides co
         Send(source.ProgramMode().Value(), destination.programMode);
     if (isset.isPostRollEnabled = source.IsPostRollEnabled().HasValue(); isset.isPostRollEnabled)
         destination.isPostRollEnabled = source.IsPostRollEnabled().Value();
-    if (isset.message = source.Message().HasValue(); isset.message) destination.message = source.Message().Value();
+    auto const message = source.Message(); // a copy of the text
+    if (isset.message = message.HasValue(); isset.message) destination.message = message.Value();
     return Success();
 }
 

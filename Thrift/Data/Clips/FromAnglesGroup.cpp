@@ -6,8 +6,6 @@
 #include "Thrift/Detail/Results.h"
 #include "generated/AnglesGroup_types.h"
 
-#include <utility>
-
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips
 {
 
@@ -24,11 +22,9 @@ AnglesGroupToThriftConverter::To(Corvane::Data::Clips::Groups::AnglesGroup const
     auto const send = [&destination](Angle const& angle, Generated::PreferentialCamera::type const preference)
     {
         if (angle == Angle::Empty()) return Success();
-        Corvane::Data::Clips::Groups::Generated::AnglesGroupItem item;
-        if (auto const result = guidConverter.To(angle.clipGuid, item.clipId); !result.success) return Nested(result);
+        auto& item = destination.angles[EnumConverter::ToGeneratedEnum(angle.camera)];
         item.preferencialCamera = preference;
-        destination.angles.insert_or_assign(EnumConverter::ToGeneratedEnum(angle.camera), std::move(item));
-        return Success();
+        return guidConverter.To(angle.clipGuid, item.clipId);
     };
 
     if (auto const result = guidConverter.To(source.groupGuid, destination.id); !result.success) return Nested(result);
