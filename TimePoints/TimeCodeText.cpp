@@ -46,7 +46,10 @@ bool WriteLayout(TimeCode const& timeCode, std::string& text)
     auto const [days, secondOfDay, frame] = SplitSample(timeCode);
     if (days >= DaysSinceOrigin(10000, 1, 1)) return false;
 
-    text.resize(layout.size());
+    if (text.capacity() < layout.size())
+        text = std::string(layout); // costs less than letting it grow
+    else if (text.size() != layout.size())
+        text = layout;
     char* const out = text.data();
     if (timeCode.Dated())
     {

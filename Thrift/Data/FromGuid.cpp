@@ -2,6 +2,7 @@
 
 #include "Domain/CorvaneData/Guid.h"
 #include "Thrift/Detail/Results.h"
+#include "Thrift/Detail/Strings.h"
 #include "generated/Guid_types.h"
 
 namespace Talvo::Corvane::Data::Generated
@@ -23,7 +24,7 @@ using namespace Detail;
 ConversionResult GuidToThriftConverter::To(Corvane::Data::Guid const& source,
                                            Corvane::Data::Generated::Guid& destination) const noexcept
 {
-    destination.value.assign(reinterpret_cast<char const*>(source.Bytes()), source.Size);
+    Assign<Corvane::Data::Guid::Size>(destination.value, reinterpret_cast<char const*>(source.Bytes()));
     destination.__isset.value = true;
     return Success();
 }

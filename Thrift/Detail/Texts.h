@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Domain/CorvaneData/FixedText.h"
+#include "Thrift/Detail/Strings.h"
 #include "generated/Clip_types.h"
 
 #include <algorithm>
@@ -41,9 +42,7 @@ void AssignBounded(std::array<char, Size>& destination, std::string const& sourc
 template<std::size_t Size>
 void SendSlot(Corvane::Data::FixedText<Size> const& source, Data::Clips::Generated::AsciiOrUtf16String& destination)
 {
-    // Not assign(): a used record has the size already, and then this is a copy of constant length.
-    destination.data.resize(Size);
-    std::copy_n(source.payload.data(), Size, destination.data.data());
+    Assign<Size>(destination.data, source.payload.data());
     destination.isUtf16 = source.isUtf16;
     destination.__isset.data = true;
     destination.__isset.isUtf16 = true;
