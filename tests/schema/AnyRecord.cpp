@@ -40,7 +40,7 @@ private:
 };
 
 template<typename T>
-RecordType Row(RecordEntry<T> const& entry)
+RecordType Row(Wire::Entry<T> const& entry)
 {
     constexpr bool hasFlags = requires(T record)
     {
@@ -58,7 +58,8 @@ RecordType Row(RecordEntry<T> const& entry)
 
 std::span<RecordType const> AllRecordTypes()
 {
-    static auto const rows = std::apply([](auto const&... entries) { return std::array{Row(entries)...}; }, AllRecords);
+    static auto const rows =
+        std::apply([](auto const&... entries) { return std::array{Row(entries)...}; }, Wire::AllRecords);
     return rows;
 }
 
