@@ -114,4 +114,22 @@ void ExpectFieldByField(std::type_identity_t<TDomain> const& value,
     EXPECT_EQ(assembled, value);
 }
 
+/// Applies the wire fields of a value one after the other, and gives the ids of those that are enough alone; with the others
+/// it fails as told.
+template<typename TConverters>
+std::string FieldsThatCount(typename TConverters::Domain const& value, typename TConverters::Domain& assembled,
+                            std::string const& failure)
+{
+    std::string counted;
+    for (auto const& field : FieldByField(TConverters::Sent(value)))
+    {
+        auto const told = TConverters::Told(Read<typename TConverters::Wire>(field), assembled);
+        if (told.empty())
+            counted += std::to_string(field[2]) + ' '; // its id, behind the type
+        else
+            EXPECT_EQ(told, failure);
+    }
+    return counted;
+}
+
 } // namespace Talvo::Tests
