@@ -17,6 +17,9 @@ struct Comparison
 
 using Comparisons = std::vector<Comparison>;
 
+/// Runs what `add` registers, with the options of the command line, and prints the rows it gives. The status to exit with.
+int Run(int argc, char** argv, Comparisons (*add)());
+
 // Each registers its benchmarks and adds the rows that show them.
 void AddTimeCodes(Comparisons& rows);
 void AddClips(Comparisons& rows);
