@@ -1,7 +1,10 @@
 #!/usr/bin/env python3
 """report.py RESULTS FOLDER: of what the benchmarks measured of every record, prints the table and writes it into FOLDER
-as performance.json and performance.svg. RESULTS is what Google Benchmark writes as JSON."""
+as performance.json and performance.svg. RESULTS is what Google Benchmark writes as JSON.
 
+report.py --compare RESULTS... --with OTHERS...: what the others take of the time that RESULTS tell."""
+
+import argparse
 import json
 import pathlib
 import statistics
@@ -16,19 +19,25 @@ RATIOS = {
 }
 
 
-def records(results):
-    """One dictionary a record, in nanoseconds: medians of all repetitions. Empty where not all was measured."""
-    times = {}
-    for run in results["benchmarks"]:
-        group, *rest = run["run_name"].split("/")
-        if run["run_type"] == "iteration" and group == "every":
-            name, what = rest[:2]
-            times.setdefault(name, {}).setdefault(what, []).append(run["cpu_time"])
+def times(results_files):
+    """By record and measurement: the times of all repetitions, in nanoseconds."""
+    found = {}
+    for file in results_files:
+        for run in json.loads(pathlib.Path(file).read_text())["benchmarks"]:
+            group, *rest = run["run_name"].split("/")
+            if run["run_type"] == "iteration" and group == "every":
+                found.setdefault(rest[0], {}).setdefault(rest[1], []).append(run["cpu_time"])
+    return {record: {what: statistics.median(values) for what, values in measured.items()}
+            for record, measured in found.items()}
+
+
+def records(results_file):
+    """One dictionary a record. Empty where not all was measured."""
     rows = []
-    for name, measured in times.items():
+    for name, measured in times([results_file]).items():
         if set(measured) != set(MEASUREMENTS):
             continue
-        row = {"record": name} | {what: statistics.median(measured[what]) for what in MEASUREMENTS}
+        row = {"record": name} | {what: measured[what] for what in MEASUREMENTS}
         for ratio, (what, against, _, _) in RATIOS.items():
             row[ratio] = row[what] / row[against]
         rows.append({key: value if key == "record" else round(value, 3) for key, value in row.items()})
@@ -78,9 +87,16 @@ def chart(rows):
     return "\n".join(svg + ["</svg>", ""])
 
 
-def main(results_file, folder):
-    results = json.loads(pathlib.Path(results_file).read_text())
-    rows = records(results)
+def compare(results_files, other_files):
+    results, others = times(results_files), times(other_files)
+    for what in ("toWire", "fromWire"):
+        ratios = sorted((others[record][what] / results[record][what], record) for record in results)
+        print(f"  {what}: median {statistics.median(ratio for ratio, _ in ratios):.2f}, "
+              f"from {ratios[0][0]:.2f} ({ratios[0][1]}) to {ratios[-1][0]:.2f} ({ratios[-1][1]})")
+
+
+def report(results_file, folder):
+    rows = records(results_file)
     if not rows:
         return  # filtered out on the command line
     print_table(rows)
@@ -89,5 +105,20 @@ def main(results_file, folder):
     pathlib.Path(folder, "performance.svg").write_text(chart(rows))
 
 
+def main():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("results", nargs="?")
+    parser.add_argument("folder", nargs="?")
+    parser.add_argument("--compare", nargs="+")
+    parser.add_argument("--with", nargs="+", dest="others")
+    arguments = parser.parse_args()
+    if arguments.compare and arguments.others:
+        compare(arguments.compare, arguments.others)
+    elif arguments.folder:
+        report(arguments.results, arguments.folder)
+    else:
+        parser.error("no results")
+
+
 if __name__ == "__main__":
-    main(*sys.argv[1:])
+    main()

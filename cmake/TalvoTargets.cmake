@@ -1,4 +1,5 @@
 set(TALVO_WARNINGS -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wold-style-cast -Wnon-virtual-dtor -Werror)
+option(TALVO_LINK_TIME_OPTIMISATION "Inline between files when the library is linked (g++)" ON)
 set(TALVO_LAYER_OPTIONS "" CACHE STRING "Further compile options of the layers of the library")
 # Nearly all of the compiler's time goes to the headers that the files of a folder share.
 option(TALVO_UNITY_LAYERS "Compile each folder of the library as one unit" OFF)
@@ -14,7 +15,7 @@ function(talvo_add_layer name)
     # A conversion calls many small functions of other files (enumeration lookups, time codes): inlined when the library
     # is linked, which saves a sixth of its time. Not with clang, which needs a linker of its own for that.
     if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
-        set_target_properties(${name} PROPERTIES INTERPROCEDURAL_OPTIMIZATION_RELEASE ON)
+        set_target_properties(${name} PROPERTIES INTERPROCEDURAL_OPTIMIZATION_RELEASE ${TALVO_LINK_TIME_OPTIMISATION})
     endif()
 endfunction()
 
