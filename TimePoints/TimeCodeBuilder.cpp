@@ -66,7 +66,7 @@ bool TimeCodeBuilder::IsValidToBuildWithexception() const
 
 TimeCode TimeCodeBuilder::Build() const
 {
-    IsValidToBuildWithexception();
+    if (FirstFault() != Fault::None) IsValidToBuildWithexception(); // throws
     return BuildUnchecked();
 }
 
