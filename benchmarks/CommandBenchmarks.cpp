@@ -151,6 +151,7 @@ void AddCommands(Comparisons& rows)
                   {
                       Generated::GetClipsCommandReply wire;
                       ToWire(*source, wire);
+                      return wire;
                   };
               });
 }

@@ -7,7 +7,6 @@
 #include "generated/Playlist_types.h"
 #include "tests/Thrift/Data/Sequences/Values.h"
 
-#include <benchmark/benchmark.h>
 
 #include <cstddef>
 #include <memory>
@@ -55,7 +54,7 @@ void AddPlaylists(Comparisons& rows)
                   {
                       Generated::Playlist wire;
                       std::ignore = PlaylistToThriftConverter().To(*playlist, wire);
-                      benchmark::DoNotOptimize(wire);
+                      return wire;
                   };
               });
     AddLinear(rows, "wire to elements", 500, 5'000,
@@ -67,7 +66,7 @@ void AddPlaylists(Comparisons& rows)
                   {
                       Playlist playlist;
                       std::ignore = ThriftToPlaylistConverter().To(*sent, playlist);
-                      benchmark::DoNotOptimize(playlist);
+                      return playlist;
                   };
               });
 }

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""report.py RESULTS FOLDER: of what the benchmarks measured of every record, prints the table and writes it into FOLDER
-as performance.json and performance.svg. RESULTS is what Google Benchmark writes as JSON.
+"""report.py RESULTS... FOLDER: of what the benchmarks measured of every record, prints the table and writes it into FOLDER
+as performance.json and performance.svg. RESULTS are what Google Benchmark writes as JSON, one a run of the program.
 
 report.py --compare RESULTS... --with OTHERS...: what the others take of the time that RESULTS tell."""
 
@@ -31,10 +31,10 @@ def times(results_files):
             for record, measured in found.items()}
 
 
-def records(results_file):
+def records(results_files):
     """One dictionary a record. Empty where not all was measured."""
     rows = []
-    for name, measured in times([results_file]).items():
+    for name, measured in times(results_files).items():
         if set(measured) != set(MEASUREMENTS):
             continue
         row = {"record": name} | {what: measured[what] for what in MEASUREMENTS}
@@ -95,8 +95,8 @@ def compare(results_files, other_files):
               f"from {ratios[0][0]:.2f} ({ratios[0][1]}) to {ratios[-1][0]:.2f} ({ratios[-1][1]})")
 
 
-def report(results_file, folder):
-    rows = records(results_file)
+def report(results_files, folder):
+    rows = records(results_files)
     if not rows:
         return  # filtered out on the command line
     print_table(rows)
@@ -107,15 +107,15 @@ def report(results_file, folder):
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
-    parser.add_argument("results", nargs="?")
-    parser.add_argument("folder", nargs="?")
+    parser.add_argument("results", nargs="*")
     parser.add_argument("--compare", nargs="+")
     parser.add_argument("--with", nargs="+", dest="others")
     arguments = parser.parse_args()
     if arguments.compare and arguments.others:
         compare(arguments.compare, arguments.others)
-    elif arguments.folder:
-        report(arguments.results, arguments.folder)
+    elif len(arguments.results) > 1:
+        *results, folder = arguments.results
+        report(results, folder)
     else:
         parser.error("no results")
 
