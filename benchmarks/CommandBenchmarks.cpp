@@ -2,6 +2,7 @@
 #include "benchmarks/PeakGrowth.h"
 #include "benchmarks/Records.h"
 
+#include "Domain/HighLevelOperations/Commands/CommandParams.h"
 #include "Domain/HighLevelOperations/Commands/GetClipsCommandReply.h"
 #include "Domain/HighLevelOperations/Commands/PlayCommandParams.h"
 #include "Thrift/Commands/FromGetClipsCommandReply.h"
@@ -29,6 +30,7 @@ namespace
 
 using namespace Corvane::Zelmar::Serialization::Thrift::Commands;
 using Corvane::Data::Clips::Clip;
+using Corvane::Zelmar::HighLevelOperations::Commands::CommandParams;
 using Corvane::Zelmar::HighLevelOperations::Commands::GetClipsCommandReply;
 using Corvane::Zelmar::HighLevelOperations::Commands::PlayCommandParams;
 
@@ -82,6 +84,14 @@ void AddCommands(Comparisons& rows)
     AddRecord<PlayCommandParamsToThriftConverter, ThriftToPlayCommandParamsConverter, Generated::PlayCommandParams>(
         rows, "play command", play, {.toNewRecordOfCopy = 1.3},
         [](Generated::PlayCommandParams& wire) { wire.players.clear(); });
+
+    // New parameters draw an identifier, which is a part of what a conversion to new ones takes.
+    benchmark::RegisterBenchmark("new command parameters",
+                                 [](benchmark::State& state)
+                                 {
+                                     for (auto _ : state) benchmark::DoNotOptimize(CommandParams());
+                                 });
+    rows.push_back({"new command parameters", "wire to play command", {}});
 
     // What a conversion leaves is destroyed outside the time that counts.
     auto const reply = std::make_shared<GetClipsCommandReply>(ReplyOf(ListSize));

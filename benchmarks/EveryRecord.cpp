@@ -140,16 +140,6 @@ void AddEveryRecord()
     AddEach(Tools::ServerRecords());
     AddEach(Tools::CommandRecords());
     AddEach(Tools::NotifierRecords());
-
-    benchmark::RegisterBenchmark("new command parameters",
-                                 [](benchmark::State& state)
-                                 {
-                                     for (auto _ : state)
-                                     {
-                                         Corvane::Zelmar::HighLevelOperations::Commands::CommandParams parameters;
-                                         benchmark::DoNotOptimize(parameters);
-                                     }
-                                 });
 }
 
 } // namespace Talvo::Benchmarks

@@ -7,7 +7,6 @@
 #include "generated/Playlist_types.h"
 #include "tests/Thrift/Data/Sequences/Values.h"
 
-
 #include <cstddef>
 #include <memory>
 #include <tuple>
