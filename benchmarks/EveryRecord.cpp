@@ -4,12 +4,7 @@
 #include "Domain/HighLevelOperations/Commands/CommandParams.h"
 #include "Thrift/Hazards.h"
 #include "tests/schema/RecordFiller.h"
-#include "tools/records/Channels.h"
-#include "tools/records/Clips.h"
-#include "tools/records/Commands.h"
-#include "tools/records/Common.h"
-#include "tools/records/Notifier.h"
-#include "tools/records/Sequences.h"
+#include "tools/records/All.h"
 
 #include <benchmark/benchmark.h>
 
@@ -18,7 +13,6 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
-#include <tuple>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -28,40 +22,6 @@ namespace Talvo::Benchmarks
 
 namespace
 {
-
-/// Fills every field as the tests' filler does, but with numbers that enumerations have and with texts that are time
-/// codes, no two alike in the first sixteen characters, which become identifiers.
-class SampleFiller : public Tests::RecordFiller
-{
-public:
-    explicit SampleFiller(std::vector<std::int16_t> numbers)
-        : numbers_(std::move(numbers))
-    {
-    }
-
-    std::uint32_t readI16(std::int16_t& value) { return Next(value); }
-    std::uint32_t readI32(std::int32_t& value) { return Next(value); }
-    std::uint32_t readI64(std::int64_t& value) { return Next(value); }
-
-    std::uint32_t readString(std::string& value)
-    {
-        auto const text = texts_++;
-        value =
-            "2024-01-" + std::to_string(10 + text % 20) + "T" + std::to_string(10 + text / 20 % 14) + ":58:57:12@25";
-        return 0;
-    }
-
-private:
-    std::uint32_t Next(auto& value)
-    {
-        value = numbers_[nextNumber_++ % numbers_.size()];
-        return 0;
-    }
-
-    std::vector<std::int16_t> numbers_;
-    std::size_t nextNumber_ = 0;
-    int texts_ = 0;
-};
 
 /// A record on both sides.
 template<typename TWire, typename TDomain>
@@ -80,7 +40,7 @@ Sample<TWire, TDomain> FullSample(std::string const& name)
     Sample<TWire, TDomain> fullest;
     for (auto const& numbers : {std::vector<std::int16_t>{1}, {2}, {1, 2, 3}})
     {
-        SampleFiller filler(numbers);
+        auto filler = Tests::RecordFiller::Convertible(numbers);
         TWire filled;
         filled.read(&filler);
         if (!Corvane::Zelmar::Serialization::Thrift::FindHazards(filled).empty()) continue;
@@ -123,23 +83,11 @@ void Add(Tools::Record<TWire, TToWire, TToDomain, TDomain, newDomain> const& rec
     }
 }
 
-void AddEach(auto const& records)
-{
-    std::apply([](auto const&... record) { (Add(record), ...); }, records);
-}
-
 } // namespace
 
 void AddEveryRecord()
 {
-    AddEach(Tools::CommonRecords());
-    AddEach(Tools::GroupRecords());
-    AddEach(Tools::ClipRecords());
-    AddEach(Tools::ChannelRecords());
-    AddEach(Tools::SequenceRecords());
-    AddEach(Tools::ServerRecords());
-    AddEach(Tools::CommandRecords());
-    AddEach(Tools::NotifierRecords());
+    Tools::ForEachRecord([](auto const& record, auto) { Add(record); });
 }
 
 } // namespace Talvo::Benchmarks

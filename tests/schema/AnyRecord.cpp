@@ -1,8 +1,7 @@
 #include "tests/schema/AnyRecord.h"
 
-#include "tests/schema/AllRecords.h"
+#include "tools/records/All.h"
 
-#include <array>
 #include <sstream>
 #include <type_traits>
 
@@ -39,28 +38,28 @@ private:
     T record_;
 };
 
-template<typename T>
-RecordType Row(Wire::Entry<T> const& entry)
+template<typename T, typename TToWire, typename TToDomain, typename TDomain, TDomain (*newDomain)(T const&)>
+RecordType TypeOf(Tools::Record<T, TToWire, TToDomain, TDomain, newDomain> const& record)
 {
-    constexpr bool hasFlags = requires(T record)
+    constexpr bool hasFlags = requires(T wire)
     {
-        record.__isset;
+        wire.__isset;
     };
-    return {entry.name,
-            entry.fingerprint,
-            T::ascii_fingerprint,
-            T::binary_fingerprint,
-            hasFlags,
+    return {record.name, T::ascii_fingerprint, T::binary_fingerprint, hasFlags,
             []() -> std::unique_ptr<AnyRecord> { return std::make_unique<HeldRecord<T>>(); }};
 }
 
 } // namespace
 
-std::span<RecordType const> AllRecordTypes()
+std::vector<RecordType> const& AllRecordTypes()
 {
-    static auto const rows =
-        std::apply([](auto const&... entries) { return std::array{Row(entries)...}; }, Wire::AllRecords);
-    return rows;
+    static auto const types = []
+    {
+        std::vector<RecordType> all;
+        Tools::ForEachRecord([&all](auto const& record, auto) { all.push_back(TypeOf(record)); });
+        return all;
+    }();
+    return types;
 }
 
 } // namespace Talvo::Tests

@@ -23,11 +23,18 @@ RecordFiller::RecordFiller(Filter offered)
 {
 }
 
-RecordFiller RecordFiller::Convertible(std::int16_t const number)
+RecordFiller RecordFiller::Convertible(std::vector<std::int16_t> numbers)
 {
     RecordFiller filler;
-    filler.onlyNumber_ = number;
+    filler.numbers_ = std::move(numbers);
     return filler;
+}
+
+bool RecordFiller::ReadConvertible(auto& value)
+{
+    if (numbers_.empty()) return false;
+    value = numbers_[nextNumber_++ % numbers_.size()];
+    return true;
 }
 
 std::uint32_t RecordFiller::readStructBegin(std::string&)
@@ -117,28 +124,30 @@ std::uint32_t RecordFiller::readBool(std::vector<bool>::reference value)
 
 std::uint32_t RecordFiller::readI16(std::int16_t& value)
 {
-    value = onlyNumber_ != 0 ? onlyNumber_ : static_cast<std::int16_t>(-++count_);
+    if (!ReadConvertible(value)) value = static_cast<std::int16_t>(-++count_);
     return 0;
 }
 
 std::uint32_t RecordFiller::readI32(std::int32_t& value)
 {
-    value = onlyNumber_ != 0 ? onlyNumber_ : 0x10001 * ++count_;
+    if (!ReadConvertible(value)) value = 0x10001 * ++count_;
     return 0;
 }
 
 std::uint32_t RecordFiller::readI64(std::int64_t& value)
 {
-    value = onlyNumber_ != 0 ? onlyNumber_ : -0x100000001 * ++count_;
+    if (!ReadConvertible(value)) value = -0x100000001 * ++count_;
     return 0;
 }
 
 std::uint32_t RecordFiller::readString(std::string& value)
 {
-    if (onlyNumber_ != 0)
-        value = "2024-06-15T10:00:00:00@50";
+    auto const text = count_++;
+    if (numbers_.empty())
+        value = "text " + std::to_string(text) + " \"\\\x01\x7F\x80\xFF";
     else
-        value = "text " + std::to_string(++count_) + " \"\\\x01\x7F\x80\xFF";
+        value =
+            "2024-01-" + std::to_string(10 + text % 20) + "T" + std::to_string(10 + text / 20 % 14) + ":58:57:12@25";
     return 0;
 }
 

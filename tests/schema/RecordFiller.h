@@ -3,6 +3,7 @@
 #include <thrift/protocol/TVirtualProtocol.h>
 #include <thrift/transport/TBufferTransports.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <set>
@@ -27,9 +28,9 @@ public:
 
     explicit RecordFiller(Filter offered = [](std::int16_t) { return true; });
 
-    /// Fills a record that converters take: every number is `number` and every text a time code. Of a map or a set one
-    /// element is left.
-    static RecordFiller Convertible(std::int16_t number);
+    /// Fills a record that converters take: with `numbers` in turn, and with texts that are time codes, no two alike in
+    /// the first sixteen characters, which become identifiers.
+    static RecordFiller Convertible(std::vector<std::int16_t> numbers);
 
     /// The field ids of the outermost record that were read.
     std::set<std::int16_t> const& FieldIds() const { return fieldIds_; }
@@ -63,11 +64,15 @@ private:
         bool skipped = false;
     };
 
+    /// The next number, where converters take it.
+    bool ReadConvertible(auto& value);
+
     Filter offered_;
     std::vector<OpenRecord> open_;
     std::set<std::int16_t> fieldIds_;
     std::int16_t count_ = 0;
-    std::int16_t onlyNumber_ = 0; ///< 0: distinct values.
+    std::vector<std::int16_t> numbers_; ///< Empty: distinct values.
+    std::size_t nextNumber_ = 0;
 };
 
 } // namespace Talvo::Tests
