@@ -1,24 +1,7 @@
 #include "tests/Thrift/Commands/ResultsItems.h"
 
-#include "Domain/HighLevelOperations/Commands/CreatePlaylistsCommandParams.h"
-#include "Domain/HighLevelOperations/Commands/DeletePlaylistsCommandParams.h"
-#include "Domain/HighLevelOperations/Commands/PlaylistCommandReply.h"
-#include "Domain/HighLevelOperations/Commands/UpdatePlaylistsCommandParams.h"
-#include "Thrift/Commands/FromCreatePlaylistsCommandParams.h"
-#include "Thrift/Commands/FromDeletePlaylistsCommandParams.h"
-#include "Thrift/Commands/FromPlaylistCommandReply.h"
-#include "Thrift/Commands/FromPlaylistResultsItem.h"
-#include "Thrift/Commands/FromUpdatePlaylistsCommandParams.h"
-#include "Thrift/Commands/ToCreatePlaylistsCommandParams.h"
-#include "Thrift/Commands/ToDeletePlaylistsCommandParams.h"
-#include "Thrift/Commands/ToPlaylistCommandReply.h"
-#include "Thrift/Commands/ToPlaylistResultsItem.h"
-#include "Thrift/Commands/ToUpdatePlaylistsCommandParams.h"
-#include "generated/CreatePlaylistsCommandParams_types.h"
-#include "generated/DeletePlaylistsCommandParams_types.h"
-#include "generated/PlaylistCommandReply_types.h"
-#include "generated/UpdatePlaylistsCommandParams_types.h"
 #include "tests/Thrift/Data/Sequences/Values.h"
+#include "tools/records/Commands.h"
 
 #include <gtest/gtest.h>
 

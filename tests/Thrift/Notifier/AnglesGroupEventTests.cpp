@@ -1,21 +1,7 @@
 #include "tests/Thrift/Notifier/Values.h"
 
 #include "Domain/CorvaneData/Notification/AnglesGroupCreationFailedEventArgs.h"
-#include "Domain/CorvaneData/Notification/AnglesGroupCreationFinishedEventArgs.h"
-#include "Domain/CorvaneData/Notification/AnglesGroupDeletionFinishedEventArgs.h"
-#include "Domain/CorvaneData/Notification/AnglesGroupUpdateFinishedEventArgs.h"
-#include "Thrift/Notifier/FromAnglesGroupCreationEventArgs.h"
-#include "Thrift/Notifier/FromAnglesGroupCreationFailedEventArgs.h"
-#include "Thrift/Notifier/FromAnglesGroupCreationFinishedEventArgs.h"
-#include "Thrift/Notifier/FromAnglesGroupDeletionFinishedEventArgs.h"
-#include "Thrift/Notifier/FromAnglesGroupUpdateFinishedEventArgs.h"
-#include "Thrift/Notifier/ToAnglesGroupCreationEventArgs.h"
-#include "Thrift/Notifier/ToAnglesGroupCreationFinishedEventArgs.h"
-#include "Thrift/Notifier/ToAnglesGroupDeletionFinishedEventArgs.h"
-#include "Thrift/Notifier/ToAnglesGroupUpdateFinishedEventArgs.h"
-#include "generated/AnglesGroupCreationEventArgs_types.h"
-#include "generated/AnglesGroupDeletionEventArgs_types.h"
-#include "generated/AnglesGroupUpdateEventArgs_types.h"
+#include "tools/records/Notifier.h"
 
 #include <gtest/gtest.h>
 

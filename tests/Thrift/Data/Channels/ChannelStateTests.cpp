@@ -1,15 +1,7 @@
 #include "tests/Thrift/Data/Channels/Values.h"
 
-#include "Thrift/Data/Channels/FromPlayerClipOnAir.h"
-#include "Thrift/Data/Channels/FromPlayerState.h"
-#include "Thrift/Data/Channels/FromRecorderState.h"
-#include "Thrift/Data/Channels/ToPlayerClipOnAir.h"
-#include "Thrift/Data/Channels/ToPlayerState.h"
-#include "Thrift/Data/Channels/ToRecorderState.h"
-#include "generated/PlayerClipOnAir_types.h"
-#include "generated/PlayerState_types.h"
-#include "generated/RecorderState_types.h"
 #include "tests/Thrift/RoundTrip.h"
+#include "tools/records/Channels.h"
 
 #include <gtest/gtest.h>
 

@@ -1,21 +1,8 @@
 #include "tests/Thrift/Data/Clips/Values.h"
 
-#include "Domain/CorvaneData/Clips/Groups/AnglesGroup.h"
-#include "Domain/CorvaneData/Clips/Train.h"
-#include "Thrift/Data/Clips/FromAngle.h"
-#include "Thrift/Data/Clips/FromAnglesGroup.h"
-#include "Thrift/Data/Clips/FromClip.h"
-#include "Thrift/Data/Clips/FromRecordingRange.h"
-#include "Thrift/Data/Clips/FromTrain.h"
-#include "Thrift/Data/Clips/ToAngle.h"
-#include "Thrift/Data/Clips/ToAnglesGroup.h"
-#include "Thrift/Data/Clips/ToRecordingRange.h"
-#include "Thrift/Data/Clips/ToTrain.h"
-#include "generated/Angle_types.h"
-#include "generated/AnglesGroup_types.h"
-#include "generated/Train_types.h"
 #include "tests/Thrift/Data/Values.h"
 #include "tests/Thrift/RoundTrip.h"
+#include "tools/records/Clips.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,18 +1,7 @@
 #include "tests/Thrift/Data/Sequences/Values.h"
 
-#include "Thrift/Data/Sequences/FromAudioVideoElement.h"
-#include "Thrift/Data/Sequences/FromAudioVideoTrack.h"
-#include "Thrift/Data/Sequences/FromElement.h"
-#include "Thrift/Data/Sequences/FromPlaylist.h"
-#include "Thrift/Data/Sequences/ToAudioVideoElement.h"
-#include "Thrift/Data/Sequences/ToAudioVideoTrack.h"
-#include "Thrift/Data/Sequences/ToElement.h"
-#include "Thrift/Data/Sequences/ToPlaylist.h"
-#include "generated/AudioVideoElement_types.h"
-#include "generated/AudioVideoTrack_types.h"
-#include "generated/Element_types.h"
-#include "generated/Playlist_types.h"
 #include "tests/Thrift/RoundTrip.h"
+#include "tools/records/Sequences.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,16 +1,7 @@
 #include "tests/Thrift/Data/Sequences/Values.h"
 
-#include "Thrift/Data/Sequences/FromSequence.h"
-#include "Thrift/Data/Sequences/FromSequenceId.h"
-#include "Thrift/Data/Sequences/ToElement.h"
-#include "Thrift/Data/Sequences/ToPlaylist.h"
-#include "Thrift/Data/Sequences/ToSequence.h"
-#include "Thrift/Data/Sequences/ToSequenceId.h"
-#include "generated/Element_types.h"
-#include "generated/Playlist_types.h"
-#include "generated/SequenceId_types.h"
-#include "generated/Sequence_types.h"
 #include "tests/Thrift/RoundTrip.h"
+#include "tools/records/Sequences.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
