@@ -39,6 +39,11 @@ TEST(ServerInfoConversion, RoundTrip)
 {
     ExpectRoundTrip<Info>(FullServerInfo());
     ExpectRoundTrip<Info>(ServerInfo(), FullServerInfo());
+    ServerInfo shortest;
+    SetText(shortest.corvaneVersion, "v");
+    SetText(shortest.hardwareRevision, "r");
+    SetText(shortest.hostName, "h");
+    ExpectRoundTrip<Info>(shortest, FullServerInfo());
     EXPECT_EQ(Printed(Info::Sent(FullServerInfo())),
               "ServerInfo(serverId=-7, userNumber=-8, corvaneVersion=A version text of 32 bytes, full, "
               "serverChassis=18, hardwareRevision=16 bytes of text, hostName=" +
