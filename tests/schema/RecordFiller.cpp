@@ -23,17 +23,29 @@ RecordFiller::RecordFiller(Filter offered)
 {
 }
 
-RecordFiller RecordFiller::Convertible(std::vector<std::int16_t> numbers)
+RecordFiller RecordFiller::Convertible(std::vector<std::int16_t> numbers, Filter offered)
 {
-    RecordFiller filler;
+    RecordFiller filler(std::move(offered));
     filler.numbers_ = std::move(numbers);
     return filler;
+}
+
+void RecordFiller::Spoil(std::size_t const value, std::string text, std::int16_t const number)
+{
+    spoiled_ = {value, std::move(text), number};
+}
+
+bool RecordFiller::IsNextSpoiled()
+{
+    auto const value = values_++;
+    return spoiled_ && spoiled_->value == value;
 }
 
 bool RecordFiller::ReadConvertible(auto& value)
 {
     if (numbers_.empty()) return false;
-    value = numbers_[nextNumber_++ % numbers_.size()];
+    auto const number = numbers_[nextNumber_++ % numbers_.size()];
+    value = IsNextSpoiled() ? spoiled_->number : number;
     return true;
 }
 
@@ -145,6 +157,8 @@ std::uint32_t RecordFiller::readString(std::string& value)
     auto const text = count_++;
     if (numbers_.empty())
         value = "text " + std::to_string(text) + " \"\\\x01\x7F\x80\xFF";
+    else if (IsNextSpoiled())
+        value = spoiled_->text;
     else
         value =
             "2024-01-" + std::to_string(10 + text % 20) + "T" + std::to_string(10 + text / 20 % 14) + ":58:57:12@25";

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -30,7 +31,14 @@ public:
 
     /// Fills a record that converters take: with `numbers` in turn, and with texts that are time codes, no two alike in
     /// the first sixteen characters, which become identifiers.
-    static RecordFiller Convertible(std::vector<std::int16_t> numbers);
+    static RecordFiller Convertible(
+        std::vector<std::int16_t> numbers, Filter offered = [](std::int16_t) { return true; });
+
+    /// One of the values that converters take, the first being 0, becomes this text or number.
+    void Spoil(std::size_t value, std::string text, std::int16_t number);
+
+    /// How many numbers and texts were read that converters take.
+    std::size_t Values() const { return values_; }
 
     /// The field ids of the outermost record that were read.
     std::set<std::int16_t> const& FieldIds() const { return fieldIds_; }
@@ -64,6 +72,15 @@ private:
         bool skipped = false;
     };
 
+    struct Spoiled
+    {
+        std::size_t value;
+        std::string text;
+        std::int16_t number;
+    };
+
+    /// Whether the value that is read next is the spoiled one.
+    bool IsNextSpoiled();
     /// The next number, where converters take it.
     bool ReadConvertible(auto& value);
 
@@ -73,6 +90,8 @@ private:
     std::int16_t count_ = 0;
     std::vector<std::int16_t> numbers_; ///< Empty: distinct values.
     std::size_t nextNumber_ = 0;
+    std::size_t values_ = 0;
+    std::optional<Spoiled> spoiled_;
 };
 
 } // namespace Talvo::Tests
