@@ -13,6 +13,7 @@ namespace
 
 constexpr std::array FieldTypes{T_BOOL, T_I16, T_I32, T_I64, T_STRING, T_STRUCT, T_LIST, T_SET, T_MAP};
 constexpr int LargestFieldId = 64;
+constexpr int LargestGap = 8;
 constexpr std::uint32_t ContainerSize = 2;
 
 } // namespace
@@ -64,22 +65,27 @@ std::uint32_t RecordFiller::readStructEnd()
 std::uint32_t RecordFiller::readFieldBegin(std::string&, TType& type, std::int16_t& id)
 {
     auto& record = open_.back();
-    do
+    auto const offer = [&]
     {
         auto const [index, typeIndex] = std::div(record.offers++, static_cast<int>(FieldTypes.size()));
         record.id = static_cast<std::int16_t>(index + 1);
         type = FieldTypes[static_cast<std::size_t>(typeIndex)];
-    } while (open_.size() == 1 && record.id <= LargestFieldId && !offered_(record.id));
+    };
+    for (offer(); open_.size() == 1 && record.id <= LargestFieldId && !offered_(record.id); offer())
+        record.lastOwn = record.id;
 
     record.skipped = false;
     id = record.id;
-    if (record.id > LargestFieldId) type = T_STOP;
+    if (record.id > LargestFieldId || record.id > record.lastOwn + LargestGap) type = T_STOP;
     return 0;
 }
 
 std::uint32_t RecordFiller::readFieldEnd()
 {
-    if (open_.size() == 1 && !open_.back().skipped) fieldIds_.insert(open_.back().id);
+    auto& record = open_.back();
+    if (record.skipped) return 0;
+    record.lastOwn = record.id;
+    if (open_.size() == 1) fieldIds_.insert(record.id);
     return 0;
 }
 
