@@ -19,6 +19,8 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data
 ///
 /// An override that is missing clears the flag of its wire field, so a record that is used again keeps no stale one. A
 /// control or program mode outside its enumeration sets the flag and leaves the wire's value as it was.
+///
+/// Lost on the way: `reservedValueA` and `reservedValueB`.
 class FromPlayerDataOverrides
     : public Converter<Multiviewer::PlayerDataOverrides, Corvane::Data::Generated::PlayerDataOverrides>
 {

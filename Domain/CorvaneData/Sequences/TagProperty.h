@@ -9,7 +9,7 @@ namespace Talvo::Corvane::Data::Sequences
 /// One property of a tag: a list of integers and the type that says how to read it.
 struct TagProperty
 {
-    /// How the integers are read. No converter looks at it.
+    /// How the integers are read. No converter reads the integers by it.
     enum class Type : std::int32_t
     {
         Boolean = 0,

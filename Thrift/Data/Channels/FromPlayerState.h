@@ -21,6 +21,8 @@ class PlayerState;
 /// empty time points and time codes, a `globalLoopMode` or `playoutConfig` of 0, and a speed of which numerator or
 /// denominator is 0, which is lost as a pair. An undated time code goes out as a text that
 /// ThriftToPlayerStateConverter skips.
+///
+/// Lost on the way: domain enumerators outside their table, which travel as 0.
 class PlayerStateToThriftConverter : public Converter<Corvane::Data::Channels::PlayerState, Generated::PlayerState>
 {
 public:

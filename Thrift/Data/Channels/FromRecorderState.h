@@ -20,6 +20,8 @@ class RecorderState;
 /// The destination is expected to be new and is not reset. These stay off the wire, with value and flag as they were:
 /// empty time points and time codes, a `primaryTimecodeType` of 0, and the clip unless `hasRecorderTrain` says that
 /// there is one. An undated time code goes out as a text that ThriftToRecorderStateConverter skips.
+///
+/// Lost on the way: domain enumerators outside their table, which travel as 0.
 class RecorderStateToThriftConverter
     : public Converter<Corvane::Data::Channels::RecorderState, Generated::RecorderState>
 {

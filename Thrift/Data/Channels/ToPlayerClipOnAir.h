@@ -24,6 +24,8 @@ class PlayerClipOnAir;
 ///
 /// Ends the process: a `todCurTimecodeOnAir` or `userCurTimecodeOnAir` that is no time code text, and what ends it in
 /// ThriftToClipConverter.
+///
+/// Lost on the way: of the clip what ThriftToClipConverter loses.
 class ThriftToPlayerClipOnAirConverter
     : public Converter<Generated::PlayerClipOnAir, Corvane::Data::Channels::PlayerClipOnAir>
 {

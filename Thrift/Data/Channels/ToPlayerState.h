@@ -29,7 +29,8 @@ class PlayerState;
 ///
 /// Lost on the way: a time code that is no time code text is skipped; a boundary that ThriftToLoadBoundaryConverter
 /// refuses replaces the destination's by a new one; a name above 24 bytes is cut; the high words of `serial` and
-/// `audioPgmInstructionDecSpeedD`; unknown enumeration numbers read as 0.
+/// `audioPgmInstructionDecSpeedD`; unknown enumeration numbers read as 0; of the clips on air what ThriftToClipConverter
+/// loses.
 class ThriftToPlayerStateConverter : public Converter<Generated::PlayerState, Corvane::Data::Channels::PlayerState>
 {
 public:

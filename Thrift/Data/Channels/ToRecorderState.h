@@ -27,7 +27,7 @@ class RecorderState;
 /// Ends the process: what ends it in ThriftToClipConverter.
 ///
 /// Lost on the way: a time code that is no time code text is skipped; a name above 24 bytes is cut; the high words of
-/// `serial` and of the capacities; unknown enumeration numbers read as 0.
+/// `serial` and of the capacities; unknown enumeration numbers read as 0; of the clip what ThriftToClipConverter loses.
 class ThriftToRecorderStateConverter
     : public Converter<Generated::RecorderState, Corvane::Data::Channels::RecorderState>
 {

@@ -17,6 +17,8 @@ class AudioVideoElement;
 
 /// Writes a domain `AudioVideoElement` into the wire record `AudioVideoElement`: its eight own fields, then its
 /// `Element` part, whatever that conversion reports. It can't fail.
+///
+/// Lost on the way: domain enumerators outside their table, which travel as 0.
 class AudioVideoElementToThriftConverter
     : public Converter<Corvane::Data::Sequences::AudioVideoElement, Generated::AudioVideoElement>
 {

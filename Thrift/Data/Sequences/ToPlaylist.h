@@ -22,8 +22,9 @@ class Playlist;
 ///
 /// Ends the process: what ends it in ThriftToAudioVideoTrackConverter and ThriftToSequenceConverter.
 ///
-/// Lost on the way: the elements behind one that fails, and the fields of the header behind one that fails; the rest as
-/// ThriftToElementConverter and ThriftToSequenceConverter say.
+/// Lost on the way: an element that fails and those behind it, and the fields of the header behind one that fails;
+/// `numberOfElements` beside elements; an `auxTrackClipUmId` above 8 bytes is cut; the rest as ThriftToElementConverter and
+/// ThriftToSequenceConverter say.
 class ThriftToPlaylistConverter : public Converter<Generated::Playlist, Corvane::Data::Sequences::Playlist>
 {
 public:

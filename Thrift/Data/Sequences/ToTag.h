@@ -26,7 +26,8 @@ class Tag;
 /// - "Tag is empty": neither `id` nor `field` nor a property was there. A `commandType` does not count, though it has
 ///   reset the destination.
 ///
-/// Lost on the way: unknown keys, which all read as `Value`, but for the first; unknown enumeration numbers read as 0.
+/// Lost on the way: unknown keys read as `Value`, and of those and `Value` itself the lowest stays; unknown enumeration
+/// numbers read as 0.
 class ThriftToTagConverter : public Converter<Generated::Tag, Corvane::Data::Sequences::Tag>
 {
 public:
