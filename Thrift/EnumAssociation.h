@@ -18,7 +18,7 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift
 ///
 /// Tables are constant data (declare them `constinit`), so they serve the static initialisers of other files too. A
 /// table with a pair that would not be found both ways, since a value is repeated or shares the slot of another one,
-/// does not compile then.
+/// does not compile then, and throws std::logic_error where it is not constant.
 template<typename A, typename B>
 class EnumAssociation
 {

@@ -139,7 +139,7 @@ struct Hazard
     /// bytes that can't be printed as `\x1f`: `players["\x00A..."].pgmOnAir.todCurTimecodeOnAir`.
     std::string path;
 
-    /// What is wrong with the value, in the words of what would be thrown.
+    /// What is wrong with the value, in the words of what would be thrown. It may repeat the peer's text as it is.
     std::string reason;
 
     bool operator==(Hazard const&) const = default;
@@ -149,7 +149,7 @@ struct Hazard
 ///
 /// Some values that a peer can send end the process, since a converter never throws: the time codes of a clip and of a
 /// clip on air that are none, the reference time code of a sequence that has the form of a time code but names none, and
-/// locations above 109. Whoever reads records from peers that are not trusted asks here first, and refuses those that
+/// locations below 0 or above 109. Whoever reads records from peers that are not trusted asks here first, and refuses those that
 /// hold one.
 ///
 /// Where FindHazards() returns nothing, the converter of the record returns, whatever its destination held (an

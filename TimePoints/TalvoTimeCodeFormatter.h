@@ -9,8 +9,9 @@ namespace Talvo::TimePoints
 /// time code is drop-frame. `rate` is the nominal rate in samples per second. TimeCode::Empty() gives
 /// `1900-01-01T00:00:00:00@50`.
 ///
-/// An undated time code has -1 for year, month and day, and a piece below 10 has a "0" in front: its text starts
-/// `-1-0-1-0-1T` and can't be parsed again.
+/// Month, day, hour, minute, second and frame below 10 have a "0" in front. Two texts can't be parsed again: that of an
+/// undated time code, which has -1 for year, month and day and so starts `-1-0-1-0-1T`, and that of a frame from 100 on,
+/// which rates above 100 have.
 class TalvoTimeCodeFormatter : public TimeCodeFormatter
 {
 public:

@@ -206,7 +206,7 @@ extern const {schema.name}Constants g_{schema.name}_constants;
 def run_compiler(thrift, generator, folder, schema_file):
     command = [thrift, "--gen", generator, "-out", str(folder), str(schema_file)]
     try:
-        result = subprocess.run(command, capture_output=True, text=True, check=False)
+        result = subprocess.run(command, capture_output=True, text=True, errors="replace", check=False)
     except OSError as error:
         raise StepError(f"cannot run the Thrift compiler '{thrift}': {error.strerror}") from error
     if result.returncode != 0:
@@ -219,6 +219,8 @@ def read_text(file):
         return file.read_text(encoding="utf-8")
     except OSError as error:
         raise StepError(f"{file.name}: {error.strerror}") from error
+    except UnicodeDecodeError as error:
+        raise StepError(f"{file.name}: is not UTF-8") from error
 
 
 def write_if_changed(file, text):
@@ -246,9 +248,12 @@ def make_records(thrift, schema_files, output):
             texts[f"{name}_types.cpp"] = finish_source(schemas, schema, read_text(scratch / f"{name}_types.cpp"))
             texts[f"{name}_constants.h"] = constants_header(schema)
 
-    output.mkdir(parents=True, exist_ok=True)
-    for name, text in texts.items():
-        write_if_changed(output / name, text)
+    try:
+        output.mkdir(parents=True, exist_ok=True)
+        for name, text in texts.items():
+            write_if_changed(output / name, text)
+    except OSError as error:
+        raise StepError(f"{output}: {error.strerror}") from error
 
 
 def main():

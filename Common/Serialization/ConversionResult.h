@@ -12,7 +12,7 @@ namespace Talvo::Common::Serialization
 struct [[nodiscard]] ConversionResult
 {
     bool success;        ///< True when the whole record was converted.
-    std::string message; ///< Why the conversion failed: a fixed English text. Empty on success.
+    std::string message; ///< Why it failed, in English; each converter's header has its texts. Empty on success.
 };
 
 } // namespace Talvo::Common::Serialization

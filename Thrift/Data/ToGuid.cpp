@@ -5,6 +5,8 @@
 #include "generated/Guid_types.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <limits>
 
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data
 {
@@ -17,8 +19,9 @@ ConversionResult ThriftToGuidConverter::To(Corvane::Data::Generated::Guid const&
 {
     if (source.__isset.value)
     {
-        // Cut before it is narrowed, so that no length of a string wraps on its way into the constructor.
-        auto const size = static_cast<unsigned int>(std::min<std::size_t>(source.value.size(), Guid::Size));
+        // The constructor judges the length as it arrived; only one that does not fit its parameter is cut.
+        constexpr std::size_t most = std::numeric_limits<unsigned int>::max();
+        auto const size = static_cast<unsigned int>(std::min(source.value.size(), most));
         destination = Guid(reinterpret_cast<unsigned char const*>(source.value.data()), size);
     }
     else

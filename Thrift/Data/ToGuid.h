@@ -16,7 +16,7 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data
 {
 
 /// Replaces a domain `Guid` by the bytes of the wire record `Guid`, or by `Guid::Empty()` when its flag is clear. It
-/// can't fail: of a longer value the first sixteen bytes are taken, a shorter one is filled with zeros.
+/// can't fail: its constructor takes the first sixteen bytes of a longer value, and fills a shorter one with zeros.
 class ThriftToGuidConverter : public Converter<Corvane::Data::Generated::Guid, Corvane::Data::Guid>
 {
 public:

@@ -22,12 +22,13 @@ class MakeRecords(unittest.TestCase):
 
     def make(self, text, *others):
         file = self.folder / "New.thrift"
-        file.write_text(text)
+        file.write_text(text, errors="surrogateescape")
         make_records.make_records(os.environ.get("THRIFT_COMPILER", "thrift"), [file, *others], self.output)
 
     def test_refuses_what_is_no_record_or_enumeration(self):
         for text, message in (
             ("struct R {", "New.thrift: the Thrift compiler failed: .*syntax error"),
+            ("struct \udcff {", "New.thrift: the Thrift compiler failed: .*Unexpected token"),
             ("struct R { 1: i32 a }", "New.thrift: no 'namespace cpp'"),
             ("namespace cpp A\nconst i32 C = 1", "New.thrift: 'const' is not supported"),
             ("namespace cpp A\nexception E { 1: i32 a }", "New.thrift: 'exception' is not supported"),
@@ -65,6 +66,11 @@ class MakeRecords(unittest.TestCase):
             make_records.run_compiler = run_other_compiler
             with self.subTest(message), self.assertRaisesRegex(make_records.StepError, message):
                 self.make(schema_text)
+
+    def test_refuses_an_output_that_is_no_folder(self):
+        self.output.touch()
+        with self.assertRaisesRegex(make_records.StepError, "generated: File exists"):
+            self.make("namespace cpp A\nstruct R { 1: i32 first }")
 
     def test_rewrites_only_what_changes(self):
         text = 'namespace cpp A\nstruct R {{ 1: {} i32 first }}'

@@ -7,7 +7,9 @@ namespace Talvo::Corvane::Data::Clips
 
 void UmId::SetUmId(char const* text) noexcept
 {
-    std::strncpy(text_.data(), text, MaxLength); // stops at the NUL and fills up with zeros; the last byte stays zero
+    auto const length = strnlen(text, MaxLength);
+    std::memmove(text_.data(), text, length); // it may be a part of this one
+    std::memset(text_.data() + length, 0, MaxLength - length);
 }
 
 } // namespace Talvo::Corvane::Data::Clips

@@ -19,7 +19,8 @@ class RecorderState;
 ///
 /// The destination is expected to be new and is not reset. These stay off the wire, with value and flag as they were:
 /// empty time points and time codes, a `primaryTimecodeType` of 0, and the clip unless `hasRecorderTrain` says that
-/// there is one. An undated time code goes out as a text that ThriftToRecorderStateConverter skips.
+/// there is one. A time code that is undated or has a frame above 99 goes out as a text that
+/// ThriftToRecorderStateConverter skips.
 ///
 /// Lost on the way: domain enumerators outside their table, which travel as 0.
 class RecorderStateToThriftConverter

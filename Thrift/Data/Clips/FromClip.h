@@ -27,7 +27,8 @@ class Clip;
 ///   enumeration that holds 0 (so `HdrProfile::Unknown`), but for `trainStatus`, `archiveStatus`, `videoFormat`,
 ///   `videoStandard` and `userTimecodeType`.
 /// - Lost on the way: the reserved fields, and domain enumerators outside their table, which travel as 0.
-/// - An undated time code goes out as a text that can't be read again: ThriftToClipConverter ends the process on it.
+/// - A time code that is undated or has a frame above 99 goes out as a text that can't be read again:
+///   ThriftToClipConverter ends the process on it.
 class ClipToThriftConverter : public Converter<Corvane::Data::Clips::Clip, Generated::Clip>
 {
 public:

@@ -18,8 +18,8 @@ class RecordingRange;
 /// Writes a domain `RecordingRange` into the wire record `RecordingRange`: all four bounds, empty ones too. It can't
 /// fail.
 ///
-/// Lost on the way: that a time code is empty, since it travels as the text of `Clip::DefaultTimecode()`. An undated
-/// one goes out as a text that ThriftToRecordingRangeConverter refuses.
+/// Lost on the way: that a time code is empty, since it travels as the text of `Clip::DefaultTimecode()`. One that
+/// is undated or has a frame above 99 goes out as a text that ThriftToRecordingRangeConverter refuses.
 class RecordingRangeToThriftConverter
     : public Converter<Corvane::Data::Clips::RecordingRange, Generated::RecordingRange>
 {

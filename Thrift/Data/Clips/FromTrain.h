@@ -20,7 +20,8 @@ class Train;
 /// - Without a clip the flag of `trainData` is cleared.
 /// - Ranges are appended to those that the destination holds, and the flag of `recordingRanges` says whether there is
 ///   any.
-/// - `lastKnownTimeCode` is not written when it is empty. An undated one goes out as a text that reads back as empty.
+/// - `lastKnownTimeCode` is not written when it is empty. One that is undated or has a frame above 99 goes out
+///   as a text that reads back as empty.
 class TrainToThriftConverter : public Converter<Corvane::Data::Clips::Train, Generated::Train>
 {
 public:

@@ -159,6 +159,8 @@ TEST(UmId, HoldsEightCharactersAndForgetsTheTextBefore)
     EXPECT_STREQ(umId.GetUmId(), "12345678");
     umId.SetUmId("abcdefghi");
     EXPECT_STREQ(umId.GetUmId(), "abcdefgh");
+    umId.SetUmId(umId.GetUmId() + 2);
+    EXPECT_STREQ(umId.GetUmId(), "cdefgh");
     umId.SetUmId("xyz");
     EXPECT_STREQ(umId.GetUmId(), "xyz");
     umId.SetUmId("");
