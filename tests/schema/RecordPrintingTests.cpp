@@ -6,6 +6,7 @@
 #include "generated/MultiviewerDataOverrides_types.h"
 #include "generated/OperationStatus_types.h"
 #include "generated/Tag_types.h"
+#include "tests/Thrift/RoundTrip.h"
 
 #include <gtest/gtest.h>
 
@@ -29,14 +30,6 @@ Guid NewGuid(std::string const& value)
     Guid guid;
     guid.value = value;
     return guid;
-}
-
-template<typename T>
-std::string Printed(T const& value)
-{
-    std::ostringstream text;
-    text << value;
-    return text.str();
 }
 
 TEST(RecordPrinting, ShowsBytesOfTextsAsTheyAre)
