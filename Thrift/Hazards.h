@@ -148,15 +148,16 @@ struct Hazard
 /// @name Hazards
 ///
 /// Some values that a peer can send end the process, since a converter never throws: the time codes of a clip and of a
-/// clip on air that are none, the reference time code of a sequence that has the form of a time code but names none, and
-/// locations below 0 or above 109. Whoever reads records from peers that are not trusted asks here first, and refuses those that
-/// hold one.
+/// clip on air that are none, the reference time code of a sequence that has the form of a time code but names none,
+/// and locations below 0 or above 109. Whoever reads records from peers that are not trusted asks here first, and
+/// refuses those that hold one.
 ///
 /// Where FindHazards() returns nothing, the converter of the record returns, whatever its destination held (an
-/// allocation that fails aside). What it returns would end the process as soon as the converter reaches the field. A
-/// field that the converter does not read is no hazard: most are read by their flag, those whose converter reads them
-/// whatever their flag says are looked into without it. A record whose result its converter drops is looked into all the
-/// same. Nothing is allocated for a record whose time codes are good.
+/// allocation that fails aside, and a system without random bytes for the new identifiers that two converters draw).
+/// What it returns would end the process as soon as the converter reaches the field. A field that the converter does
+/// not read is no hazard: most are read by their flag, those whose converter reads them whatever their flag says are
+/// looked into without it. A record whose result its converter drops is looked into all the same. Nothing is allocated
+/// for a record whose time codes are good.
 /// @{
 
 /// What would end the process inside the converter of the record.

@@ -32,7 +32,8 @@ name leads to the header, whose comment is the source of this page: `docs/make_r
   written before a failure stays in the destination, unless the table says otherwise.
 - An enumeration's number that has no counterpart on the other side becomes 0 there.
 - What ends the process is what `FindHazards` of [Thrift/Hazards.h](../Thrift/Hazards.h) finds beforehand; see
-  [Bounding input](bounding-input.md). A memory allocation that fails ends it in every converter.
+  [Bounding input](bounding-input.md). A memory allocation that fails ends it in every converter, and so does a
+  system that has no random bytes in the two that draw a new identifier.
 - "Flag" is the record's `__isset` bit of a field. Of a nested record what its own rows say holds too.
 """
 

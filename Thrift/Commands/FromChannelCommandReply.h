@@ -17,7 +17,8 @@ class ChannelCommandReply;
 
 /// Writes a domain `ChannelCommandReply` into the wire record `ChannelCommandReply`. It can't fail.
 ///
-/// Results are appended to those that the destination holds. A reply without results sends the one in its first slot.
+/// Results are appended to those that the destination holds. A reply without results sends the one in its first slot;
+/// of a `resultCount` above 12 the twelve slots travel.
 class ChannelCommandReplyToThriftConverter
     : public Converter<HighLevelOperations::Commands::ChannelCommandReply, Generated::ChannelCommandReply>
 {

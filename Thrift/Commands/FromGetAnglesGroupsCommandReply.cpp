@@ -23,7 +23,7 @@ ConversionResult GetAnglesGroupsCommandReplyToThriftConverter::To(
 
     SendGuid(source.commandGuid, TALVO_FLAGGED(destination, guid));
     // From wherever the cursor stands to the end. What an item reports is not looked at.
-    ReserveMore(destination.groups, source.RemainingCount());
+    ReserveFor(destination.groups, source);
     while (source.MoveNext())
     {
         std::ignore = fromItem.To(source.CurrentAnglesGroup(), destination.groups.emplace_back());

@@ -23,7 +23,7 @@ GetClipsCommandReplyToThriftConverter::To(HighLevelOperations::Commands::GetClip
 
     SendGuid(source.commandGuid, TALVO_FLAGGED(destination, guid));
     // From wherever the cursor stands to the end. What an item reports is not looked at.
-    ReserveMore(destination.clips, source.RemainingCount());
+    ReserveFor(destination.clips, source);
     while (source.MoveNext())
     {
         std::ignore = fromItem.To(source.CurrentClip(), destination.clips.emplace_back());

@@ -20,7 +20,7 @@ class GetPlaylistsCommandReply;
 /// Items are appended to those that the destination holds; the list's flag is set only if there is any.
 ///
 /// Failures: any of PlaylistToThriftConverter, with the items before it left in the destination and the list's flag as
-/// it was.
+/// it was. None of them can fail today.
 class GetPlaylistsCommandReplyToThriftConverter
     : public Converter<HighLevelOperations::Commands::GetPlaylistsCommandReply, Generated::GetPlaylistsCommandReply>
 {

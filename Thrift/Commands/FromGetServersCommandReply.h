@@ -20,7 +20,7 @@ class GetServersCommandReply;
 /// Items are appended to those that the destination holds; the list's flag is set only if there is any.
 ///
 /// Failures: any of ServerInfoToThriftConverter, with the items before it left in the destination and the list's flag
-/// as it was.
+/// as it was. None of them can fail today.
 class GetServersCommandReplyToThriftConverter
     : public Converter<HighLevelOperations::Commands::GetServersCommandReply, Generated::GetServersCommandReply>
 {

@@ -19,6 +19,13 @@ void ReserveMore(std::vector<T>& list, std::size_t const count)
     if (size > list.capacity()) list.reserve(std::max(size, 2 * list.capacity()));
 }
 
+/// Makes room for the items that a reply's cursor still has to give, where the reply tells how many.
+template<typename T>
+void ReserveFor(std::vector<T>& list, auto const& reply)
+{
+    if constexpr (requires { reply.RemainingCount(); }) ReserveMore(list, reply.RemainingCount());
+}
+
 /// Converts every element of `source` into a new one behind those that `destination` holds. The first that fails ends
 /// it with its failure: it is not added, those before it are kept.
 template<typename TConverter, typename TSource, typename TDestination>

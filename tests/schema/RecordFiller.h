@@ -16,10 +16,11 @@ namespace Talvo::Tests
 
 /// A protocol that makes up what a record's read asks for: reading a record from it fills the record.
 ///
-/// It needs no description of the schema. It offers each record every field id with every type, until the record has none
-/// for a while; the record skips what is not its own and reads the rest. No value is the default of its type, containers have two elements, and numbers
-/// go on from field to field, so that no two values and no two keys are alike. Enumerations get numbers as well, most
-/// of them outside their lists. Texts hold quotes, a backslash and bytes that are no UTF-8, but no NUL byte.
+/// It needs no description of the schema. It offers each record every field id with every type, until the record has
+/// none for a while; the record skips what is not its own and reads the rest. No value is the default of its type,
+/// containers have two elements, and numbers go on from field to field, so that no two values and no two keys are
+/// alike. Enumerations get numbers as well, most of them outside their lists. Texts hold quotes, a backslash and bytes
+/// that are no UTF-8, but no NUL byte.
 class RecordFiller
     : public apache::thrift::protocol::TVirtualProtocol<RecordFiller, apache::thrift::protocol::TProtocolDefaults>
 {

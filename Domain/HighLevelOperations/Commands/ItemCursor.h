@@ -22,6 +22,11 @@ public:
     {
     }
 
+    /// Copied where it could be moved: one that was moved from can still be read.
+    ItemCursor(ItemCursor const&) = default;
+    ItemCursor& operator=(ItemCursor const&) = default;
+    ~ItemCursor() = default;
+
     /// Goes on to the next item, and tells whether there is one.
     bool MoveNext() const noexcept
     {

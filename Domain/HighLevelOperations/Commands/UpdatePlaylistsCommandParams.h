@@ -11,8 +11,7 @@ namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 /// Asks for playlists to be changed.
 struct UpdatePlaylistsCommandParams : CommandParams
 {
-    /// Spelled so.
-    /// One playlist to be changed, as it was and as it shall be.
+    /// One playlist to be changed, as it was and as it shall be. The name is spelled so.
     struct UpdatPlaylistsParams
     {
         Corvane::Data::Sequences::Playlist oldPlaylist;

@@ -20,8 +20,8 @@ class Sequence;
 ///
 /// Lost on the way: domain enumerators outside their table, which travel as 0, and that `timeCodeRegenReference` is
 /// empty, since it travels as the text of `Clip::DefaultTimecode()`. ThriftToSequenceConverter refuses the text of one
-/// that is undated or has a frame above 99, and a `playRate` that is neither over 1 nor has the numerator of a standard rate; one that has becomes that
-/// rate.
+/// that is undated or has a frame above 99, and a `playRate` that is neither over 1 nor has the numerator of a standard
+/// rate; one that has becomes that rate.
 class SequenceToThriftConverter : public Converter<Corvane::Data::Sequences::Sequence, Generated::Sequence>
 {
 public:
