@@ -154,10 +154,10 @@ struct Hazard
 ///
 /// Where FindHazards() returns nothing, the converter of the record returns, whatever its destination held (an
 /// allocation that fails aside, and a system without random bytes for the new identifiers that two converters draw).
-/// What it returns would end the process as soon as the converter reaches the field. A field that the converter does
-/// not read is no hazard: most are read by their flag, those whose converter reads them whatever their flag says are
-/// looked into without it. A record whose result its converter drops is looked into all the same. Nothing is allocated
-/// for a record whose time codes are good.
+/// What it returns would end the process as soon as the converter reaches the field, which an earlier failure may keep
+/// it from. A field that the converter does not read is no hazard: most are read by their flag, those whose converter
+/// reads them whatever their flag says are looked into without it. A record whose result its converter drops is looked
+/// into all the same. Nothing is allocated for a record whose time codes are good.
 /// @{
 
 /// What would end the process inside the converter of the record.

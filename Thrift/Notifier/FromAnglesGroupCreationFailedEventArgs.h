@@ -17,6 +17,8 @@ class AnglesGroupCreationFailedEventArgs;
 
 /// Writes a domain `AnglesGroupCreationFailedEventArgs` into the wire record `AnglesGroupCreationFailedEventArgs`. It
 /// can't fail. There is no way back: no converter reads this record.
+///
+/// Lost on the way: a `result` outside its table, which travels as `Success`.
 class AnglesGroupCreationFailedEventArgsToThriftConverter
     : public Converter<Notification::AnglesGroupCreationFailedEventArgs, Generated::AnglesGroupCreationFailedEventArgs>
 {

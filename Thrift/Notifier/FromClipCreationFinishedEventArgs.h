@@ -16,6 +16,8 @@ class ClipCreationFinishedEventArgs;
 } // namespace Generated
 
 /// Writes a domain `ClipCreationFinishedEventArgs` into the wire record `ClipCreationFinishedEventArgs`. It can't fail.
+///
+/// Lost on the way: what ClipToThriftConverter loses.
 class ClipCreationFinishedEventArgsToThriftConverter
     : public Converter<Notification::ClipCreationFinishedEventArgs, Generated::ClipCreationFinishedEventArgs>
 {

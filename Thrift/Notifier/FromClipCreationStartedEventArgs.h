@@ -16,6 +16,8 @@ class ClipCreationStartedEventArgs;
 } // namespace Generated
 
 /// Writes a domain `ClipCreationEventArgs` into the wire record `ClipCreationStartedEventArgs`. It can't fail.
+///
+/// Lost on the way: what ClipToThriftConverter loses.
 class ClipCreationStartedEventArgsToThriftConverter
     : public Converter<Notification::ClipCreationEventArgs, Generated::ClipCreationStartedEventArgs>
 {

@@ -16,6 +16,8 @@ class ClipMoveFailedEventArgs;
 } // namespace Generated
 
 /// Writes a domain `ClipMoveFailedEventArgs` into the wire record `ClipMoveFailedEventArgs`. It can't fail.
+///
+/// Lost on the way: a `result` outside its table, which travels as `Success`; what ClipToThriftConverter loses.
 class ClipMoveFailedEventArgsToThriftConverter
     : public Converter<Notification::ClipMoveFailedEventArgs, Generated::ClipMoveFailedEventArgs>
 {

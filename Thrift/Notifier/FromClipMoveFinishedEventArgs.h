@@ -16,6 +16,8 @@ class ClipMoveFinishedEventArgs;
 } // namespace Generated
 
 /// Writes a domain `ClipMoveFinishedEventArgs` into the wire record `ClipMoveFinishedEventArgs`. It can't fail.
+///
+/// Lost on the way: what ClipToThriftConverter loses.
 class ClipMoveFinishedEventArgsToThriftConverter
     : public Converter<Notification::ClipMoveFinishedEventArgs, Generated::ClipMoveFinishedEventArgs>
 {

@@ -16,6 +16,8 @@ class ClipMoveStartedEventArgs;
 } // namespace Generated
 
 /// Writes a domain `ClipMoveEventArgs` into the wire record `ClipMoveStartedEventArgs`. It can't fail.
+///
+/// Lost on the way: what ClipToThriftConverter loses.
 class ClipMoveStartedEventArgsToThriftConverter
     : public Converter<Notification::ClipMoveEventArgs, Generated::ClipMoveStartedEventArgs>
 {

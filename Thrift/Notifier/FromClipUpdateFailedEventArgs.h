@@ -16,6 +16,8 @@ class ClipUpdateFailedEventArgs;
 } // namespace Generated
 
 /// Writes a domain `ClipUpdateFailedEventArgs` into the wire record `ClipUpdateFailedEventArgs`. It can't fail.
+///
+/// Lost on the way: a `result` outside its table, which travels as `Success`; what ClipToThriftConverter loses.
 class ClipUpdateFailedEventArgsToThriftConverter
     : public Converter<Notification::ClipUpdateFailedEventArgs, Generated::ClipUpdateFailedEventArgs>
 {

@@ -16,6 +16,8 @@ class ClipUpdateFinishedEventArgs;
 } // namespace Generated
 
 /// Writes a domain `ClipUpdateFinishedEventArgs` into the wire record `ClipUpdateFinishedEventArgs`. It can't fail.
+///
+/// Lost on the way: what ClipToThriftConverter loses.
 class ClipUpdateFinishedEventArgsToThriftConverter
     : public Converter<Notification::ClipUpdateFinishedEventArgs, Generated::ClipUpdateFinishedEventArgs>
 {

@@ -16,6 +16,8 @@ class MassClipUpdateFailedEventArgs;
 } // namespace Generated
 
 /// Writes a domain `MassClipUpdateFailedEventArgs` into the wire record `MassClipUpdateFailedEventArgs`. It can't fail.
+///
+/// Lost on the way: a `result` outside its table, which travels as `Success`.
 class MassClipUpdateFailedEventArgsToThriftConverter
     : public Converter<Notification::MassClipUpdateFailedEventArgs, Generated::MassClipUpdateFailedEventArgs>
 {

@@ -17,6 +17,8 @@ class PlayerStateChangedEventArgs;
 
 /// Writes a domain `PlayerStateChangedEventArgs` into the wire record `PlayerStateChangedEventArgs`. It can't fail.
 /// Event flags of 0 stay off the wire.
+///
+/// Lost on the way: of `channelGuid` all but index and serial, and what PlayerStateToThriftConverter loses.
 class PlayerStateChangedEventArgsToThriftConverter
     : public Converter<Notification::PlayerStateChangedEventArgs, Generated::PlayerStateChangedEventArgs>
 {

@@ -17,6 +17,8 @@ class RecorderStateChangedEventArgs;
 
 /// Writes a domain `RecorderStateChangedEventArgs` into the wire record `RecorderStateChangedEventArgs`. It can't fail.
 /// Event flags of 0 stay off the wire.
+///
+/// Lost on the way: of `channelGuid` all but index and serial, and what RecorderStateToThriftConverter loses.
 class RecorderStateChangedEventArgsToThriftConverter
     : public Converter<Notification::RecorderStateChangedEventArgs, Generated::RecorderStateChangedEventArgs>
 {

@@ -20,6 +20,8 @@ class RecordingRangesChangedEventArgs;
 ///
 /// Ranges are appended to those that the destination holds, and the flag of `recordingRanges` says whether there is
 /// any.
+///
+/// Lost on the way: what RecordingRangeToThriftConverter loses.
 class RecordingRangesChangedEventArgsToThriftConverter
     : public Converter<Notification::RecordingRangesChangedEventArgs, Generated::RecordingRangesChangedEventArgs>
 {

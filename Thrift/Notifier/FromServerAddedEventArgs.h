@@ -16,6 +16,7 @@ class ServerAddedEventArgs;
 } // namespace Generated
 
 /// Writes a domain `ServerAddedEventArgs` into the wire record `ServerAddedEventArgs`. It can't fail.
+/// The destination has to be new, since ServerInfoToThriftConverter appends its addresses.
 class ServerAddedEventArgsToThriftConverter
     : public Converter<Notification::ServerAddedEventArgs, Generated::ServerAddedEventArgs>
 {

@@ -20,6 +20,8 @@ class AnglesGroupCreationEventArgs;
 ///
 /// Failure: "Missing fields for ClipCommand", from `clipCommandEventArgs`; the destination by then holds everything
 /// else, and placeholders.
+///
+/// Lost on the way: what ThriftToClipCommandEventArgsConverter loses.
 class ThriftToAnglesGroupCreationEventArgsConverter
     : public Converter<Generated::AnglesGroupCreationEventArgs, Notification::AnglesGroupCreationEventArgs>
 {

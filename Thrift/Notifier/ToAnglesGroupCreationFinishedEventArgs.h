@@ -20,6 +20,8 @@ class AnglesGroupCreationFinishedEventArgs;
 ///
 /// Failure: "Missing fields for ClipCommand", from the `clipCommandEventArgs` in it; the destination by then holds
 /// everything else, and placeholders.
+///
+/// Lost on the way: what ThriftToClipCommandEventArgsConverter loses.
 class ThriftToAnglesGroupCreationFinishedEventArgsConverter
     : public Converter<Generated::AnglesGroupCreationFinishedEventArgs,
                        Notification::AnglesGroupCreationFinishedEventArgs>

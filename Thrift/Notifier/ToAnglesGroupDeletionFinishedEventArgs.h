@@ -20,6 +20,8 @@ class AnglesGroupDeletionFinishedEventArgs;
 ///
 /// Failure: "Missing fields for ClipCommand", from `clipCommandEventArgs`; the destination by then holds everything
 /// else, and placeholders.
+///
+/// Lost on the way: what ThriftToClipCommandEventArgsConverter loses.
 class ThriftToAnglesGroupDeletionFinishedEventArgsConverter
     : public Converter<Generated::AnglesGroupDeletionFinishedEventArgs,
                        Notification::AnglesGroupDeletionFinishedEventArgs>

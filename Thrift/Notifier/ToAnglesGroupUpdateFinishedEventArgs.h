@@ -20,6 +20,8 @@ class AnglesGroupUpdateFinishedEventArgs;
 ///
 /// Failure: "Missing fields for ClipCommand", from `clipCommandEventArgs`; the destination by then holds everything
 /// else, and placeholders.
+///
+/// Lost on the way: what ThriftToClipCommandEventArgsConverter loses.
 class ThriftToAnglesGroupUpdateFinishedEventArgsConverter
     : public Converter<Generated::AnglesGroupUpdateFinishedEventArgs, Notification::AnglesGroupUpdateFinishedEventArgs>
 {

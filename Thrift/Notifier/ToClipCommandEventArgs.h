@@ -21,8 +21,8 @@ class ClipCommandEventArgs;
 /// Failure: "Missing fields for ClipCommand" when any flag but that of `subCommandIndex`, which is read whether set or
 /// not, is clear; the destination is then unchanged.
 ///
-/// Lost on the way: the high words of `localMachineSerial` and `userTicket`; any other word of a source reads as
-/// `Unknown`.
+/// Lost on the way: all but the low 32 bits of `localMachineSerial` and the low 16 of `userTicket`; any other word of a
+/// source reads as `Unknown`.
 class ThriftToClipCommandEventArgsConverter
     : public Converter<Generated::ClipCommandEventArgs, Notification::ClipCommandEventArgs>
 {

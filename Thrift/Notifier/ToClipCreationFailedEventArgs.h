@@ -27,7 +27,8 @@ class ClipCreationFailedEventArgs;
 ///
 /// Ends the process: what ends it in ThriftToClipConverter.
 ///
-/// Lost on the way: other words of a creation or network type read as `Unknown`; case counts.
+/// Lost on the way: other words of a creation or network type read as `Unknown`; case counts; an unknown `result` reads
+/// as `Success`; what ThriftToClipConverter and ThriftToClipCommandEventArgsConverter lose.
 class ThriftToClipCreationFailedEventArgsConverter
     : public Converter<Generated::ClipCreationFailedEventArgs, Notification::ClipCreationFailedEventArgs>
 {

@@ -27,7 +27,8 @@ class ClipCreationFinishedEventArgs;
 ///
 /// Ends the process: what ends it in ThriftToClipConverter.
 ///
-/// Lost on the way: other words of a creation or network type read as `Unknown`; case counts.
+/// Lost on the way: other words of a creation or network type read as `Unknown`; case counts; what
+/// ThriftToClipConverter and ThriftToClipCommandEventArgsConverter lose.
 class ThriftToClipCreationFinishedEventArgsConverter
     : public Converter<Generated::ClipCreationFinishedEventArgs, Notification::ClipCreationFinishedEventArgs>
 {

@@ -28,7 +28,8 @@ class ClipDeletionFailedEventArgs;
 /// Ends the process: what ends it in ThriftToClipConverter.
 ///
 /// Lost on the way: the two reserved bytes, which no wire field carries, are 0; all but the low byte of
-/// `essenceBitmap`.
+/// `essenceBitmap`; an unknown `result` reads as `Success`; what ThriftToClipConverter and
+/// ThriftToClipCommandEventArgsConverter lose.
 class ThriftToClipDeletionFailedEventArgsConverter
     : public Converter<Generated::ClipDeletionFailedEventArgs, Notification::ClipDeletionFailedEventArgs>
 {

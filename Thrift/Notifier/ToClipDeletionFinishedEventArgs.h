@@ -27,7 +27,8 @@ class ClipDeletionFinishedEventArgs;
 ///
 /// Ends the process: what ends it in ThriftToClipConverter.
 ///
-/// Lost on the way: the two reserved bytes, which no wire field carries, are 0.
+/// Lost on the way: the two reserved bytes, which no wire field carries, are 0; what ThriftToClipConverter and
+/// ThriftToClipCommandEventArgsConverter lose.
 class ThriftToClipDeletionFinishedEventArgsConverter
     : public Converter<Generated::ClipDeletionFinishedEventArgs, Notification::ClipDeletionFinishedEventArgs>
 {

@@ -26,6 +26,9 @@ class ClipMoveFailedEventArgs;
 ///   placeholders.
 ///
 /// Ends the process: what ends it in ThriftToClipConverter.
+///
+/// Lost on the way: an unknown `result` reads as `Success`; what ThriftToClipConverter and
+/// ThriftToClipCommandEventArgsConverter lose.
 class ThriftToClipMoveFailedEventArgsConverter
     : public Converter<Generated::ClipMoveFailedEventArgs, Notification::ClipMoveFailedEventArgs>
 {

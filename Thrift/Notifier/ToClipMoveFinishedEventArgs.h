@@ -26,6 +26,8 @@ class ClipMoveFinishedEventArgs;
 ///   placeholders.
 ///
 /// Ends the process: what ends it in ThriftToClipConverter.
+///
+/// Lost on the way: what ThriftToClipConverter and ThriftToClipCommandEventArgsConverter lose.
 class ThriftToClipMoveFinishedEventArgsConverter
     : public Converter<Generated::ClipMoveFinishedEventArgs, Notification::ClipMoveFinishedEventArgs>
 {

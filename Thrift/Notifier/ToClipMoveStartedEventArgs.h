@@ -26,6 +26,8 @@ class ClipMoveStartedEventArgs;
 ///   placeholders.
 ///
 /// Ends the process: what ends it in ThriftToClipConverter.
+///
+/// Lost on the way: what ThriftToClipConverter and ThriftToClipCommandEventArgsConverter lose.
 class ThriftToClipMoveStartedEventArgsConverter
     : public Converter<Generated::ClipMoveStartedEventArgs, Notification::ClipMoveEventArgs>
 {

@@ -26,6 +26,9 @@ class ClipUpdateFailedEventArgs;
 ///   placeholders.
 ///
 /// Ends the process: what ends it in ThriftToClipConverter.
+///
+/// Lost on the way: an unknown `result` reads as `Success`; what ThriftToClipConverter and
+/// ThriftToClipCommandEventArgsConverter lose.
 class ThriftToClipUpdateFailedEventArgsConverter
     : public Converter<Generated::ClipUpdateFailedEventArgs, Notification::ClipUpdateFailedEventArgs>
 {

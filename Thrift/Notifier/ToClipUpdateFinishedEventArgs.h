@@ -26,6 +26,8 @@ class ClipUpdateFinishedEventArgs;
 ///   placeholders.
 ///
 /// Ends the process: what ends it in ThriftToClipConverter.
+///
+/// Lost on the way: what ThriftToClipConverter and ThriftToClipCommandEventArgsConverter lose.
 class ThriftToClipUpdateFinishedEventArgsConverter
     : public Converter<Generated::ClipUpdateFinishedEventArgs, Notification::ClipUpdateFinishedEventArgs>
 {

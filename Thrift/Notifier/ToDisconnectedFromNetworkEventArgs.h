@@ -17,7 +17,7 @@ class DisconnectedFromNetworkEventArgs;
 
 /// Replaces a domain `DisconnectedFromNetworkEventArgs` by the wire record `DisconnectedFromNetworkEventArgs`.
 ///
-/// Failure: "DisconnectedFromNetwork is empty" when its flag is clear; the destination is then unchanged.
+/// Failure: "DisconnectedFromNetwork is empty" when the flag of `serverId` is clear; the destination is then unchanged.
 class ThriftToDisconnectedFromNetworkEventArgsConverter
     : public Converter<Generated::DisconnectedFromNetworkEventArgs, Notification::DisconnectedFromNetworkEventArgs>
 {

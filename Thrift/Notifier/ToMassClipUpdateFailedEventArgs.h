@@ -24,7 +24,8 @@ class MassClipUpdateFailedEventArgs;
 /// - "Missing fields for ClipCommand": from `clipCommand`; the destination by then holds everything else, and
 ///   placeholders.
 ///
-/// Lost on the way: the high word of `machineSerial`.
+/// Lost on the way: the high word of `machineSerial`; an unknown `result` reads as `Success`; what
+/// ThriftToClipCommandEventArgsConverter loses.
 class ThriftToMassClipUpdateFailedEventArgsConverter
     : public Converter<Generated::MassClipUpdateFailedEventArgs, Notification::MassClipUpdateFailedEventArgs>
 {

@@ -24,7 +24,7 @@ class MassClipUpdateFinishedEventArgs;
 /// - "Missing fields for ClipCommand": from `clipCommand`; the destination by then holds everything else, and
 ///   placeholders.
 ///
-/// Lost on the way: the high word of `machineSerial`.
+/// Lost on the way: the high word of `machineSerial`; what ThriftToClipCommandEventArgsConverter loses.
 class ThriftToMassClipUpdateFinishedEventArgsConverter
     : public Converter<Generated::MassClipUpdateFinishedEventArgs, Notification::MassClipUpdateEventArgs>
 {

@@ -17,7 +17,7 @@ class ServerRemovedEventArgs;
 
 /// Replaces a domain `ServerRemovedEventArgs` by the wire record `ServerRemovedEventArgs`.
 ///
-/// Failure: "ServerRemoved is empty" when its flag is clear; the destination is then unchanged.
+/// Failure: "ServerRemoved is empty" when the flag of `serverId` is clear; the destination is then unchanged.
 class ThriftToServerRemovedEventArgsConverter
     : public Converter<Generated::ServerRemovedEventArgs, Notification::ServerRemovedEventArgs>
 {
