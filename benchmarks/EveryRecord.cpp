@@ -6,15 +6,11 @@
 #include "tests/schema/RecordFiller.h"
 #include "tools/records/All.h"
 
-#include <benchmark/benchmark.h>
-
-#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <stdexcept>
 #include <string>
 #include <type_traits>
-#include <utility>
 #include <vector>
 
 namespace Talvo::Benchmarks
