@@ -3,12 +3,16 @@
 #include "benchmarks/Records.h"
 
 #include "Domain/HighLevelOperations/Commands/CommandParams.h"
+#include "Domain/HighLevelOperations/Commands/CreateClipsCommandParams.h"
 #include "Domain/HighLevelOperations/Commands/GetClipsCommandReply.h"
 #include "Domain/HighLevelOperations/Commands/PlayCommandParams.h"
+#include "Thrift/Commands/FromCreateClipsCommandParams.h"
 #include "Thrift/Commands/FromGetClipsCommandReply.h"
 #include "Thrift/Commands/FromPlayCommandParams.h"
+#include "Thrift/Commands/ToCreateClipsCommandParams.h"
 #include "Thrift/Commands/ToGetClipsCommandReply.h"
 #include "Thrift/Commands/ToPlayCommandParams.h"
+#include "generated/CreateClipsCommandParams_types.h"
 #include "generated/GetClipsCommandReply_types.h"
 #include "generated/PlayCommandParams_types.h"
 #include "tests/Thrift/Data/Clips/Values.h"
@@ -31,6 +35,7 @@ namespace
 using namespace Corvane::Zelmar::Serialization::Thrift::Commands;
 using Corvane::Data::Clips::Clip;
 using Corvane::Zelmar::HighLevelOperations::Commands::CommandParams;
+using Corvane::Zelmar::HighLevelOperations::Commands::CreateClipsCommandParams;
 using Corvane::Zelmar::HighLevelOperations::Commands::GetClipsCommandReply;
 using Corvane::Zelmar::HighLevelOperations::Commands::PlayCommandParams;
 
@@ -51,7 +56,7 @@ void ToWire(GetClipsCommandReply const reply, Generated::GetClipsCommandReply& w
 GetClipsCommandReply ToDomain(Generated::GetClipsCommandReply const& wire)
 {
     GetClipsCommandReply reply(Corvane::Data::Guid::Empty(), 0, {});
-    std::ignore = ThriftToGetClipsCommandReplyConverter().To(wire, reply);
+    std::ignore = TryTo(ThriftToGetClipsCommandReplyConverter(), wire, reply);
     return reply;
 }
 
@@ -92,6 +97,14 @@ void AddCommands(Comparisons& rows)
                                      for (auto _ : state) benchmark::DoNotOptimize(CommandParams());
                                  });
     rows.push_back({"new command parameters", "wire to play command", {}});
+
+    CreateClipsCommandParams create;
+    create.clips.resize(1'000);
+    for (auto& clip : create.clips) clip.clip = Tests::FullClip();
+    AddRecord<CreateClipsCommandParamsToThriftConverter, ThriftToCreateClipsCommandParamsConverter,
+              Generated::CreateClipsCommandParams>(rows, "command with 1,000 clips", create, {},
+                                                   [](Generated::CreateClipsCommandParams& wire)
+                                                   { wire.clips.clear(); });
 
     // What a conversion leaves is destroyed outside the time that counts.
     auto const reply = std::make_shared<GetClipsCommandReply>(ReplyOf(ListSize));

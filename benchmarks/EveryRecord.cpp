@@ -2,7 +2,7 @@
 #include "benchmarks/Records.h"
 
 #include "Domain/HighLevelOperations/Commands/CommandParams.h"
-#include "Thrift/Hazards.h"
+#include "Thrift/TryTo.h"
 #include "tests/schema/RecordFiller.h"
 #include "tools/records/All.h"
 
@@ -39,11 +39,12 @@ Sample<TWire, TDomain> FullSample(std::string const& name)
         auto filler = Tests::RecordFiller::Convertible(numbers);
         TWire filled;
         filled.read(&filler);
-        if (!Corvane::Zelmar::Serialization::Thrift::FindHazards(filled).empty()) continue;
 
         auto const domain = std::make_shared<TDomain>(newDomain(filled));
         auto const wire = std::make_shared<TWire>();
-        if (!TToDomain().To(filled, *domain).success || !TToWire().To(ReadableAgain(*domain), *wire).success) continue;
+        if (!Corvane::Zelmar::Serialization::Thrift::TryTo(TToDomain(), filled, *domain).success ||
+            !TToWire().To(ReadableAgain(*domain), *wire).success)
+            continue;
 
         WireProtocol protocol(std::make_shared<WireBuffer>());
         auto const size = wire->write(&protocol);

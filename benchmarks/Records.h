@@ -2,6 +2,8 @@
 
 #include "benchmarks/Comparison.h"
 
+#include "Thrift/TryTo.h"
+
 #include <benchmark/benchmark.h>
 #include <thrift/protocol/TBinaryProtocol.h>
 #include <thrift/transport/TBufferTransports.h>
@@ -68,8 +70,8 @@ void AddToWire(std::string const& name, std::shared_ptr<TDomain const> const& so
                                  });
 }
 
-/// `make` makes the new destination.
-template<typename TToDomain, typename TWire>
+/// With `To`, or checked with TryTo(). `make` makes the new destination.
+template<typename TToDomain, bool isChecked = false, typename TWire>
 void AddToDomain(std::string const& name, std::shared_ptr<TWire const> const& sent, auto const& make)
 {
     benchmark::RegisterBenchmark(name.c_str(),
@@ -79,7 +81,11 @@ void AddToDomain(std::string const& name, std::shared_ptr<TWire const> const& se
                                      for (auto _ : state)
                                      {
                                          auto domain = make();
-                                         std::ignore = converter.To(*sent, domain);
+                                         if constexpr (isChecked)
+                                             std::ignore = Corvane::Zelmar::Serialization::Thrift::TryTo(converter,
+                                                                                                         *sent, domain);
+                                         else
+                                             std::ignore = converter.To(*sent, domain);
                                          benchmark::DoNotOptimize(domain);
                                      }
                                  });
@@ -155,6 +161,7 @@ void AddRecord(
     auto const toNewRecord = name + " to wire, new record";
     auto const toUsedRecord = name + " to wire, used record";
     auto const toDomain = "wire to " + name;
+    auto const toDomainChecked = toDomain + ", checked";
     auto const copy = "copy of wire " + name;
     auto const domainCopy = "copy of " + name;
     auto const write = "write " + name;
@@ -174,6 +181,7 @@ void AddRecord(
                                      }
                                  });
     AddToDomain<TToDomain>(toDomain, sent, make);
+    AddToDomain<TToDomain, true>(toDomainChecked, sent, make);
     AddCopy(copy, sent);
     AddCopy(domainCopy, received);
     AddWrite(write, sent);
@@ -183,7 +191,8 @@ void AddRecord(
                              {toNewRecord, copy, targets.toNewRecordOfCopy},
                              {toUsedRecord, write, targets.toUsedRecord},
                              {toUsedRecord, copy, {}},
-                             {toDomain, read, targets.toDomain},
+                             {toDomainChecked, read, targets.toDomain},
+                             {toDomainChecked, toDomain, 1.05},
                              {toDomain, domainCopy, targets.toDomainOfCopy}});
 }
 

@@ -31,7 +31,7 @@ name leads to the header, whose comment is the source of this page: `docs/make_r
 - A failure is a `ConversionResult` with one of these texts. Those of a nested record pass up unchanged. What was
   written before a failure stays in the destination, unless the table says otherwise.
 - An enumeration's number that has no counterpart on the other side becomes 0 there.
-- What ends the process is what `FindHazards` of [Thrift/Hazards.h](../Thrift/Hazards.h) finds beforehand; see
+- What ends the process in `To` is a failure of `TryTo` of [Thrift/TryTo.h](../Thrift/TryTo.h), with the value's path; see
   [Bounding input](bounding-input.md). A memory allocation that fails ends it in every converter, and so does a
   system that has no random bytes in the two that draw a new identifier.
 - "Flag" is the record's `__isset` bit of a field. Of a nested record what its own rows say holds too.

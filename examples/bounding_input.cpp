@@ -1,8 +1,8 @@
-// A request from a peer that is not trusted: bounded while it is read, and refused if it would end the process.
+// A request from a peer that is not trusted: bounded while it is read, and converted by the checked conversion.
 
 #include "Domain/HighLevelOperations/Commands/CreateClipsCommandParams.h"
 #include "Thrift/Commands/ToCreateClipsCommandParams.h"
-#include "Thrift/Hazards.h"
+#include "Thrift/TryTo.h"
 #include "generated/CreateClipsCommandParams_types.h"
 
 #include <thrift/TConfiguration.h>
@@ -43,11 +43,8 @@ CreateClipsCommandParams ReadRequest(std::string message)
     Wire::Commands::Generated::CreateClipsCommandParams record;
     record.read(&protocol); // throws a TException where a bound is passed
 
-    auto const hazards = Wire::FindHazards(record);
-    if (!hazards.empty()) throw std::runtime_error(hazards.front().path + ": " + hazards.front().reason);
-
     CreateClipsCommandParams request;
-    auto const result = Wire::Commands::ThriftToCreateClipsCommandParamsConverter().To(record, request);
+    auto const result = Wire::TryTo(Wire::Commands::ThriftToCreateClipsCommandParamsConverter(), record, request);
     if (!result.success) throw std::runtime_error(result.message);
     return request;
 }
@@ -106,8 +103,8 @@ int main()
     Try("a long list", std::string("\x0f\x00\x02\x0c\x7f\xff\xff\xff", 8));
     Try("records within records", Nested(1000));
 
-    auto hazardous = WithClips(2);
-    hazardous.clips[1].clip.inBoundTodTimecode = "today";
-    hazardous.clips[1].clip.__isset.inBoundTodTimecode = true;
-    Try("no time code", Written(hazardous));
+    auto invalid = WithClips(2);
+    invalid.clips[1].clip.inBoundTodTimecode = "today";
+    invalid.clips[1].clip.__isset.inBoundTodTimecode = true;
+    Try("an invalid time code", Written(invalid));
 }

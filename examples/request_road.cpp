@@ -14,6 +14,7 @@
 #include "Thrift/Commands/ToCreateClipsCommandParams.h"
 #include "Thrift/Notifier/FromClipCreationFailedEventArgs.h"
 #include "Thrift/Notifier/FromClipCreationFinishedEventArgs.h"
+#include "Thrift/TryTo.h"
 #include "generated/ClipCommandReply_types.h"
 #include "generated/ClipCreationEventArgs_types.h"
 #include "generated/CreateClipsCommandParams_types.h"
@@ -49,6 +50,7 @@ using Talvo::Corvane::Notification::ClipCreationFailedEventArgs;
 using Talvo::Corvane::Notification::ClipCreationFinishedEventArgs;
 using Talvo::Corvane::Zelmar::HighLevelOperations::Commands::ClipCommandReply;
 using Talvo::Corvane::Zelmar::HighLevelOperations::Commands::CreateClipsCommandParams;
+using Talvo::Corvane::Zelmar::Serialization::Thrift::TryTo;
 namespace WireCommands = Talvo::Corvane::Zelmar::Serialization::Thrift::Commands;
 namespace WireEvents = Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier;
 
@@ -121,7 +123,7 @@ void Serve(char const* const requestPath, char const* const folder)
 {
     // 1. The request comes from the wire into the domain.
     CreateClipsCommandParams request;
-    Require(WireCommands::ThriftToCreateClipsCommandParamsConverter().To(ReadRequest(requestPath), request));
+    Require(TryTo(WireCommands::ThriftToCreateClipsCommandParamsConverter(), ReadRequest(requestPath), request));
     std::cout << "received  CreateClipsCommandParams, " << request.clips.size() << " clips\n";
 
     // 2. The server carries it out, and says of each clip what became of it.

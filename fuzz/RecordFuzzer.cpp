@@ -1,5 +1,5 @@
-// Any bytes as any record that converts both ways: read, asked for hazards and, where there is none, taken to the domain and
-// back, again and again. Nothing may end the process. The second domain object equals the first but for what is known to be
+// Any bytes as any record that converts both ways: read, and taken to the domain and back by the checked
+// conversion, again and again. Nothing may end the process. The second domain object equals the first but for what is known to be
 // lost on the way, and from then on nothing may change: no domain object and, for those without equality, no byte.
 //
 // The first byte chooses the record, the second the protocol.
@@ -44,13 +44,6 @@ std::unique_ptr<WireRecord> Read(std::string const& bytes, Protocol const protoc
     {
         return nullptr;
     }
-}
-
-/// The record that came back, or nothing where a conversion failed or would end the process.
-std::unique_ptr<WireRecord> ThroughDomain(WireRecord const& record, RecordType const& type)
-{
-    if (!type.findHazards(record).empty()) return nullptr;
-    return type.throughDomain(record).record;
 }
 
 /// Identifiers of these are generated anew on every trip.
@@ -106,7 +99,7 @@ bool LosesOnTheWayBack(WireRecord const& record, RecordType const& type)
 
 bool BecomesTheSame(WireRecord const& left, WireRecord const& right, RecordType const& type)
 {
-    return type.sameDomain == nullptr || !type.findHazards(right).empty() || type.sameDomain(left, right);
+    return type.sameDomain == nullptr || !type.toDomainChecked(right).success || type.sameDomain(left, right);
 }
 
 [[noreturn]] void Report(RecordType const& type, char const* const finding)
@@ -126,16 +119,16 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* const data, std::size_
 
     auto const sent = Read(std::string(reinterpret_cast<char const*>(data + 2), size - 2), protocol, type);
     if (sent == nullptr) return 0;
-    auto const back = ThroughDomain(*sent, type);
+    auto const back = type.throughDomain(*sent).record;
     if (back == nullptr) return 0;
     if (GetsNewIdentifier(type)) return 0;
     if (!BecomesTheSame(*sent, *back, type) && !LosesOnTheWayBack(*sent, type))
         Report(type, "becomes another domain object on its second trip");
 
-    auto const again = ThroughDomain(*back, type);
+    auto const again = type.throughDomain(*back).record;
     if (again == nullptr) return 0;
     if (!BecomesTheSame(*back, *again, type)) Report(type, "becomes another domain object on its third trip");
-    auto const last = ThroughDomain(*again, type);
+    auto const last = type.throughDomain(*again).record;
     if (last != nullptr && Encode(*last, Protocol::Binary) != Encode(*again, Protocol::Binary))
         Report(type, "changes on its third trip");
     return 0;

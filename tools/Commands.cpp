@@ -72,7 +72,6 @@ struct Tally
 /// A record's way to the domain and back, as far as it came.
 struct Journey
 {
-    Hazards hazards;
     std::optional<Common::Serialization::ConversionResult> toDomain;
     std::optional<Common::Serialization::ConversionResult> toWire;
     std::unique_ptr<WireRecord> record; ///< Null unless both conversions succeeded.
@@ -83,9 +82,6 @@ struct Journey
 Journey Travel(RecordType const& type, Decoded const& decoded)
 {
     Journey journey;
-    journey.hazards = type.findHazards(*decoded.record);
-    if (!journey.hazards.empty()) return journey;
-
     auto trip = type.throughDomain(*decoded.record);
     journey.toDomain = std::move(trip.toDomain);
     journey.toWire = std::move(trip.toWire);
@@ -106,8 +102,6 @@ void ReportFailures(RecordType const& type, Journey const& journey)
 {
     auto const report = [&](std::string const& text)
     { std::cerr << "talvo-wire: " << type.name << ' ' << text << '\n'; };
-    for (auto const& [path, reason] : journey.hazards)
-        report("is not converted: " + path + " would end the process: " + Escaped(reason));
     if (journey.toDomain && !journey.toDomain->success)
         report("wire to domain failed: " + Escaped(journey.toDomain->message));
     if (journey.toWire && !journey.toWire->success)
@@ -146,7 +140,6 @@ void PrintAsJson(RecordType const& type, Journey const& journey)
     auto const& tally = journey.tally;
     PrintObject(
         {{"record", type.name},
-         {"hazards", ToJson(journey.hazards)},
          {"toDomain", ToJson(journey.toDomain)},
          {"toWire", ToJson(journey.toWire)},
          {"values", {{"kept", tally.kept}, {"changed", tally.changed}, {"gone", tally.gone}, {"added", tally.added}}}},

@@ -42,8 +42,7 @@ void List(Style const& style);
 void Print(Source const& source, Style const& style);
 
 /// Converts a record to the domain and back, prints what each conversion said and every value that came back different,
-/// and writes the record that came back. A record with a value that would end the process inside a converter is not
-/// converted: a line on standard error tells each of them.
+/// and writes the record that came back. To the domain it converts with TryTo().
 ExitStatus Convert(Source const& source, Target const& target, Style const& style);
 
 /// Writes a record in another protocol. Notes on standard error where that protocol can't carry it unchanged.

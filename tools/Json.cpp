@@ -57,13 +57,6 @@ Json ToJson(RecordType const& type)
     return {{"name", type.name}, {"namespace", type.group}, {"toDomain", type.toDomain}, {"toWire", type.toWire}};
 }
 
-Json ToJson(Hazards const& hazards)
-{
-    auto json = Json::array();
-    for (auto const& hazard : hazards) json.push_back({{"path", hazard.path}, {"reason", BytesToJson(hazard.reason)}});
-    return json;
-}
-
 Json ToJson(std::optional<Common::Serialization::ConversionResult> const& result)
 {
     if (!result) return {};

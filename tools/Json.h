@@ -30,9 +30,6 @@ Json ToJson(Field const& field);
 Json ToJson(FieldChange const& change);
 Json ToJson(RecordType const& type);
 
-/// An array of objects: `path` and `reason`.
-Json ToJson(Hazards const& hazards);
-
 /// `success` and `message`, or null.
 Json ToJson(std::optional<Common::Serialization::ConversionResult> const& result);
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Common/Serialization/ConversionResult.h"
-#include "Thrift/Hazards.h"
+#include "Thrift/TryTo.h"
 
 #include <thrift/protocol/TProtocol.h>
 
@@ -34,9 +34,6 @@ struct RoundTrip
     std::unique_ptr<WireRecord> record; ///< What came back: null unless both succeeded.
 };
 
-/// The values of a record that would end the process inside a converter.
-using Hazards = std::vector<Corvane::Zelmar::Serialization::Thrift::Hazard>;
-
 /// A record type as the tool knows it.
 struct RecordType
 {
@@ -45,7 +42,10 @@ struct RecordType
     bool toDomain;          ///< There is a converter to the domain.
     bool toWire;            ///< There is a converter from the domain.
     std::unique_ptr<WireRecord> (*make)();
-    Hazards (*findHazards)(WireRecord const&);     ///< Null without a converter to the domain.
+    /// Converts a record into a newly built domain object, with `To` and with TryTo(); null without a converter to the
+    /// domain.
+    Common::Serialization::ConversionResult (*toDomainUnchecked)(WireRecord const&);
+    Common::Serialization::ConversionResult (*toDomainChecked)(WireRecord const&);
     RoundTrip (*throughDomain)(WireRecord const&); ///< Null unless there are both converters.
     /// Whether both records become equal domain objects; null without a converter to the domain or without equality there.
     bool (*sameDomain)(WireRecord const&, WireRecord const&);
@@ -69,10 +69,16 @@ TDomain NewDomain(TWire const&)
     return TDomain();
 }
 
-template<typename TWire>
-Hazards HazardsOf(WireRecord const& source)
+/// Converts a record into a newly built domain object, checked or not.
+template<typename TWire, typename TToDomain, typename TDomain, TDomain (*newDomain)(TWire const&), bool isChecked>
+Common::Serialization::ConversionResult ToDomain(WireRecord const& source)
 {
-    return Corvane::Zelmar::Serialization::Thrift::FindHazards(static_cast<WireRecordOf<TWire> const&>(source).record);
+    auto const& wire = static_cast<WireRecordOf<TWire> const&>(source).record;
+    TDomain domain = newDomain(wire);
+    if constexpr (isChecked)
+        return Corvane::Zelmar::Serialization::Thrift::TryTo(TToDomain(), wire, domain);
+    else
+        return TToDomain().To(wire, domain);
 }
 
 /// Converts a record into a newly built domain object, and that into a newly built wire record.
@@ -81,7 +87,7 @@ RoundTrip ThroughDomain(WireRecord const& source)
 {
     auto const& wire = static_cast<WireRecordOf<TWire> const&>(source).record;
     TDomain domain = newDomain(wire);
-    RoundTrip trip{TToDomain().To(wire, domain), std::nullopt, nullptr};
+    RoundTrip trip{Corvane::Zelmar::Serialization::Thrift::TryTo(TToDomain(), wire, domain), std::nullopt, nullptr};
     if (!trip.toDomain.success) return trip;
 
     auto back = std::make_unique<WireRecordOf<TWire>>();
@@ -94,12 +100,13 @@ RoundTrip ThroughDomain(WireRecord const& source)
 template<typename TWire, typename TToDomain, typename TDomain, TDomain (*newDomain)(TWire const&)>
 bool SameDomain(WireRecord const& left, WireRecord const& right)
 {
-    auto leftWire = static_cast<WireRecordOf<TWire> const&>(left).record;
-    auto rightWire = static_cast<WireRecordOf<TWire> const&>(right).record;
+    using Corvane::Zelmar::Serialization::Thrift::TryTo;
+    auto const& leftWire = static_cast<WireRecordOf<TWire> const&>(left).record;
+    auto const& rightWire = static_cast<WireRecordOf<TWire> const&>(right).record;
     TDomain leftDomain = newDomain(leftWire);
     TDomain rightDomain = newDomain(rightWire);
-    return TToDomain().To(std::move(leftWire), leftDomain).success &&
-           TToDomain().To(std::move(rightWire), rightDomain).success && leftDomain == rightDomain;
+    return TryTo(TToDomain(), leftWire, leftDomain).success && TryTo(TToDomain(), rightWire, rightDomain).success &&
+           leftDomain == rightDomain;
 }
 
 /// The registry's line for one record: `Record<Wire>("Wire")` for a record without converters,
@@ -124,9 +131,13 @@ RecordType TypeOf(Record<TWire, TToWire, TToDomain, TDomain, newDomain> const& r
     constexpr bool HasToWire = !std::is_void_v<TToWire>;
     constexpr bool HasToDomain = !std::is_void_v<TToDomain>;
 
-    RecordType type{record.name, group, HasToDomain, HasToWire, nullptr, nullptr, nullptr, nullptr};
+    RecordType type{record.name, group, HasToDomain, HasToWire, nullptr, nullptr, nullptr, nullptr, nullptr};
     type.make = []() -> std::unique_ptr<WireRecord> { return std::make_unique<WireRecordOf<TWire>>(); };
-    if constexpr (HasToDomain) type.findHazards = &HazardsOf<TWire>;
+    if constexpr (HasToDomain)
+    {
+        type.toDomainUnchecked = &ToDomain<TWire, TToDomain, TDomain, newDomain, false>;
+        type.toDomainChecked = &ToDomain<TWire, TToDomain, TDomain, newDomain, true>;
+    }
     if constexpr (HasToWire && HasToDomain)
         type.throughDomain = &ThroughDomain<TWire, TToWire, TToDomain, TDomain, newDomain>;
     if constexpr (HasToDomain && std::equality_comparable<TDomain>)

@@ -30,4 +30,11 @@ AnglesGroupCommandReplyToThriftConverter::To(HighLevelOperations::Commands::Angl
     return Success();
 }
 
+ConversionResult
+AnglesGroupCommandReplyToThriftConverter::To(HighLevelOperations::Commands::AnglesGroupCommandReply&& source,
+                                             Generated::AnglesGroupCommandReply& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

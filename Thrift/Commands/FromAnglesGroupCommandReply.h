@@ -28,10 +28,7 @@ public:
                         Generated::AnglesGroupCommandReply& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::AnglesGroupCommandReply&& source,
-                        Generated::AnglesGroupCommandReply& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::AnglesGroupCommandReply& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -25,4 +25,10 @@ ChainCommandParamsToThriftConverter::To(HighLevelOperations::Commands::ChainComm
     return Success();
 }
 
+ConversionResult ChainCommandParamsToThriftConverter::To(HighLevelOperations::Commands::ChainCommandParams&& source,
+                                                         Generated::ChainCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

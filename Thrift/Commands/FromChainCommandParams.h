@@ -29,10 +29,7 @@ public:
                         Generated::ChainCommandParams& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::ChainCommandParams&& source,
-                        Generated::ChainCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::ChainCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

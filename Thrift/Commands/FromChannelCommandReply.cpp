@@ -36,4 +36,10 @@ ChannelCommandReplyToThriftConverter::To(HighLevelOperations::Commands::ChannelC
     return Success();
 }
 
+ConversionResult ChannelCommandReplyToThriftConverter::To(HighLevelOperations::Commands::ChannelCommandReply&& source,
+                                                          Generated::ChannelCommandReply& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -29,10 +29,7 @@ public:
                         Generated::ChannelCommandReply& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::ChannelCommandReply&& source,
-                        Generated::ChannelCommandReply& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::ChannelCommandReply& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -19,9 +19,15 @@ ConversionResult ClipCommandReplyToThriftConverter::To(HighLevelOperations::Comm
     ClipResultsItemToThriftConverter const fromItem;
 
     SendGuid(source.commandGuid, TALVO_FLAGGED(destination, guid));
-    AppendAll(fromItem, source.results, destination.results);
+    AppendAll("results", fromItem, source.results, destination.results);
     destination.__isset.results = true; // also without any item
     return Success();
+}
+
+ConversionResult ClipCommandReplyToThriftConverter::To(HighLevelOperations::Commands::ClipCommandReply&& source,
+                                                       Generated::ClipCommandReply& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -28,10 +28,7 @@ public:
                         Generated::ClipCommandReply& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::ClipCommandReply&& source,
-                        Generated::ClipCommandReply& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::ClipCommandReply& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -29,4 +29,10 @@ ConversionResult ClipResultsItemToThriftConverter::To(HighLevelOperations::Comma
     return Success();
 }
 
+ConversionResult ClipResultsItemToThriftConverter::To(HighLevelOperations::Commands::ClipResultsItem&& source,
+                                                      Generated::ClipResultsItem& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

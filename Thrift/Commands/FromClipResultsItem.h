@@ -29,10 +29,7 @@ public:
                         Generated::ClipResultsItem& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::ClipResultsItem&& source,
-                        Generated::ClipResultsItem& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::ClipResultsItem& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -27,4 +27,11 @@ ConversionResult CreateAnglesGroupCommandParamsToThriftConverter::To(
     return Success();
 }
 
+ConversionResult CreateAnglesGroupCommandParamsToThriftConverter::To(
+    HighLevelOperations::Commands::CreateAnglesGroupCommandParams&& source,
+    Generated::CreateAnglesGroupCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

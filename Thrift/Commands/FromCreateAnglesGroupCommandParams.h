@@ -28,10 +28,7 @@ public:
                         Generated::CreateAnglesGroupCommandParams& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::CreateAnglesGroupCommandParams&& source,
-                        Generated::CreateAnglesGroupCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::CreateAnglesGroupCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

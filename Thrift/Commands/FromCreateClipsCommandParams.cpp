@@ -34,4 +34,11 @@ CreateClipsCommandParamsToThriftConverter::To(HighLevelOperations::Commands::Cre
     return Success();
 }
 
+ConversionResult
+CreateClipsCommandParamsToThriftConverter::To(HighLevelOperations::Commands::CreateClipsCommandParams&& source,
+                                              Generated::CreateClipsCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -29,10 +29,7 @@ public:
                         Generated::CreateClipsCommandParams& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::CreateClipsCommandParams&& source,
-                        Generated::CreateClipsCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::CreateClipsCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

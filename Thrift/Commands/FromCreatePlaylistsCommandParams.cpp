@@ -20,9 +20,16 @@ ConversionResult CreatePlaylistsCommandParamsToThriftConverter::To(
     static Data::Sequences::PlaylistToThriftConverter const playlistConverter;
 
     SendGuid(source.commandGuid, TALVO_FLAGGED(destination, commandGuid));
-    AppendAll(playlistConverter, source.playlists, destination.playlists);
+    AppendAll("playlists", playlistConverter, source.playlists, destination.playlists);
     if (!source.playlists.empty()) destination.__isset.playlists = true;
     return Success();
+}
+
+ConversionResult
+CreatePlaylistsCommandParamsToThriftConverter::To(HighLevelOperations::Commands::CreatePlaylistsCommandParams&& source,
+                                                  Generated::CreatePlaylistsCommandParams& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

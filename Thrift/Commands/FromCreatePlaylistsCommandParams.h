@@ -30,10 +30,7 @@ public:
                         Generated::CreatePlaylistsCommandParams& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::CreatePlaylistsCommandParams&& source,
-                        Generated::CreatePlaylistsCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::CreatePlaylistsCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -19,4 +19,11 @@ ConversionResult DeleteAnglesGroupCommandParamsToThriftConverter::To(
     return Success();
 }
 
+ConversionResult DeleteAnglesGroupCommandParamsToThriftConverter::To(
+    HighLevelOperations::Commands::DeleteAnglesGroupCommandParams&& source,
+    Generated::DeleteAnglesGroupCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

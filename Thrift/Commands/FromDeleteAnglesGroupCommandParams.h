@@ -28,10 +28,7 @@ public:
                         Generated::DeleteAnglesGroupCommandParams& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::DeleteAnglesGroupCommandParams&& source,
-                        Generated::DeleteAnglesGroupCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::DeleteAnglesGroupCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

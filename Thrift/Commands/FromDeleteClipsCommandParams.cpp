@@ -20,9 +20,16 @@ DeleteClipsCommandParamsToThriftConverter::To(HighLevelOperations::Commands::Del
     static Data::GuidToThriftConverter const guidConverter;
 
     SendGuid(source.commandGuid, TALVO_FLAGGED(destination, commandGuid));
-    AppendAll(guidConverter, source.clips, destination.clips);
+    AppendAll("clips", guidConverter, source.clips, destination.clips);
     if (!source.clips.empty()) destination.__isset.clips = true;
     return Success();
+}
+
+ConversionResult
+DeleteClipsCommandParamsToThriftConverter::To(HighLevelOperations::Commands::DeleteClipsCommandParams&& source,
+                                              Generated::DeleteClipsCommandParams& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

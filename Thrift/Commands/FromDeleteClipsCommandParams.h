@@ -28,10 +28,7 @@ public:
                         Generated::DeleteClipsCommandParams& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::DeleteClipsCommandParams&& source,
-                        Generated::DeleteClipsCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::DeleteClipsCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -20,9 +20,16 @@ ConversionResult DeletePlaylistsCommandParamsToThriftConverter::To(
     static Data::GuidToThriftConverter const guidConverter;
 
     SendGuid(source.commandGuid, TALVO_FLAGGED(destination, commandGuid));
-    AppendAll(guidConverter, source.playlists, destination.playlists);
+    AppendAll("playlists", guidConverter, source.playlists, destination.playlists);
     if (!source.playlists.empty()) destination.__isset.playlists = true;
     return Success();
+}
+
+ConversionResult
+DeletePlaylistsCommandParamsToThriftConverter::To(HighLevelOperations::Commands::DeletePlaylistsCommandParams&& source,
+                                                  Generated::DeletePlaylistsCommandParams& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

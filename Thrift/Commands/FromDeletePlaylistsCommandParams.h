@@ -29,10 +29,7 @@ public:
                         Generated::DeletePlaylistsCommandParams& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::DeletePlaylistsCommandParams&& source,
-                        Generated::DeletePlaylistsCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::DeletePlaylistsCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

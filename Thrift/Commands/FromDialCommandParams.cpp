@@ -21,4 +21,10 @@ ConversionResult DialCommandParamsToThriftConverter::To(HighLevelOperations::Com
     return Success();
 }
 
+ConversionResult DialCommandParamsToThriftConverter::To(HighLevelOperations::Commands::DialCommandParams&& source,
+                                                        Generated::DialCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

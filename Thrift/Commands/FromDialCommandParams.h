@@ -29,10 +29,7 @@ public:
                         Generated::DialCommandParams& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::DialCommandParams&& source,
-                        Generated::DialCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::DialCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -19,4 +19,10 @@ ConversionResult FailureReplyToThriftConverter::To(HighLevelOperations::Commands
     return Success();
 }
 
+ConversionResult FailureReplyToThriftConverter::To(HighLevelOperations::Commands::FailureReply&& source,
+                                                   Generated::FailureReply& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -27,10 +27,7 @@ public:
                         Generated::FailureReply& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::FailureReply&& source,
-                        Generated::FailureReply& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::FailureReply& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

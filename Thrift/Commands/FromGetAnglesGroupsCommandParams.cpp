@@ -19,4 +19,11 @@ ConversionResult GetAnglesGroupsCommandParamsToThriftConverter::To(
     return Success();
 }
 
+ConversionResult
+GetAnglesGroupsCommandParamsToThriftConverter::To(HighLevelOperations::Commands::GetAnglesGroupsCommandParams&& source,
+                                                  Generated::GetAnglesGroupsCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -28,10 +28,7 @@ public:
                         Generated::GetAnglesGroupsCommandParams& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::GetAnglesGroupsCommandParams&& source,
-                        Generated::GetAnglesGroupsCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::GetAnglesGroupsCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -33,4 +33,11 @@ ConversionResult GetAnglesGroupsCommandReplyToThriftConverter::To(
     return Success();
 }
 
+ConversionResult
+GetAnglesGroupsCommandReplyToThriftConverter::To(HighLevelOperations::Commands::GetAnglesGroupsCommandReply&& source,
+                                                 Generated::GetAnglesGroupsCommandReply& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

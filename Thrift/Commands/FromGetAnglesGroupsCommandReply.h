@@ -31,10 +31,7 @@ public:
                         Generated::GetAnglesGroupsCommandReply& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::GetAnglesGroupsCommandReply&& source,
-                        Generated::GetAnglesGroupsCommandReply& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::GetAnglesGroupsCommandReply& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

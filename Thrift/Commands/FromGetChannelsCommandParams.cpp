@@ -19,4 +19,11 @@ GetChannelsCommandParamsToThriftConverter::To(HighLevelOperations::Commands::Get
     return Success();
 }
 
+ConversionResult
+GetChannelsCommandParamsToThriftConverter::To(HighLevelOperations::Commands::GetChannelsCommandParams&& source,
+                                              Generated::GetChannelsCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

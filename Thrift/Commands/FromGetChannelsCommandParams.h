@@ -27,10 +27,7 @@ public:
                         Generated::GetChannelsCommandParams& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::GetChannelsCommandParams&& source,
-                        Generated::GetChannelsCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::GetChannelsCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

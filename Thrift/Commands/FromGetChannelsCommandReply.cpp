@@ -40,4 +40,11 @@ GetChannelsCommandReplyToThriftConverter::To(HighLevelOperations::Commands::GetC
     return Success();
 }
 
+ConversionResult
+GetChannelsCommandReplyToThriftConverter::To(HighLevelOperations::Commands::GetChannelsCommandReply&& source,
+                                             Generated::GetChannelsCommandReply& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

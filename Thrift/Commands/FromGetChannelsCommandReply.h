@@ -30,10 +30,7 @@ public:
                         Generated::GetChannelsCommandReply& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::GetChannelsCommandReply&& source,
-                        Generated::GetChannelsCommandReply& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::GetChannelsCommandReply& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

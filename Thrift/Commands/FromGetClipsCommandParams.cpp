@@ -19,4 +19,11 @@ GetClipsCommandParamsToThriftConverter::To(HighLevelOperations::Commands::GetCli
     return Success();
 }
 
+ConversionResult
+GetClipsCommandParamsToThriftConverter::To(HighLevelOperations::Commands::GetClipsCommandParams&& source,
+                                           Generated::GetClipsCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

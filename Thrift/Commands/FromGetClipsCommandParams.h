@@ -27,10 +27,7 @@ public:
                         Generated::GetClipsCommandParams& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::GetClipsCommandParams&& source,
-                        Generated::GetClipsCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::GetClipsCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

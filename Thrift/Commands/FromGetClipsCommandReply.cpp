@@ -33,4 +33,10 @@ GetClipsCommandReplyToThriftConverter::To(HighLevelOperations::Commands::GetClip
     return Success();
 }
 
+ConversionResult GetClipsCommandReplyToThriftConverter::To(HighLevelOperations::Commands::GetClipsCommandReply&& source,
+                                                           Generated::GetClipsCommandReply& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -30,10 +30,7 @@ public:
                         Generated::GetClipsCommandReply& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::GetClipsCommandReply&& source,
-                        Generated::GetClipsCommandReply& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::GetClipsCommandReply& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -16,4 +16,11 @@ ConversionResult GetMultiviewerDataCommandParamsToThriftConverter::To(
     return guidConverter.To(source.commandGuid, destination.commandGuid);
 }
 
+ConversionResult GetMultiviewerDataCommandParamsToThriftConverter::To(
+    HighLevelOperations::Commands::GetMultiviewerDataCommandParams&& source,
+    Generated::GetMultiviewerDataCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

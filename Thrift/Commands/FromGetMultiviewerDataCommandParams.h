@@ -28,10 +28,7 @@ public:
                         Generated::GetMultiviewerDataCommandParams& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::GetMultiviewerDataCommandParams&& source,
-                        Generated::GetMultiviewerDataCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::GetMultiviewerDataCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

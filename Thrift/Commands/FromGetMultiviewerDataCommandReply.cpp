@@ -38,4 +38,11 @@ ConversionResult GetMultiviewerDataCommandReplyToThriftConverter::To(
     return Success();
 }
 
+ConversionResult GetMultiviewerDataCommandReplyToThriftConverter::To(
+    HighLevelOperations::Commands::GetMultiviewerDataCommandReply&& source,
+    Generated::GetMultiviewerDataCommandReply& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

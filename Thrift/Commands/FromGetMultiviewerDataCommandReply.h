@@ -31,10 +31,7 @@ public:
                         Generated::GetMultiviewerDataCommandReply& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::GetMultiviewerDataCommandReply&& source,
-                        Generated::GetMultiviewerDataCommandReply& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::GetMultiviewerDataCommandReply& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -43,4 +43,11 @@ GetPlaylistsCommandParamsToThriftConverter::To(HighLevelOperations::Commands::Ge
     return Success();
 }
 
+ConversionResult
+GetPlaylistsCommandParamsToThriftConverter::To(HighLevelOperations::Commands::GetPlaylistsCommandParams&& source,
+                                               Generated::GetPlaylistsCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

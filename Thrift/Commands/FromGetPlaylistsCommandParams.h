@@ -27,10 +27,7 @@ public:
                         Generated::GetPlaylistsCommandParams& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::GetPlaylistsCommandParams&& source,
-                        Generated::GetPlaylistsCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::GetPlaylistsCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -21,10 +21,18 @@ GetPlaylistsCommandReplyToThriftConverter::To(HighLevelOperations::Commands::Get
 
     SendGuid(source.commandGuid, TALVO_FLAGGED(destination, guid));
     TALVO_FLAGGED(destination, revision) = source.revision;
-    if (auto const result = AppendEach(fromPlaylist, source.playlists, destination.playlists); !result.success)
+    if (auto const result = AppendEach("playlists", fromPlaylist, source.playlists, destination.playlists);
+        !result.success)
         return Nested(result);
     if (!source.playlists.empty()) destination.__isset.playlists = true;
     return Success();
+}
+
+ConversionResult
+GetPlaylistsCommandReplyToThriftConverter::To(HighLevelOperations::Commands::GetPlaylistsCommandReply&& source,
+                                              Generated::GetPlaylistsCommandReply& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -31,10 +31,7 @@ public:
                         Generated::GetPlaylistsCommandReply& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::GetPlaylistsCommandReply&& source,
-                        Generated::GetPlaylistsCommandReply& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::GetPlaylistsCommandReply& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -39,4 +39,11 @@ GetServersCommandParamsToThriftConverter::To(HighLevelOperations::Commands::GetS
     return Success();
 }
 
+ConversionResult
+GetServersCommandParamsToThriftConverter::To(HighLevelOperations::Commands::GetServersCommandParams&& source,
+                                             Generated::GetServersCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -27,10 +27,7 @@ public:
                         Generated::GetServersCommandParams& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::GetServersCommandParams&& source,
-                        Generated::GetServersCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::GetServersCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

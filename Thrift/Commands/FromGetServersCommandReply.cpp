@@ -20,10 +20,17 @@ GetServersCommandReplyToThriftConverter::To(HighLevelOperations::Commands::GetSe
     Data::Servers::ServerInfoToThriftConverter const fromServer;
 
     SendGuid(source.commandGuid, TALVO_FLAGGED(destination, guid));
-    if (auto const result = AppendEach(fromServer, source.servers, destination.servers); !result.success)
+    if (auto const result = AppendEach("servers", fromServer, source.servers, destination.servers); !result.success)
         return Nested(result);
     if (!source.servers.empty()) destination.__isset.servers = true;
     return Success();
+}
+
+ConversionResult
+GetServersCommandReplyToThriftConverter::To(HighLevelOperations::Commands::GetServersCommandReply&& source,
+                                            Generated::GetServersCommandReply& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

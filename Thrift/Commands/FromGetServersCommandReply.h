@@ -31,10 +31,7 @@ public:
                         Generated::GetServersCommandReply& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::GetServersCommandReply&& source,
-                        Generated::GetServersCommandReply& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::GetServersCommandReply& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -19,4 +19,11 @@ GetTrainsCommandParamsToThriftConverter::To(HighLevelOperations::Commands::GetTr
     return Success();
 }
 
+ConversionResult
+GetTrainsCommandParamsToThriftConverter::To(HighLevelOperations::Commands::GetTrainsCommandParams&& source,
+                                            Generated::GetTrainsCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -27,10 +27,7 @@ public:
                         Generated::GetTrainsCommandParams& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::GetTrainsCommandParams&& source,
-                        Generated::GetTrainsCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::GetTrainsCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

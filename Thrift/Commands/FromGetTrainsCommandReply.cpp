@@ -21,9 +21,16 @@ GetTrainsCommandReplyToThriftConverter::To(HighLevelOperations::Commands::GetTra
 
     SendGuid(source.commandGuid, TALVO_FLAGGED(destination, guid));
     TALVO_FLAGGED(destination, dbRevision) = source.dbRevision;
-    AppendAll(fromTrain, source.trains, destination.trains);
+    AppendAll("trains", fromTrain, source.trains, destination.trains);
     if (!source.trains.empty()) destination.__isset.trains = true;
     return Success();
+}
+
+ConversionResult
+GetTrainsCommandReplyToThriftConverter::To(HighLevelOperations::Commands::GetTrainsCommandReply&& source,
+                                           Generated::GetTrainsCommandReply& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

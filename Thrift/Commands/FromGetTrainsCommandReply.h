@@ -29,10 +29,7 @@ public:
                         Generated::GetTrainsCommandReply& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::GetTrainsCommandReply&& source,
-                        Generated::GetTrainsCommandReply& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::GetTrainsCommandReply& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -22,4 +22,10 @@ GoIdleCommandParamsToThriftConverter::To(HighLevelOperations::Commands::GoIdleCo
     return Success();
 }
 
+ConversionResult GoIdleCommandParamsToThriftConverter::To(HighLevelOperations::Commands::GoIdleCommandParams&& source,
+                                                          Generated::GoIdleCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

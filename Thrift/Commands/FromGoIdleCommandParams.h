@@ -29,10 +29,7 @@ public:
                         Generated::GoIdleCommandParams& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::GoIdleCommandParams&& source,
-                        Generated::GoIdleCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::GoIdleCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -20,4 +20,10 @@ ConversionResult LiveCommandParamsToThriftConverter::To(HighLevelOperations::Com
     return Success();
 }
 
+ConversionResult LiveCommandParamsToThriftConverter::To(HighLevelOperations::Commands::LiveCommandParams&& source,
+                                                        Generated::LiveCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

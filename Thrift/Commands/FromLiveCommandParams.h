@@ -29,10 +29,7 @@ public:
                         Generated::LiveCommandParams& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::LiveCommandParams&& source,
-                        Generated::LiveCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::LiveCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -38,4 +38,11 @@ LoadClipsCommandParamsToThriftConverter::To(HighLevelOperations::Commands::LoadC
     return Success();
 }
 
+ConversionResult
+LoadClipsCommandParamsToThriftConverter::To(HighLevelOperations::Commands::LoadClipsCommandParams&& source,
+                                            Generated::LoadClipsCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -29,10 +29,7 @@ public:
                         Generated::LoadClipsCommandParams& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::LoadClipsCommandParams&& source,
-                        Generated::LoadClipsCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::LoadClipsCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

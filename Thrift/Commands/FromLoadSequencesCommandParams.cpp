@@ -37,4 +37,11 @@ LoadSequencesCommandParamsToThriftConverter::To(HighLevelOperations::Commands::L
     return Success();
 }
 
+ConversionResult
+LoadSequencesCommandParamsToThriftConverter::To(HighLevelOperations::Commands::LoadSequencesCommandParams&& source,
+                                                Generated::LoadSequencesCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -29,10 +29,7 @@ public:
                         Generated::LoadSequencesCommandParams& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::LoadSequencesCommandParams&& source,
-                        Generated::LoadSequencesCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::LoadSequencesCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

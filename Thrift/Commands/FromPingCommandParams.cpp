@@ -18,4 +18,10 @@ ConversionResult PingCommandParamsToThriftConverter::To(HighLevelOperations::Com
     return Success();
 }
 
+ConversionResult PingCommandParamsToThriftConverter::To(HighLevelOperations::Commands::PingCommandParams&& source,
+                                                        Generated::PingCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

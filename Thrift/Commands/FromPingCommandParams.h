@@ -27,10 +27,7 @@ public:
                         Generated::PingCommandParams& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::PingCommandParams&& source,
-                        Generated::PingCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::PingCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

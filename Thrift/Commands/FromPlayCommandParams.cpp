@@ -26,4 +26,10 @@ ConversionResult PlayCommandParamsToThriftConverter::To(HighLevelOperations::Com
     return Success();
 }
 
+ConversionResult PlayCommandParamsToThriftConverter::To(HighLevelOperations::Commands::PlayCommandParams&& source,
+                                                        Generated::PlayCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

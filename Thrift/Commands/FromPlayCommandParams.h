@@ -29,10 +29,7 @@ public:
                         Generated::PlayCommandParams& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::PlayCommandParams&& source,
-                        Generated::PlayCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::PlayCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

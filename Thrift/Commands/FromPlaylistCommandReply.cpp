@@ -20,9 +20,15 @@ PlaylistCommandReplyToThriftConverter::To(HighLevelOperations::Commands::Playlis
     PlaylistResultsItemToThriftConverter const fromItem;
 
     SendGuid(source.commandGuid, TALVO_FLAGGED(destination, guid));
-    AppendAll(fromItem, source.results, destination.results);
+    AppendAll("results", fromItem, source.results, destination.results);
     destination.__isset.results = true; // also without any item
     return Success();
+}
+
+ConversionResult PlaylistCommandReplyToThriftConverter::To(HighLevelOperations::Commands::PlaylistCommandReply&& source,
+                                                           Generated::PlaylistCommandReply& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -28,10 +28,7 @@ public:
                         Generated::PlaylistCommandReply& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::PlaylistCommandReply&& source,
-                        Generated::PlaylistCommandReply& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::PlaylistCommandReply& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

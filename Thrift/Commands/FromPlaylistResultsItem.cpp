@@ -29,4 +29,10 @@ PlaylistResultsItemToThriftConverter::To(HighLevelOperations::Commands::Playlist
     return Success();
 }
 
+ConversionResult PlaylistResultsItemToThriftConverter::To(HighLevelOperations::Commands::PlaylistResultsItem&& source,
+                                                          Generated::PlaylistResultsItem& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

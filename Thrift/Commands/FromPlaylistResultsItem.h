@@ -28,10 +28,7 @@ public:
                         Generated::PlaylistResultsItem& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::PlaylistResultsItem&& source,
-                        Generated::PlaylistResultsItem& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::PlaylistResultsItem& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

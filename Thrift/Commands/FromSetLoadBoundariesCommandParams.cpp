@@ -36,4 +36,11 @@ ConversionResult SetLoadBoundariesCommandParamsToThriftConverter::To(
     return Success();
 }
 
+ConversionResult SetLoadBoundariesCommandParamsToThriftConverter::To(
+    HighLevelOperations::Commands::SetLoadBoundariesCommandParams&& source,
+    Generated::SetLoadBoundariesCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -31,10 +31,7 @@ public:
                         Generated::SetLoadBoundariesCommandParams& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::SetLoadBoundariesCommandParams&& source,
-                        Generated::SetLoadBoundariesCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::SetLoadBoundariesCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -33,4 +33,11 @@ ConversionResult SetMultiviewerDataCommandParamsToThriftConverter::To(
     return Success();
 }
 
+ConversionResult SetMultiviewerDataCommandParamsToThriftConverter::To(
+    HighLevelOperations::Commands::SetMultiviewerDataCommandParams&& source,
+    Generated::SetMultiviewerDataCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -33,10 +33,7 @@ public:
                         Generated::SetMultiviewerDataCommandParams& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::SetMultiviewerDataCommandParams&& source,
-                        Generated::SetMultiviewerDataCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::SetMultiviewerDataCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

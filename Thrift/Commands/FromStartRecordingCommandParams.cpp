@@ -21,4 +21,11 @@ StartRecordingCommandParamsToThriftConverter::To(HighLevelOperations::Commands::
     return Success();
 }
 
+ConversionResult
+StartRecordingCommandParamsToThriftConverter::To(HighLevelOperations::Commands::StartCommandParams&& source,
+                                                 Generated::StartRecordingCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

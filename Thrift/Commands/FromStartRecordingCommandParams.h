@@ -28,10 +28,7 @@ public:
                         Generated::StartRecordingCommandParams& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::StartCommandParams&& source,
-                        Generated::StartRecordingCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::StartRecordingCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

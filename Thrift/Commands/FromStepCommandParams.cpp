@@ -21,4 +21,10 @@ ConversionResult StepCommandParamsToThriftConverter::To(HighLevelOperations::Com
     return Success();
 }
 
+ConversionResult StepCommandParamsToThriftConverter::To(HighLevelOperations::Commands::StepCommandParams&& source,
+                                                        Generated::StepCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

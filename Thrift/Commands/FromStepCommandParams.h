@@ -29,10 +29,7 @@ public:
                         Generated::StepCommandParams& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::StepCommandParams&& source,
-                        Generated::StepCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::StepCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

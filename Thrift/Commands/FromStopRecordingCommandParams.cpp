@@ -21,4 +21,11 @@ StopRecordingCommandParamsToThriftConverter::To(HighLevelOperations::Commands::S
     return Success();
 }
 
+ConversionResult
+StopRecordingCommandParamsToThriftConverter::To(HighLevelOperations::Commands::StopCommandParams&& source,
+                                                Generated::StopRecordingCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -28,10 +28,7 @@ public:
                         Generated::StopRecordingCommandParams& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::StopCommandParams&& source,
-                        Generated::StopRecordingCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::StopRecordingCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -18,4 +18,10 @@ ConversionResult SuccessReplyToThriftConverter::To(HighLevelOperations::Commands
     return Success();
 }
 
+ConversionResult SuccessReplyToThriftConverter::To(HighLevelOperations::Commands::SuccessReply&& source,
+                                                   Generated::SuccessReply& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

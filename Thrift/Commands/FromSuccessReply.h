@@ -26,10 +26,7 @@ public:
                         Generated::SuccessReply& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::SuccessReply&& source,
-                        Generated::SuccessReply& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::SuccessReply& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -24,4 +24,10 @@ ConversionResult SyncCommandParamsToThriftConverter::To(HighLevelOperations::Com
     return Success();
 }
 
+ConversionResult SyncCommandParamsToThriftConverter::To(HighLevelOperations::Commands::SyncCommandParams&& source,
+                                                        Generated::SyncCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -28,10 +28,7 @@ public:
                         Generated::SyncCommandParams& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::SyncCommandParams&& source,
-                        Generated::SyncCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::SyncCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

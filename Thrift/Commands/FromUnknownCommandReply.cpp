@@ -18,4 +18,10 @@ UnknownCommandReplyToThriftConverter::To(HighLevelOperations::Commands::UnknownC
     return Success();
 }
 
+ConversionResult UnknownCommandReplyToThriftConverter::To(HighLevelOperations::Commands::UnknownCommandReply&& source,
+                                                          Generated::UnknownCommandReply& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -28,10 +28,7 @@ public:
                         Generated::UnknownCommandReply& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::UnknownCommandReply&& source,
-                        Generated::UnknownCommandReply& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::UnknownCommandReply& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -23,4 +23,11 @@ ConversionResult UpdateAnglesGroupCommandParamsToThriftConverter::To(
     return Success();
 }
 
+ConversionResult UpdateAnglesGroupCommandParamsToThriftConverter::To(
+    HighLevelOperations::Commands::UpdateAnglesGroupCommandParams&& source,
+    Generated::UpdateAnglesGroupCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

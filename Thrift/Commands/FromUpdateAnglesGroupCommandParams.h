@@ -28,10 +28,7 @@ public:
                         Generated::UpdateAnglesGroupCommandParams& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::UpdateAnglesGroupCommandParams&& source,
-                        Generated::UpdateAnglesGroupCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::UpdateAnglesGroupCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -33,4 +33,11 @@ UpdateClipsCommandParamsToThriftConverter::To(HighLevelOperations::Commands::Upd
     return Success();
 }
 
+ConversionResult
+UpdateClipsCommandParamsToThriftConverter::To(HighLevelOperations::Commands::UpdateClipsCommandParams&& source,
+                                              Generated::UpdateClipsCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

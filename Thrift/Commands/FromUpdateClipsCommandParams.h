@@ -29,10 +29,7 @@ public:
                         Generated::UpdateClipsCommandParams& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::UpdateClipsCommandParams&& source,
-                        Generated::UpdateClipsCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::UpdateClipsCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -33,4 +33,11 @@ ConversionResult UpdatePlaylistsCommandParamsToThriftConverter::To(
     return Success();
 }
 
+ConversionResult
+UpdatePlaylistsCommandParamsToThriftConverter::To(HighLevelOperations::Commands::UpdatePlaylistsCommandParams&& source,
+                                                  Generated::UpdatePlaylistsCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -30,10 +30,7 @@ public:
                         Generated::UpdatePlaylistsCommandParams& destination) const noexcept override;
 
     ConversionResult To(HighLevelOperations::Commands::UpdatePlaylistsCommandParams&& source,
-                        Generated::UpdatePlaylistsCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::UpdatePlaylistsCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

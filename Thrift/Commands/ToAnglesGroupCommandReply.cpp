@@ -4,6 +4,7 @@
 #include "Thrift/Commands/ToClipCommandReply.h"
 #include "Thrift/Data/ToOperationStatus.h"
 #include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/AnglesGroupCommandReply_types.h"
 
@@ -14,9 +15,9 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
 
 using namespace Detail;
 
-ConversionResult ThriftToAnglesGroupCommandReplyConverter::To(
+ConversionResult ThriftToAnglesGroupCommandReplyConverter::ToOrThrow(
     Generated::AnglesGroupCommandReply const& source,
-    HighLevelOperations::Commands::AnglesGroupCommandReply& destination) const noexcept
+    HighLevelOperations::Commands::AnglesGroupCommandReply& destination) const
 {
     Data::ThriftToOperationStatusConverter const toStatus;
     ThriftToClipCommandReplyConverter const toClipCommandReply;
@@ -26,11 +27,27 @@ ConversionResult ThriftToAnglesGroupCommandReplyConverter::To(
 
     destination = {ReadGuidAs<Corvane::Data::Guid>(source.commandGuid),
                    ReadGuidAs<Corvane::Data::Clips::Groups::Guid>(source.groupGuid)};
-    if (isset.operationStatus) std::ignore = toStatus.To(source.operationStatus, destination.operationStatus);
+    if (isset.operationStatus)
+        std::ignore = Read("operationStatus", toStatus, source.operationStatus, destination.operationStatus);
     // A reply that fails leaves the new one without items.
     if (isset.clipCommandReply)
-        std::ignore = toClipCommandReply.To(source.clipCommandReply, destination.clipCommandReply);
+        std::ignore =
+            Read("clipCommandReply", toClipCommandReply, source.clipCommandReply, destination.clipCommandReply);
     return Success();
+}
+
+ConversionResult ThriftToAnglesGroupCommandReplyConverter::To(
+    Generated::AnglesGroupCommandReply const& source,
+    HighLevelOperations::Commands::AnglesGroupCommandReply& destination) const noexcept
+{
+    return ToOrTerminate(*this, source, destination);
+}
+
+ConversionResult ThriftToAnglesGroupCommandReplyConverter::To(
+    Generated::AnglesGroupCommandReply&& source,
+    HighLevelOperations::Commands::AnglesGroupCommandReply& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -28,14 +28,15 @@ class ThriftToAnglesGroupCommandReplyConverter
 public:
     ~ThriftToAnglesGroupCommandReplyConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::AnglesGroupCommandReply const& source,
+                               HighLevelOperations::Commands::AnglesGroupCommandReply& destination) const;
+
     ConversionResult To(Generated::AnglesGroupCommandReply const& source,
                         HighLevelOperations::Commands::AnglesGroupCommandReply& destination) const noexcept override;
 
     ConversionResult To(Generated::AnglesGroupCommandReply&& source,
-                        HighLevelOperations::Commands::AnglesGroupCommandReply& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        HighLevelOperations::Commands::AnglesGroupCommandReply& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -4,6 +4,7 @@
 #include "Thrift/Data/Channels/ToLoadBoundary.h"
 #include "Thrift/Detail/ByChannel.h"
 #include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/ChainCommandParams_types.h"
 
@@ -25,9 +26,18 @@ ThriftToChainCommandParamsConverter::To(Generated::ChainCommandParams const& sou
     ReadByChannel(isset.players, source.players, destination.players, ReadGuidAs<Corvane::Data::Clips::Guid>);
     if (isset.timepoint) destination.timepoint = {source.timepoint};
     // A boundary that is refused leaves the destination's as it was.
-    if (isset.inBoundary) std::ignore = loadBoundaryConverter.To(source.inBoundary, destination.inBoundary);
-    if (isset.outBoundary) std::ignore = loadBoundaryConverter.To(source.outBoundary, destination.outBoundary);
+    if (isset.inBoundary)
+        std::ignore = Read("inBoundary", loadBoundaryConverter, source.inBoundary, destination.inBoundary);
+    if (isset.outBoundary)
+        std::ignore = Read("outBoundary", loadBoundaryConverter, source.outBoundary, destination.outBoundary);
     return Success();
+}
+
+ConversionResult
+ThriftToChainCommandParamsConverter::To(Generated::ChainCommandParams&& source,
+                                        HighLevelOperations::Commands::ChainCommandParams& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -30,10 +30,7 @@ public:
                         HighLevelOperations::Commands::ChainCommandParams& destination) const noexcept override;
 
     ConversionResult To(Generated::ChainCommandParams&& source,
-                        HighLevelOperations::Commands::ChainCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        HighLevelOperations::Commands::ChainCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

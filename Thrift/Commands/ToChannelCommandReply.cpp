@@ -3,6 +3,7 @@
 #include "Domain/HighLevelOperations/Commands/ChannelCommandReply.h"
 #include "Thrift/Data/ToOperationStatus.h"
 #include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/ChannelCommandReply_types.h"
 
@@ -59,7 +60,7 @@ ThriftToChannelCommandReplyConverter::To(Generated::ChannelCommandReply const& s
     for (auto const& wireResult : source.channelResults)
     {
         Corvane::Data::OperationStatus status;
-        std::ignore = toStatus.To(wireResult.status, status);
+        std::ignore = Read("channelResults", toStatus, wireResult.status, status);
         Put(received, {ReadGuidAs<Corvane::Data::Channels::Guid>(wireResult.guid), status});
     }
     // Tests at its end: without any result the first, default slot is put all the same.
@@ -72,6 +73,13 @@ ThriftToChannelCommandReplyConverter::To(Generated::ChannelCommandReply const& s
 
     // Without an identifier it fails, although the results have been put.
     return isset.guid ? Success() : Failure("ChannelCommandReply is empty");
+}
+
+ConversionResult
+ThriftToChannelCommandReplyConverter::To(Generated::ChannelCommandReply&& source,
+                                         HighLevelOperations::Commands::ChannelCommandReply& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

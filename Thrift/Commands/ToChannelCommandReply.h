@@ -34,10 +34,7 @@ public:
                         HighLevelOperations::Commands::ChannelCommandReply& destination) const noexcept override;
 
     ConversionResult To(Generated::ChannelCommandReply&& source,
-                        HighLevelOperations::Commands::ChannelCommandReply& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        HighLevelOperations::Commands::ChannelCommandReply& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

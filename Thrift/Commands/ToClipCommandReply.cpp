@@ -3,6 +3,7 @@
 #include "Domain/HighLevelOperations/Commands/ClipCommandReply.h"
 #include "Thrift/Commands/ToClipResultsItem.h"
 #include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/ClipCommandReply_types.h"
 
@@ -17,8 +18,8 @@ using Corvane::Data::OperationResult;
 using Corvane::Data::OperationStatus;
 
 ConversionResult
-ThriftToClipCommandReplyConverter::To(Generated::ClipCommandReply const& source,
-                                      HighLevelOperations::Commands::ClipCommandReply& destination) const noexcept
+ThriftToClipCommandReplyConverter::ToOrThrow(Generated::ClipCommandReply const& source,
+                                             HighLevelOperations::Commands::ClipCommandReply& destination) const
 {
     ThriftToClipResultsItemConverter const toItem;
 
@@ -30,9 +31,23 @@ ThriftToClipCommandReplyConverter::To(Generated::ClipCommandReply const& source,
         // An item that fails stays as it starts.
         auto& item = destination.results[i];
         item.OperationStatus({OperationStatus::Status::Failed, OperationResult::DefaultError});
-        std::ignore = toItem.To(source.results[i], item);
+        std::ignore = Read({"results", i}, toItem, source.results[i], item);
     }
     return Success();
+}
+
+ConversionResult
+ThriftToClipCommandReplyConverter::To(Generated::ClipCommandReply const& source,
+                                      HighLevelOperations::Commands::ClipCommandReply& destination) const noexcept
+{
+    return ToOrTerminate(*this, source, destination);
+}
+
+ConversionResult
+ThriftToClipCommandReplyConverter::To(Generated::ClipCommandReply&& source,
+                                      HighLevelOperations::Commands::ClipCommandReply& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -27,14 +27,15 @@ class ThriftToClipCommandReplyConverter
 public:
     ~ThriftToClipCommandReplyConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::ClipCommandReply const& source,
+                               HighLevelOperations::Commands::ClipCommandReply& destination) const;
+
     ConversionResult To(Generated::ClipCommandReply const& source,
                         HighLevelOperations::Commands::ClipCommandReply& destination) const noexcept override;
 
     ConversionResult To(Generated::ClipCommandReply&& source,
-                        HighLevelOperations::Commands::ClipCommandReply& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        HighLevelOperations::Commands::ClipCommandReply& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -3,6 +3,7 @@
 #include "Domain/HighLevelOperations/Commands/ClipResultsItem.h"
 #include "Thrift/Data/Clips/ToClip.h"
 #include "Thrift/Data/ToOperationStatus.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "Thrift/Detail/SeenFields.h"
 #include "generated/ClipResultsItem_types.h"
@@ -19,8 +20,8 @@ using Corvane::Data::OperationResult;
 using Corvane::Data::OperationStatus;
 
 ConversionResult
-ThriftToClipResultsItemConverter::To(Generated::ClipResultsItem const& source,
-                                     HighLevelOperations::Commands::ClipResultsItem& destination) const noexcept
+ThriftToClipResultsItemConverter::ToOrThrow(Generated::ClipResultsItem const& source,
+                                            HighLevelOperations::Commands::ClipResultsItem& destination) const
 {
     Data::ThriftToOperationStatusConverter const toStatus;
     Data::Clips::ThriftToClipConverter const toClip;
@@ -30,18 +31,32 @@ ThriftToClipResultsItemConverter::To(Generated::ClipResultsItem const& source,
     if (seen(isset.operationStatus))
     {
         OperationStatus status{OperationStatus::Status::Failed, OperationResult::DefaultError};
-        std::ignore = toStatus.To(source.operationStatus, status);
+        std::ignore = Read("operationStatus", toStatus, source.operationStatus, status);
         destination.OperationStatus(status); // destroys the held clip unless it succeeded
     }
     if (seen(isset.clip))
     {
         // The clip is converted even where it is dropped. What it reports is not looked at.
         auto clip = std::make_unique<Corvane::Data::Clips::Clip>();
-        std::ignore = toClip.To(source.clip, *clip);
+        std::ignore = Read("clip", toClip, source.clip, *clip);
         if (destination.OperationStatus().status == OperationStatus::Status::Succeeded)
             destination.clip = std::move(clip);
     }
     return seen.None() ? Failure("ClipResultsItem is empty") : Success();
+}
+
+ConversionResult
+ThriftToClipResultsItemConverter::To(Generated::ClipResultsItem const& source,
+                                     HighLevelOperations::Commands::ClipResultsItem& destination) const noexcept
+{
+    return ToOrTerminate(*this, source, destination);
+}
+
+ConversionResult
+ThriftToClipResultsItemConverter::To(Generated::ClipResultsItem&& source,
+                                     HighLevelOperations::Commands::ClipResultsItem& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -29,14 +29,15 @@ class ThriftToClipResultsItemConverter
 public:
     ~ThriftToClipResultsItemConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::ClipResultsItem const& source,
+                               HighLevelOperations::Commands::ClipResultsItem& destination) const;
+
     ConversionResult To(Generated::ClipResultsItem const& source,
                         HighLevelOperations::Commands::ClipResultsItem& destination) const noexcept override;
 
     ConversionResult To(Generated::ClipResultsItem&& source,
-                        HighLevelOperations::Commands::ClipResultsItem& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        HighLevelOperations::Commands::ClipResultsItem& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -3,6 +3,7 @@
 #include "Domain/HighLevelOperations/Commands/CreateAnglesGroupCommandParams.h"
 #include "Thrift/Commands/ToCreateClipsCommandParams.h"
 #include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/CreateAnglesGroupCommandParams_types.h"
 
@@ -13,16 +14,31 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
 
 using namespace Detail;
 
-ConversionResult ThriftToCreateAnglesGroupCommandParamsConverter::To(
+ConversionResult ThriftToCreateAnglesGroupCommandParamsConverter::ToOrThrow(
     Generated::CreateAnglesGroupCommandParams const& source,
-    HighLevelOperations::Commands::CreateAnglesGroupCommandParams& destination) const noexcept
+    HighLevelOperations::Commands::CreateAnglesGroupCommandParams& destination) const
 {
     static ThriftToCreateClipsCommandParamsConverter const createClipsCommanParamsConverter; // spelled so
 
     ReadGuid(source.commandGuid, destination.commandGuid);
     destination.groupKviIndex = source.groupKviIndex; // whether its flag is set or not
-    std::ignore = createClipsCommanParamsConverter.To(source.creationParams, destination.creationParams);
+    std::ignore =
+        Read("creationParams", createClipsCommanParamsConverter, source.creationParams, destination.creationParams);
     return Success();
+}
+
+ConversionResult ThriftToCreateAnglesGroupCommandParamsConverter::To(
+    Generated::CreateAnglesGroupCommandParams const& source,
+    HighLevelOperations::Commands::CreateAnglesGroupCommandParams& destination) const noexcept
+{
+    return ToOrTerminate(*this, source, destination);
+}
+
+ConversionResult ThriftToCreateAnglesGroupCommandParamsConverter::To(
+    Generated::CreateAnglesGroupCommandParams&& source,
+    HighLevelOperations::Commands::CreateAnglesGroupCommandParams& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -27,16 +27,17 @@ class ThriftToCreateAnglesGroupCommandParamsConverter
 public:
     ~ThriftToCreateAnglesGroupCommandParamsConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::CreateAnglesGroupCommandParams const& source,
+                               HighLevelOperations::Commands::CreateAnglesGroupCommandParams& destination) const;
+
     ConversionResult
     To(Generated::CreateAnglesGroupCommandParams const& source,
        HighLevelOperations::Commands::CreateAnglesGroupCommandParams& destination) const noexcept override;
 
     ConversionResult
     To(Generated::CreateAnglesGroupCommandParams&& source,
-       HighLevelOperations::Commands::CreateAnglesGroupCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+       HighLevelOperations::Commands::CreateAnglesGroupCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

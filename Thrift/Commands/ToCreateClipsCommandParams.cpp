@@ -4,9 +4,11 @@
 #include "Thrift/Data/Clips/ToClip.h"
 #include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Lists.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/CreateClipsCommandParams_types.h"
 
+#include <cstddef>
 #include <tuple>
 
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
@@ -14,9 +16,9 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
 
 using namespace Detail;
 
-ConversionResult ThriftToCreateClipsCommandParamsConverter::To(
+ConversionResult ThriftToCreateClipsCommandParamsConverter::ToOrThrow(
     Generated::CreateClipsCommandParams const& source,
-    HighLevelOperations::Commands::CreateClipsCommandParams& destination) const noexcept
+    HighLevelOperations::Commands::CreateClipsCommandParams& destination) const
 {
     static Data::Clips::ThriftToClipConverter const clipConverter;
 
@@ -25,16 +27,31 @@ ConversionResult ThriftToCreateClipsCommandParamsConverter::To(
     if (source.__isset.clips)
     {
         ReserveMore(destination.clips, source.clips.size());
-        for (auto const& wireParams : source.clips)
+        for (std::size_t i = 0; i < source.clips.size(); ++i)
         {
-            // The flags inside are not read, and what the clip reports is not looked at.
+            // The flags inside are not read, and the clip's result is dropped.
+            auto const& wireParams = source.clips[i];
             auto& params = destination.clips.emplace_back();
             ReadGuid(wireParams.sourceId, params.sourceId);
-            std::ignore = clipConverter.To(wireParams.clip, params.clip);
+            std::ignore = Read({"clips", i, "clip"}, clipConverter, wireParams.clip, params.clip);
             params.setTimecodes = wireParams.setTimecodes;
         }
     }
     return Success();
+}
+
+ConversionResult ThriftToCreateClipsCommandParamsConverter::To(
+    Generated::CreateClipsCommandParams const& source,
+    HighLevelOperations::Commands::CreateClipsCommandParams& destination) const noexcept
+{
+    return ToOrTerminate(*this, source, destination);
+}
+
+ConversionResult ThriftToCreateClipsCommandParamsConverter::To(
+    Generated::CreateClipsCommandParams&& source,
+    HighLevelOperations::Commands::CreateClipsCommandParams& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -28,14 +28,15 @@ class ThriftToCreateClipsCommandParamsConverter
 public:
     ~ThriftToCreateClipsCommandParamsConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::CreateClipsCommandParams const& source,
+                               HighLevelOperations::Commands::CreateClipsCommandParams& destination) const;
+
     ConversionResult To(Generated::CreateClipsCommandParams const& source,
                         HighLevelOperations::Commands::CreateClipsCommandParams& destination) const noexcept override;
 
     ConversionResult To(Generated::CreateClipsCommandParams&& source,
-                        HighLevelOperations::Commands::CreateClipsCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        HighLevelOperations::Commands::CreateClipsCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

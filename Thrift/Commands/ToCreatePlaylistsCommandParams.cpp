@@ -4,6 +4,7 @@
 #include "Thrift/Data/Sequences/ToPlaylist.h"
 #include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Lists.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/CreatePlaylistsCommandParams_types.h"
 
@@ -12,16 +13,30 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
 
 using namespace Detail;
 
-ConversionResult ThriftToCreatePlaylistsCommandParamsConverter::To(
+ConversionResult ThriftToCreatePlaylistsCommandParamsConverter::ToOrThrow(
     Generated::CreatePlaylistsCommandParams const& source,
-    HighLevelOperations::Commands::CreatePlaylistsCommandParams& destination) const noexcept
+    HighLevelOperations::Commands::CreatePlaylistsCommandParams& destination) const
 {
     static Data::Sequences::ThriftToPlaylistConverter const playlistConverter;
 
     ReadGuid(source.commandGuid, destination.commandGuid);
     destination.playlists.clear();
-    if (source.__isset.playlists) AppendAll(playlistConverter, source.playlists, destination.playlists);
+    if (source.__isset.playlists) AppendAll("playlists", playlistConverter, source.playlists, destination.playlists);
     return Success();
+}
+
+ConversionResult ThriftToCreatePlaylistsCommandParamsConverter::To(
+    Generated::CreatePlaylistsCommandParams const& source,
+    HighLevelOperations::Commands::CreatePlaylistsCommandParams& destination) const noexcept
+{
+    return ToOrTerminate(*this, source, destination);
+}
+
+ConversionResult ThriftToCreatePlaylistsCommandParamsConverter::To(
+    Generated::CreatePlaylistsCommandParams&& source,
+    HighLevelOperations::Commands::CreatePlaylistsCommandParams& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

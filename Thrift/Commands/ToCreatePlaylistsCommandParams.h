@@ -29,16 +29,17 @@ class ThriftToCreatePlaylistsCommandParamsConverter
 public:
     ~ThriftToCreatePlaylistsCommandParamsConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::CreatePlaylistsCommandParams const& source,
+                               HighLevelOperations::Commands::CreatePlaylistsCommandParams& destination) const;
+
     ConversionResult
     To(Generated::CreatePlaylistsCommandParams const& source,
        HighLevelOperations::Commands::CreatePlaylistsCommandParams& destination) const noexcept override;
 
     ConversionResult
     To(Generated::CreatePlaylistsCommandParams&& source,
-       HighLevelOperations::Commands::CreatePlaylistsCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+       HighLevelOperations::Commands::CreatePlaylistsCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -19,4 +19,11 @@ ConversionResult ThriftToDeleteAnglesGroupCommandParamsConverter::To(
     return Success();
 }
 
+ConversionResult ThriftToDeleteAnglesGroupCommandParamsConverter::To(
+    Generated::DeleteAnglesGroupCommandParams&& source,
+    HighLevelOperations::Commands::DeleteAnglesGroupCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

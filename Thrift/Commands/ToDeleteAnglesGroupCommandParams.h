@@ -30,10 +30,7 @@ public:
 
     ConversionResult
     To(Generated::DeleteAnglesGroupCommandParams&& source,
-       HighLevelOperations::Commands::DeleteAnglesGroupCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+       HighLevelOperations::Commands::DeleteAnglesGroupCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -20,8 +20,15 @@ ConversionResult ThriftToDeleteClipsCommandParamsConverter::To(
 
     ReadGuid(source.commandGuid, destination.commandGuid);
     destination.clips.clear();
-    if (source.__isset.clips) AppendAll(guidConverter, source.clips, destination.clips);
+    if (source.__isset.clips) AppendAll("clips", guidConverter, source.clips, destination.clips);
     return Success();
+}
+
+ConversionResult ThriftToDeleteClipsCommandParamsConverter::To(
+    Generated::DeleteClipsCommandParams&& source,
+    HighLevelOperations::Commands::DeleteClipsCommandParams& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

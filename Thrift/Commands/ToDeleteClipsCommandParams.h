@@ -29,10 +29,7 @@ public:
                         HighLevelOperations::Commands::DeleteClipsCommandParams& destination) const noexcept override;
 
     ConversionResult To(Generated::DeleteClipsCommandParams&& source,
-                        HighLevelOperations::Commands::DeleteClipsCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        HighLevelOperations::Commands::DeleteClipsCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

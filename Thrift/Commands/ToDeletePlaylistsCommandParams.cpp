@@ -20,8 +20,15 @@ ConversionResult ThriftToDeletePlaylistsCommandParamsConverter::To(
 
     ReadGuid(source.commandGuid, destination.commandGuid);
     destination.playlists.clear();
-    if (source.__isset.playlists) AppendAll(guidConverter, source.playlists, destination.playlists);
+    if (source.__isset.playlists) AppendAll("playlists", guidConverter, source.playlists, destination.playlists);
     return Success();
+}
+
+ConversionResult ThriftToDeletePlaylistsCommandParamsConverter::To(
+    Generated::DeletePlaylistsCommandParams&& source,
+    HighLevelOperations::Commands::DeletePlaylistsCommandParams& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

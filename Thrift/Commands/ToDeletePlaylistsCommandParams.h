@@ -32,10 +32,7 @@ public:
 
     ConversionResult
     To(Generated::DeletePlaylistsCommandParams&& source,
-       HighLevelOperations::Commands::DeletePlaylistsCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+       HighLevelOperations::Commands::DeletePlaylistsCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -21,4 +21,11 @@ ThriftToDialCommandParamsConverter::To(Generated::DialCommandParams const& sourc
     return Success();
 }
 
+ConversionResult
+ThriftToDialCommandParamsConverter::To(Generated::DialCommandParams&& source,
+                                       HighLevelOperations::Commands::DialCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -29,10 +29,7 @@ public:
                         HighLevelOperations::Commands::DialCommandParams& destination) const noexcept override;
 
     ConversionResult To(Generated::DialCommandParams&& source,
-                        HighLevelOperations::Commands::DialCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        HighLevelOperations::Commands::DialCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -24,4 +24,11 @@ ThriftToFailureReplyConverter::To(Generated::FailureReply const& source,
     return seen.None() ? Failure("FailureReply is empty") : Success();
 }
 
+ConversionResult
+ThriftToFailureReplyConverter::To(Generated::FailureReply&& source,
+                                  HighLevelOperations::Commands::FailureReply& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

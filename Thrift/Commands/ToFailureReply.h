@@ -30,10 +30,7 @@ public:
                         HighLevelOperations::Commands::FailureReply& destination) const noexcept override;
 
     ConversionResult To(Generated::FailureReply&& source,
-                        HighLevelOperations::Commands::FailureReply& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        HighLevelOperations::Commands::FailureReply& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -18,4 +18,11 @@ ConversionResult ThriftToGetAnglesGroupsCommandParamsConverter::To(
     return Success();
 }
 
+ConversionResult ThriftToGetAnglesGroupsCommandParamsConverter::To(
+    Generated::GetAnglesGroupsCommandParams&& source,
+    HighLevelOperations::Commands::GetAnglesGroupsCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

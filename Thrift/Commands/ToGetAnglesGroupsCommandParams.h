@@ -30,10 +30,7 @@ public:
 
     ConversionResult
     To(Generated::GetAnglesGroupsCommandParams&& source,
-       HighLevelOperations::Commands::GetAnglesGroupsCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+       HighLevelOperations::Commands::GetAnglesGroupsCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

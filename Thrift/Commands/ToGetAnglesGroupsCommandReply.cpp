@@ -3,9 +3,11 @@
 #include "Domain/HighLevelOperations/Commands/GetAnglesGroupsCommandReply.h"
 #include "Thrift/Data/Clips/ToAnglesGroup.h"
 #include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/GetAnglesGroupsCommandReply_types.h"
 
+#include <cstddef>
 #include <list>
 #include <tuple>
 #include <utility>
@@ -26,12 +28,20 @@ ConversionResult ThriftToGetAnglesGroupsCommandReplyConverter::To(
     std::list<Corvane::Data::Clips::Groups::AnglesGroup> groups;
     if (isset.groups)
     {
-        for (auto const& wireGroup : source.groups)
-            std::ignore = toGroup.To(wireGroup, groups.emplace_back(Corvane::Data::Clips::Groups::Guid()));
+        for (std::size_t i = 0; i < source.groups.size(); ++i)
+            std::ignore = Read({"groups", i}, toGroup, source.groups[i],
+                               groups.emplace_back(Corvane::Data::Clips::Groups::Guid()));
     }
     // A revision alone does not count, yet the destination takes it.
     destination = {guid, isset.revision ? source.revision : 0, std::move(groups)};
     return isset.guid || isset.groups ? Success() : Failure("GetAnglesGroupsCommandReply is empty");
+}
+
+ConversionResult ThriftToGetAnglesGroupsCommandReplyConverter::To(
+    Generated::GetAnglesGroupsCommandReply&& source,
+    HighLevelOperations::Commands::GetAnglesGroupsCommandReply& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -31,11 +31,9 @@ public:
     To(Generated::GetAnglesGroupsCommandReply const& source,
        HighLevelOperations::Commands::GetAnglesGroupsCommandReply& destination) const noexcept override;
 
-    ConversionResult To(Generated::GetAnglesGroupsCommandReply&& source,
-                        HighLevelOperations::Commands::GetAnglesGroupsCommandReply& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+    ConversionResult
+    To(Generated::GetAnglesGroupsCommandReply&& source,
+       HighLevelOperations::Commands::GetAnglesGroupsCommandReply& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -18,4 +18,11 @@ ConversionResult ThriftToGetChannelsCommandParamsConverter::To(
     return Success();
 }
 
+ConversionResult ThriftToGetChannelsCommandParamsConverter::To(
+    Generated::GetChannelsCommandParams&& source,
+    HighLevelOperations::Commands::GetChannelsCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

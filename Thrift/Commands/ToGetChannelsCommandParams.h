@@ -27,10 +27,7 @@ public:
                         HighLevelOperations::Commands::GetChannelsCommandParams& destination) const noexcept override;
 
     ConversionResult To(Generated::GetChannelsCommandParams&& source,
-                        HighLevelOperations::Commands::GetChannelsCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        HighLevelOperations::Commands::GetChannelsCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -4,6 +4,7 @@
 #include "Thrift/Data/Channels/ToPlayerState.h"
 #include "Thrift/Data/Channels/ToRecorderState.h"
 #include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/GetChannelsCommandReply_types.h"
 
@@ -19,9 +20,9 @@ using Corvane::Data::Channels::RecorderState;
 using HighLevelOperations::Commands::GetChannelsCommandReply;
 using ChannelGuid = Corvane::Data::Channels::Guid;
 
-ConversionResult GetChannelsCommandReplyFromThriftConverter::To(
+ConversionResult GetChannelsCommandReplyFromThriftConverter::ToOrThrow(
     Generated::GetChannelsCommandReply const& source,
-    HighLevelOperations::Commands::GetChannelsCommandReply& destination) const noexcept
+    HighLevelOperations::Commands::GetChannelsCommandReply& destination) const
 {
     Data::Channels::ThriftToPlayerStateConverter const toPlayer;
     Data::Channels::ThriftToRecorderStateConverter const toRecorder;
@@ -32,17 +33,31 @@ ConversionResult GetChannelsCommandReplyFromThriftConverter::To(
     for (auto const& [wireChannel, wirePlayer] : source.players)
     {
         PlayerState player;
-        std::ignore = toPlayer.To(wirePlayer, player);
+        std::ignore = Read({"players", wireChannel.value}, toPlayer, wirePlayer, player);
         reply.players.insert_or_assign(ReadGuidAs<ChannelGuid>(wireChannel), player);
     }
     for (auto const& [wireChannel, wireRecorder] : source.recorders)
     {
         RecorderState recorder;
-        std::ignore = toRecorder.To(wireRecorder, recorder);
+        std::ignore = Read({"recorders", wireChannel.value}, toRecorder, wireRecorder, recorder);
         reply.recorders.insert_or_assign(ReadGuidAs<ChannelGuid>(wireChannel), recorder);
     }
     destination = std::move(reply);
     return Success();
+}
+
+ConversionResult GetChannelsCommandReplyFromThriftConverter::To(
+    Generated::GetChannelsCommandReply const& source,
+    HighLevelOperations::Commands::GetChannelsCommandReply& destination) const noexcept
+{
+    return ToOrTerminate(*this, source, destination);
+}
+
+ConversionResult GetChannelsCommandReplyFromThriftConverter::To(
+    Generated::GetChannelsCommandReply&& source,
+    HighLevelOperations::Commands::GetChannelsCommandReply& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -26,14 +26,15 @@ class GetChannelsCommandReplyFromThriftConverter
 public:
     ~GetChannelsCommandReplyFromThriftConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::GetChannelsCommandReply const& source,
+                               HighLevelOperations::Commands::GetChannelsCommandReply& destination) const;
+
     ConversionResult To(Generated::GetChannelsCommandReply const& source,
                         HighLevelOperations::Commands::GetChannelsCommandReply& destination) const noexcept override;
 
     ConversionResult To(Generated::GetChannelsCommandReply&& source,
-                        HighLevelOperations::Commands::GetChannelsCommandReply& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        HighLevelOperations::Commands::GetChannelsCommandReply& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -18,4 +18,11 @@ ConversionResult ThriftToGetClipsCommandParamsConverter::To(
     return Success();
 }
 
+ConversionResult ThriftToGetClipsCommandParamsConverter::To(
+    Generated::GetClipsCommandParams&& source,
+    HighLevelOperations::Commands::GetClipsCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -27,10 +27,7 @@ public:
                         HighLevelOperations::Commands::GetClipsCommandParams& destination) const noexcept override;
 
     ConversionResult To(Generated::GetClipsCommandParams&& source,
-                        HighLevelOperations::Commands::GetClipsCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        HighLevelOperations::Commands::GetClipsCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -28,14 +28,15 @@ class ThriftToGetClipsCommandReplyConverter
 public:
     ~ThriftToGetClipsCommandReplyConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::GetClipsCommandReply const& source,
+                               HighLevelOperations::Commands::GetClipsCommandReply& destination) const;
+
     ConversionResult To(Generated::GetClipsCommandReply const& source,
                         HighLevelOperations::Commands::GetClipsCommandReply& destination) const noexcept override;
 
     ConversionResult To(Generated::GetClipsCommandReply&& source,
-                        HighLevelOperations::Commands::GetClipsCommandReply& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        HighLevelOperations::Commands::GetClipsCommandReply& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -2,10 +2,13 @@
 
 #include "Domain/HighLevelOperations/Commands/GetMultiviewerDataCommandParams.h"
 #include "Thrift/Data/ToGuid.h"
+#include "Thrift/Detail/Reading.h"
 #include "generated/GetMultiviewerDataCommandParams_types.h"
 
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
 {
+
+using namespace Detail;
 
 ConversionResult ThriftToGetMultiviewerDataCommandParamsConverter::To(
     Generated::GetMultiviewerDataCommandParams const& source,
@@ -13,7 +16,14 @@ ConversionResult ThriftToGetMultiviewerDataCommandParamsConverter::To(
 {
     static Data::ThriftToGuidConverter const guidConverter;
 
-    return guidConverter.To(source.commandGuid, destination.commandGuid);
+    return Read("commandGuid", guidConverter, source.commandGuid, destination.commandGuid);
+}
+
+ConversionResult ThriftToGetMultiviewerDataCommandParamsConverter::To(
+    Generated::GetMultiviewerDataCommandParams&& source,
+    HighLevelOperations::Commands::GetMultiviewerDataCommandParams& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

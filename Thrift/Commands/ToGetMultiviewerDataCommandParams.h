@@ -30,10 +30,7 @@ public:
 
     ConversionResult
     To(Generated::GetMultiviewerDataCommandParams&& source,
-       HighLevelOperations::Commands::GetMultiviewerDataCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+       HighLevelOperations::Commands::GetMultiviewerDataCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

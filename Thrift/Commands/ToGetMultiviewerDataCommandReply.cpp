@@ -4,6 +4,7 @@
 #include "Thrift/Data/ToGuid.h"
 #include "Thrift/Data/ToOperationStatus.h"
 #include "Thrift/Data/ToPlayerDataOverrides.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/GetMultiviewerDataCommandReply_types.h"
 
@@ -24,22 +25,34 @@ ConversionResult ThriftToGetMultiviewerDataCommandReplyConverter::To(
     static Data::ToPlayerDataOverrides const toPlayerDataOverrides;
 
     GetMultiviewerDataCommandReply reply;
-    if (auto const result = toGuid.To(source.guid, reply.commandGuid); !result.success) return Nested(result);
-    if (auto const result = toOperationStatus.To(source.status, reply.operationStatus); !result.success)
+    if (auto const result = Read("guid", toGuid, source.guid, reply.commandGuid); !result.success)
+        return Nested(result);
+    if (auto const result = Read("status", toOperationStatus, source.status, reply.operationStatus); !result.success)
         return Nested(result);
     // Stored before the entries are read: one that fails leaves the destination with the new status alone.
     destination.operationStatus = reply.operationStatus;
     for (auto const& [wireChannel, wireOverrides] : source.playersDataOverrides)
     {
         Corvane::Data::Channels::Guid channel;
-        if (auto const result = toGuid.To(wireChannel, channel); !result.success) return Nested(result);
+        if (auto const result = Read({"playersDataOverrides", wireChannel.value}, toGuid, wireChannel, channel);
+            !result.success)
+            return Nested(result);
         Multiviewer::PlayerDataOverrides overrides;
-        if (auto const result = toPlayerDataOverrides.To(wireOverrides, overrides); !result.success)
+        if (auto const result =
+                Read({"playersDataOverrides", wireChannel.value}, toPlayerDataOverrides, wireOverrides, overrides);
+            !result.success)
             return Nested(result);
         reply.playersDataOverrides.emplace(channel, std::move(overrides));
     }
     destination = std::move(reply);
     return Success();
+}
+
+ConversionResult ThriftToGetMultiviewerDataCommandReplyConverter::To(
+    Generated::GetMultiviewerDataCommandReply&& source,
+    HighLevelOperations::Commands::GetMultiviewerDataCommandReply& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

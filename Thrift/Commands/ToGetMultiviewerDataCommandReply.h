@@ -33,10 +33,7 @@ public:
 
     ConversionResult
     To(Generated::GetMultiviewerDataCommandReply&& source,
-       HighLevelOperations::Commands::GetMultiviewerDataCommandReply& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+       HighLevelOperations::Commands::GetMultiviewerDataCommandReply& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

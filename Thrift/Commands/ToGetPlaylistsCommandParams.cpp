@@ -39,4 +39,11 @@ ConversionResult ThriftToGetPlaylistsCommandParamsConverter::To(
     return Success();
 }
 
+ConversionResult ThriftToGetPlaylistsCommandParamsConverter::To(
+    Generated::GetPlaylistsCommandParams&& source,
+    HighLevelOperations::Commands::GetPlaylistsCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -28,10 +28,7 @@ public:
                         HighLevelOperations::Commands::GetPlaylistsCommandParams& destination) const noexcept override;
 
     ConversionResult To(Generated::GetPlaylistsCommandParams&& source,
-                        HighLevelOperations::Commands::GetPlaylistsCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        HighLevelOperations::Commands::GetPlaylistsCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -4,6 +4,7 @@
 #include "Thrift/Data/Sequences/ToPlaylist.h"
 #include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Lists.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/GetPlaylistsCommandReply_types.h"
 
@@ -15,9 +16,9 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
 
 using namespace Detail;
 
-ConversionResult ThriftToGetPlaylistsCommandReplyConverter::To(
+ConversionResult ThriftToGetPlaylistsCommandReplyConverter::ToOrThrow(
     Generated::GetPlaylistsCommandReply const& source,
-    HighLevelOperations::Commands::GetPlaylistsCommandReply& destination) const noexcept
+    HighLevelOperations::Commands::GetPlaylistsCommandReply& destination) const
 {
     Data::Sequences::ThriftToPlaylistConverter const toPlaylist;
     auto const& isset = source.__isset;
@@ -26,12 +27,26 @@ ConversionResult ThriftToGetPlaylistsCommandReplyConverter::To(
     std::vector<Corvane::Data::Sequences::Playlist> playlists;
     if (isset.playlists)
     {
-        if (auto const result = AppendEach(toPlaylist, source.playlists, playlists); !result.success)
+        if (auto const result = AppendEach("playlists", toPlaylist, source.playlists, playlists); !result.success)
             return Nested(result);
     }
     // Here the revision counts, and a missing one is -1.
     destination = {guid, isset.revision ? source.revision : -1, std::move(playlists)};
     return isset.guid || isset.revision || isset.playlists ? Success() : Failure("GetPlaylistsCommandReply is empty");
+}
+
+ConversionResult ThriftToGetPlaylistsCommandReplyConverter::To(
+    Generated::GetPlaylistsCommandReply const& source,
+    HighLevelOperations::Commands::GetPlaylistsCommandReply& destination) const noexcept
+{
+    return ToOrTerminate(*this, source, destination);
+}
+
+ConversionResult ThriftToGetPlaylistsCommandReplyConverter::To(
+    Generated::GetPlaylistsCommandReply&& source,
+    HighLevelOperations::Commands::GetPlaylistsCommandReply& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -29,14 +29,15 @@ class ThriftToGetPlaylistsCommandReplyConverter
 public:
     ~ThriftToGetPlaylistsCommandReplyConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::GetPlaylistsCommandReply const& source,
+                               HighLevelOperations::Commands::GetPlaylistsCommandReply& destination) const;
+
     ConversionResult To(Generated::GetPlaylistsCommandReply const& source,
                         HighLevelOperations::Commands::GetPlaylistsCommandReply& destination) const noexcept override;
 
     ConversionResult To(Generated::GetPlaylistsCommandReply&& source,
-                        HighLevelOperations::Commands::GetPlaylistsCommandReply& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        HighLevelOperations::Commands::GetPlaylistsCommandReply& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -38,4 +38,11 @@ ConversionResult ThriftToGetServersCommandParamsConverter::To(
     return Success();
 }
 
+ConversionResult ThriftToGetServersCommandParamsConverter::To(
+    Generated::GetServersCommandParams&& source,
+    HighLevelOperations::Commands::GetServersCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

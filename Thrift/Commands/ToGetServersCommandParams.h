@@ -28,10 +28,7 @@ public:
                         HighLevelOperations::Commands::GetServersCommandParams& destination) const noexcept override;
 
     ConversionResult To(Generated::GetServersCommandParams&& source,
-                        HighLevelOperations::Commands::GetServersCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        HighLevelOperations::Commands::GetServersCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -25,11 +25,19 @@ ConversionResult ThriftToGetServersCommandReplyConverter::To(
     std::vector<Corvane::Data::Servers::ServerInfo> servers;
     if (isset.servers)
     {
-        if (auto const result = AppendEach(toServer, source.servers, servers); !result.success) return Nested(result);
+        if (auto const result = AppendEach("servers", toServer, source.servers, servers); !result.success)
+            return Nested(result);
     }
     destination.commandGuid = isset.guid ? ReadGuidAs<Corvane::Data::Guid>(source.guid) : Corvane::Data::Guid::Empty();
     destination.servers = std::move(servers);
     return isset.guid || isset.servers ? Success() : Failure("GetServersCommandReply is empty");
+}
+
+ConversionResult ThriftToGetServersCommandReplyConverter::To(
+    Generated::GetServersCommandReply&& source,
+    HighLevelOperations::Commands::GetServersCommandReply& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -30,10 +30,7 @@ public:
                         HighLevelOperations::Commands::GetServersCommandReply& destination) const noexcept override;
 
     ConversionResult To(Generated::GetServersCommandReply&& source,
-                        HighLevelOperations::Commands::GetServersCommandReply& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        HighLevelOperations::Commands::GetServersCommandReply& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

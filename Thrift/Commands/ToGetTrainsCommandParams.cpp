@@ -18,4 +18,11 @@ ConversionResult ThriftToGetTrainsCommandParamsConverter::To(
     return Success();
 }
 
+ConversionResult ThriftToGetTrainsCommandParamsConverter::To(
+    Generated::GetTrainsCommandParams&& source,
+    HighLevelOperations::Commands::GetTrainsCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

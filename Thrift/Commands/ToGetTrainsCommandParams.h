@@ -27,10 +27,7 @@ public:
                         HighLevelOperations::Commands::GetTrainsCommandParams& destination) const noexcept override;
 
     ConversionResult To(Generated::GetTrainsCommandParams&& source,
-                        HighLevelOperations::Commands::GetTrainsCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        HighLevelOperations::Commands::GetTrainsCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

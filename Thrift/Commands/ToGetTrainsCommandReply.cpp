@@ -3,9 +3,11 @@
 #include "Domain/HighLevelOperations/Commands/GetTrainsCommandReply.h"
 #include "Thrift/Data/Clips/ToTrain.h"
 #include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/GetTrainsCommandReply_types.h"
 
+#include <cstddef>
 #include <tuple>
 #include <vector>
 
@@ -16,9 +18,9 @@ using namespace Detail;
 using Corvane::Data::Clips::RecordingRange;
 using TimePoints::TimeCode;
 
-ConversionResult ThriftToGetTrainsCommandReplyConverter::To(
+ConversionResult ThriftToGetTrainsCommandReplyConverter::ToOrThrow(
     Generated::GetTrainsCommandReply const& source,
-    HighLevelOperations::Commands::GetTrainsCommandReply& destination) const noexcept
+    HighLevelOperations::Commands::GetTrainsCommandReply& destination) const
 {
     Data::Clips::ThriftToTrainConverter const toTrain;
     auto const& isset = source.__isset;
@@ -29,13 +31,27 @@ ConversionResult ThriftToGetTrainsCommandReplyConverter::To(
     if (isset.trains)
     {
         destination.trains.reserve(source.trains.size());
-        for (auto const& wireTrain : source.trains)
+        for (std::size_t i = 0; i < source.trains.size(); ++i)
         {
             destination.trains.emplace_back(nullptr, std::vector<RecordingRange>(), false, false, TimeCode());
-            std::ignore = toTrain.To(wireTrain, destination.trains.back());
+            std::ignore = Read({"trains", i}, toTrain, source.trains[i], destination.trains.back());
         }
     }
     return isset.guid || isset.trains ? Success() : Failure("GetTrainsCommandReply is empty");
+}
+
+ConversionResult ThriftToGetTrainsCommandReplyConverter::To(
+    Generated::GetTrainsCommandReply const& source,
+    HighLevelOperations::Commands::GetTrainsCommandReply& destination) const noexcept
+{
+    return ToOrTerminate(*this, source, destination);
+}
+
+ConversionResult ThriftToGetTrainsCommandReplyConverter::To(
+    Generated::GetTrainsCommandReply&& source,
+    HighLevelOperations::Commands::GetTrainsCommandReply& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -29,14 +29,15 @@ class ThriftToGetTrainsCommandReplyConverter
 public:
     ~ThriftToGetTrainsCommandReplyConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::GetTrainsCommandReply const& source,
+                               HighLevelOperations::Commands::GetTrainsCommandReply& destination) const;
+
     ConversionResult To(Generated::GetTrainsCommandReply const& source,
                         HighLevelOperations::Commands::GetTrainsCommandReply& destination) const noexcept override;
 
     ConversionResult To(Generated::GetTrainsCommandReply&& source,
-                        HighLevelOperations::Commands::GetTrainsCommandReply& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        HighLevelOperations::Commands::GetTrainsCommandReply& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

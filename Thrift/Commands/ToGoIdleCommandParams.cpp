@@ -21,4 +21,11 @@ ThriftToGoIdleCommandParamsConverter::To(Generated::GoIdleCommandParams const& s
     return Success();
 }
 
+ConversionResult
+ThriftToGoIdleCommandParamsConverter::To(Generated::GoIdleCommandParams&& source,
+                                         HighLevelOperations::Commands::GoIdleCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

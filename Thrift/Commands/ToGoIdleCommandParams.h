@@ -29,10 +29,7 @@ public:
                         HighLevelOperations::Commands::GoIdleCommandParams& destination) const noexcept override;
 
     ConversionResult To(Generated::GoIdleCommandParams&& source,
-                        HighLevelOperations::Commands::GoIdleCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        HighLevelOperations::Commands::GoIdleCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -25,4 +25,11 @@ ThriftToLiveCommandParamsConverter::To(Generated::LiveCommandParams const& sourc
     return Success();
 }
 
+ConversionResult
+ThriftToLiveCommandParamsConverter::To(Generated::LiveCommandParams&& source,
+                                       HighLevelOperations::Commands::LiveCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -31,10 +31,7 @@ public:
                         HighLevelOperations::Commands::LiveCommandParams& destination) const noexcept override;
 
     ConversionResult To(Generated::LiveCommandParams&& source,
-                        HighLevelOperations::Commands::LiveCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        HighLevelOperations::Commands::LiveCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -36,4 +36,11 @@ ConversionResult ThriftToLoadClipsCommandParamsConverter::To(
     return Success();
 }
 
+ConversionResult ThriftToLoadClipsCommandParamsConverter::To(
+    Generated::LoadClipsCommandParams&& source,
+    HighLevelOperations::Commands::LoadClipsCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

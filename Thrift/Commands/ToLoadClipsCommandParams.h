@@ -31,10 +31,7 @@ public:
                         HighLevelOperations::Commands::LoadClipsCommandParams& destination) const noexcept override;
 
     ConversionResult To(Generated::LoadClipsCommandParams&& source,
-                        HighLevelOperations::Commands::LoadClipsCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        HighLevelOperations::Commands::LoadClipsCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

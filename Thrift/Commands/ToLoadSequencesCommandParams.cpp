@@ -35,4 +35,11 @@ ConversionResult ThriftToLoadSequencesCommandParamsConverter::To(
     return Success();
 }
 
+ConversionResult ThriftToLoadSequencesCommandParamsConverter::To(
+    Generated::LoadSequencesCommandParams&& source,
+    HighLevelOperations::Commands::LoadSequencesCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

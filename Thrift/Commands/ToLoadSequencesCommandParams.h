@@ -30,10 +30,7 @@ public:
                         HighLevelOperations::Commands::LoadSequencesCommandParams& destination) const noexcept override;
 
     ConversionResult To(Generated::LoadSequencesCommandParams&& source,
-                        HighLevelOperations::Commands::LoadSequencesCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        HighLevelOperations::Commands::LoadSequencesCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

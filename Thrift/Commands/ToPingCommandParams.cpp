@@ -18,4 +18,11 @@ ThriftToPingCommandParamsConverter::To(Generated::PingCommandParams const& sourc
     return Success();
 }
 
+ConversionResult
+ThriftToPingCommandParamsConverter::To(Generated::PingCommandParams&& source,
+                                       HighLevelOperations::Commands::PingCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

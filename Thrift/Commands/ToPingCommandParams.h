@@ -27,10 +27,7 @@ public:
                         HighLevelOperations::Commands::PingCommandParams& destination) const noexcept override;
 
     ConversionResult To(Generated::PingCommandParams&& source,
-                        HighLevelOperations::Commands::PingCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        HighLevelOperations::Commands::PingCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

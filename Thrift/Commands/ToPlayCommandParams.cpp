@@ -26,4 +26,11 @@ ThriftToPlayCommandParamsConverter::To(Generated::PlayCommandParams const& sourc
     return Success();
 }
 
+ConversionResult
+ThriftToPlayCommandParamsConverter::To(Generated::PlayCommandParams&& source,
+                                       HighLevelOperations::Commands::PlayCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

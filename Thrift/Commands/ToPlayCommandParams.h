@@ -31,10 +31,7 @@ public:
                         HighLevelOperations::Commands::PlayCommandParams& destination) const noexcept override;
 
     ConversionResult To(Generated::PlayCommandParams&& source,
-                        HighLevelOperations::Commands::PlayCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        HighLevelOperations::Commands::PlayCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -3,6 +3,7 @@
 #include "Domain/HighLevelOperations/Commands/PlaylistCommandReply.h"
 #include "Thrift/Commands/ToPlaylistResultsItem.h"
 #include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/PlaylistCommandReply_types.h"
 
@@ -16,9 +17,9 @@ using namespace Detail;
 using Corvane::Data::OperationResult;
 using Corvane::Data::OperationStatus;
 
-ConversionResult ThriftToPlaylistCommandReplyConverter::To(
-    Generated::PlaylistCommandReply const& source,
-    HighLevelOperations::Commands::PlaylistCommandReply& destination) const noexcept
+ConversionResult
+ThriftToPlaylistCommandReplyConverter::ToOrThrow(Generated::PlaylistCommandReply const& source,
+                                                 HighLevelOperations::Commands::PlaylistCommandReply& destination) const
 {
     ThriftToPlaylistResultsItemConverter const toItem;
 
@@ -30,9 +31,23 @@ ConversionResult ThriftToPlaylistCommandReplyConverter::To(
         // An item that fails stays as it starts.
         auto& item = destination.results[i];
         item.OperationStatus({OperationStatus::Status::Failed, OperationResult::DefaultError});
-        std::ignore = toItem.To(source.results[i], item);
+        std::ignore = Read({"results", i}, toItem, source.results[i], item);
     }
     return Success();
+}
+
+ConversionResult ThriftToPlaylistCommandReplyConverter::To(
+    Generated::PlaylistCommandReply const& source,
+    HighLevelOperations::Commands::PlaylistCommandReply& destination) const noexcept
+{
+    return ToOrTerminate(*this, source, destination);
+}
+
+ConversionResult ThriftToPlaylistCommandReplyConverter::To(
+    Generated::PlaylistCommandReply&& source,
+    HighLevelOperations::Commands::PlaylistCommandReply& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -27,14 +27,15 @@ class ThriftToPlaylistCommandReplyConverter
 public:
     ~ThriftToPlaylistCommandReplyConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::PlaylistCommandReply const& source,
+                               HighLevelOperations::Commands::PlaylistCommandReply& destination) const;
+
     ConversionResult To(Generated::PlaylistCommandReply const& source,
                         HighLevelOperations::Commands::PlaylistCommandReply& destination) const noexcept override;
 
     ConversionResult To(Generated::PlaylistCommandReply&& source,
-                        HighLevelOperations::Commands::PlaylistCommandReply& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        HighLevelOperations::Commands::PlaylistCommandReply& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

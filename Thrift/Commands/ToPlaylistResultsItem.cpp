@@ -3,6 +3,7 @@
 #include "Domain/HighLevelOperations/Commands/PlaylistResultsItem.h"
 #include "Thrift/Data/Sequences/ToPlaylist.h"
 #include "Thrift/Data/ToOperationStatus.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "Thrift/Detail/SeenFields.h"
 #include "generated/PlaylistResultsItem_types.h"
@@ -19,8 +20,8 @@ using Corvane::Data::OperationResult;
 using Corvane::Data::OperationStatus;
 
 ConversionResult
-ThriftToPlaylistResultsItemConverter::To(Generated::PlaylistResultsItem const& source,
-                                         HighLevelOperations::Commands::PlaylistResultsItem& destination) const noexcept
+ThriftToPlaylistResultsItemConverter::ToOrThrow(Generated::PlaylistResultsItem const& source,
+                                                HighLevelOperations::Commands::PlaylistResultsItem& destination) const
 {
     Data::ThriftToOperationStatusConverter const toStatus;
     Data::Sequences::ThriftToPlaylistConverter const toPlaylist;
@@ -30,17 +31,31 @@ ThriftToPlaylistResultsItemConverter::To(Generated::PlaylistResultsItem const& s
     if (seen(isset.operationStatus))
     {
         OperationStatus status{OperationStatus::Status::Failed, OperationResult::DefaultError};
-        std::ignore = toStatus.To(source.operationStatus, status);
+        std::ignore = Read("operationStatus", toStatus, source.operationStatus, status);
         destination.OperationStatus(status); // destroys the held playlist unless it succeeded
     }
     if (seen(isset.playlist))
     {
         // Kept whatever the status is, unlike the clip of a clip's item. What the playlist reports is not looked at.
         auto playlist = std::make_unique<Corvane::Data::Sequences::Playlist>();
-        std::ignore = toPlaylist.To(source.playlist, *playlist);
+        std::ignore = Read("playlist", toPlaylist, source.playlist, *playlist);
         destination.playlist = std::move(playlist);
     }
     return seen.None() ? Failure("PlaylistResultsItem is empty") : Success();
+}
+
+ConversionResult
+ThriftToPlaylistResultsItemConverter::To(Generated::PlaylistResultsItem const& source,
+                                         HighLevelOperations::Commands::PlaylistResultsItem& destination) const noexcept
+{
+    return ToOrTerminate(*this, source, destination);
+}
+
+ConversionResult
+ThriftToPlaylistResultsItemConverter::To(Generated::PlaylistResultsItem&& source,
+                                         HighLevelOperations::Commands::PlaylistResultsItem& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -29,14 +29,15 @@ class ThriftToPlaylistResultsItemConverter
 public:
     ~ThriftToPlaylistResultsItemConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::PlaylistResultsItem const& source,
+                               HighLevelOperations::Commands::PlaylistResultsItem& destination) const;
+
     ConversionResult To(Generated::PlaylistResultsItem const& source,
                         HighLevelOperations::Commands::PlaylistResultsItem& destination) const noexcept override;
 
     ConversionResult To(Generated::PlaylistResultsItem&& source,
-                        HighLevelOperations::Commands::PlaylistResultsItem& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        HighLevelOperations::Commands::PlaylistResultsItem& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

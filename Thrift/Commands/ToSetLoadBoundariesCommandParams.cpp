@@ -34,4 +34,11 @@ ConversionResult ThriftToSetLoadBoundariesCommandParamsConverter::To(
     return Success();
 }
 
+ConversionResult ThriftToSetLoadBoundariesCommandParamsConverter::To(
+    Generated::SetLoadBoundariesCommandParams&& source,
+    HighLevelOperations::Commands::SetLoadBoundariesCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -34,10 +34,7 @@ public:
 
     ConversionResult
     To(Generated::SetLoadBoundariesCommandParams&& source,
-       HighLevelOperations::Commands::SetLoadBoundariesCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+       HighLevelOperations::Commands::SetLoadBoundariesCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

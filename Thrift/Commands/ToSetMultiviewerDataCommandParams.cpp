@@ -3,6 +3,7 @@
 #include "Domain/HighLevelOperations/Commands/SetMultiviewerDataCommandParams.h"
 #include "Thrift/Data/ToGuid.h"
 #include "Thrift/Data/ToPlayerDataOverrides.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/SetMultiViewerDataCommandParams_types.h"
 
@@ -26,14 +27,25 @@ ConversionResult ThriftToSetMultiviewerDataCommandParamsConverter::To(
     for (auto const& [wireChannel, wireOverrides] : source.playersDataOverrides)
     {
         Corvane::Data::Channels::Guid channel;
-        if (auto const result = guidConverter.To(wireChannel, channel); !result.success) return Nested(result);
+        if (auto const result = Read({"playersDataOverrides", wireChannel.value}, guidConverter, wireChannel, channel);
+            !result.success)
+            return Nested(result);
         Multiviewer::PlayerDataOverrides overrides;
-        if (auto const result = toPlayerDataOverrides.To(wireOverrides, overrides); !result.success)
+        if (auto const result =
+                Read({"playersDataOverrides", wireChannel.value}, toPlayerDataOverrides, wireOverrides, overrides);
+            !result.success)
             return Nested(result);
         params.playersDataOverrides.emplace(channel, std::move(overrides));
     }
     destination = std::move(params);
     return Success();
+}
+
+ConversionResult ThriftToSetMultiviewerDataCommandParamsConverter::To(
+    Generated::SetMultiviewerDataCommandParams&& source,
+    HighLevelOperations::Commands::SetMultiviewerDataCommandParams& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

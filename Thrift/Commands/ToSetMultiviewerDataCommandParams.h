@@ -35,10 +35,7 @@ public:
 
     ConversionResult
     To(Generated::SetMultiviewerDataCommandParams&& source,
-       HighLevelOperations::Commands::SetMultiviewerDataCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+       HighLevelOperations::Commands::SetMultiviewerDataCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -20,4 +20,11 @@ ConversionResult ThriftToStartRecordingCommandParamsConverter::To(
     return Success();
 }
 
+ConversionResult ThriftToStartRecordingCommandParamsConverter::To(
+    Generated::StartRecordingCommandParams&& source,
+    HighLevelOperations::Commands::StartCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -29,10 +29,7 @@ public:
                         HighLevelOperations::Commands::StartCommandParams& destination) const noexcept override;
 
     ConversionResult To(Generated::StartRecordingCommandParams&& source,
-                        HighLevelOperations::Commands::StartCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        HighLevelOperations::Commands::StartCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -21,4 +21,11 @@ ThriftToStepCommandParamsConverter::To(Generated::StepCommandParams const& sourc
     return Success();
 }
 
+ConversionResult
+ThriftToStepCommandParamsConverter::To(Generated::StepCommandParams&& source,
+                                       HighLevelOperations::Commands::StepCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

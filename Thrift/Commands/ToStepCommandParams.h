@@ -29,10 +29,7 @@ public:
                         HighLevelOperations::Commands::StepCommandParams& destination) const noexcept override;
 
     ConversionResult To(Generated::StepCommandParams&& source,
-                        HighLevelOperations::Commands::StepCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        HighLevelOperations::Commands::StepCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -20,4 +20,11 @@ ConversionResult ThriftToStopRecordingCommandParamsConverter::To(
     return Success();
 }
 
+ConversionResult ThriftToStopRecordingCommandParamsConverter::To(
+    Generated::StopRecordingCommandParams&& source,
+    HighLevelOperations::Commands::StopCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

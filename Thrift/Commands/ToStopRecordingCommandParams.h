@@ -29,10 +29,7 @@ public:
                         HighLevelOperations::Commands::StopCommandParams& destination) const noexcept override;
 
     ConversionResult To(Generated::StopRecordingCommandParams&& source,
-                        HighLevelOperations::Commands::StopCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        HighLevelOperations::Commands::StopCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

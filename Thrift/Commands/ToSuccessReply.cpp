@@ -20,4 +20,11 @@ ThriftToSuccessReplyConverter::To(Generated::SuccessReply const& source,
     return Success();
 }
 
+ConversionResult
+ThriftToSuccessReplyConverter::To(Generated::SuccessReply&& source,
+                                  HighLevelOperations::Commands::SuccessReply& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -28,10 +28,7 @@ public:
                         HighLevelOperations::Commands::SuccessReply& destination) const noexcept override;
 
     ConversionResult To(Generated::SuccessReply&& source,
-                        HighLevelOperations::Commands::SuccessReply& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        HighLevelOperations::Commands::SuccessReply& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -4,6 +4,7 @@
 #include "Thrift/Data/Channels/ToLoadBoundary.h"
 #include "Thrift/Detail/ByChannel.h"
 #include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/SyncCommandParams_types.h"
 
@@ -25,9 +26,18 @@ ThriftToSyncCommandParamsConverter::To(Generated::SyncCommandParams const& sourc
     if (isset.sourcePlayer) ReadGuid(source.sourcePlayer, destination.sourcePlayer);
     ReadChannels(source.__isset.players, source.players, destination.players);
     // A boundary that is refused leaves the destination's as it was.
-    if (isset.inBoundary) std::ignore = loadBoundaryConverter.To(source.inBoundary, destination.inBoundary);
-    if (isset.outBoundary) std::ignore = loadBoundaryConverter.To(source.outBoundary, destination.outBoundary);
+    if (isset.inBoundary)
+        std::ignore = Read("inBoundary", loadBoundaryConverter, source.inBoundary, destination.inBoundary);
+    if (isset.outBoundary)
+        std::ignore = Read("outBoundary", loadBoundaryConverter, source.outBoundary, destination.outBoundary);
     return Success();
+}
+
+ConversionResult
+ThriftToSyncCommandParamsConverter::To(Generated::SyncCommandParams&& source,
+                                       HighLevelOperations::Commands::SyncCommandParams& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -30,10 +30,7 @@ public:
                         HighLevelOperations::Commands::SyncCommandParams& destination) const noexcept override;
 
     ConversionResult To(Generated::SyncCommandParams&& source,
-                        HighLevelOperations::Commands::SyncCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        HighLevelOperations::Commands::SyncCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -18,4 +18,11 @@ ThriftToUnknownCommandReplyConverter::To(Generated::UnknownCommandReply const& s
     return Success();
 }
 
+ConversionResult
+ThriftToUnknownCommandReplyConverter::To(Generated::UnknownCommandReply&& source,
+                                         HighLevelOperations::Commands::UnknownCommandReply& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -27,10 +27,7 @@ public:
                         HighLevelOperations::Commands::UnknownCommandReply& destination) const noexcept override;
 
     ConversionResult To(Generated::UnknownCommandReply&& source,
-                        HighLevelOperations::Commands::UnknownCommandReply& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        HighLevelOperations::Commands::UnknownCommandReply& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

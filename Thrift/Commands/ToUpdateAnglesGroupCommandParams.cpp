@@ -23,4 +23,11 @@ ConversionResult ThriftToUpdateAnglesGroupCommandParamsConverter::To(
     return Success();
 }
 
+ConversionResult ThriftToUpdateAnglesGroupCommandParamsConverter::To(
+    Generated::UpdateAnglesGroupCommandParams&& source,
+    HighLevelOperations::Commands::UpdateAnglesGroupCommandParams& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -30,10 +30,7 @@ public:
 
     ConversionResult
     To(Generated::UpdateAnglesGroupCommandParams&& source,
-       HighLevelOperations::Commands::UpdateAnglesGroupCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+       HighLevelOperations::Commands::UpdateAnglesGroupCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -4,9 +4,11 @@
 #include "Thrift/Data/Clips/ToClip.h"
 #include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Lists.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/UpdateClipsCommandParams_types.h"
 
+#include <cstddef>
 #include <tuple>
 
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
@@ -14,9 +16,9 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
 
 using namespace Detail;
 
-ConversionResult ThriftToUpdateClipsCommandParamsConverter::To(
+ConversionResult ThriftToUpdateClipsCommandParamsConverter::ToOrThrow(
     Generated::UpdateClipsCommandParams const& source,
-    HighLevelOperations::Commands::UpdateClipsCommandParams& destination) const noexcept
+    HighLevelOperations::Commands::UpdateClipsCommandParams& destination) const
 {
     static Data::Clips::ThriftToClipConverter const clipConverter;
 
@@ -25,15 +27,30 @@ ConversionResult ThriftToUpdateClipsCommandParamsConverter::To(
     if (source.__isset.clips)
     {
         ReserveMore(destination.clips, source.clips.size());
-        for (auto const& wireParams : source.clips)
+        for (std::size_t i = 0; i < source.clips.size(); ++i)
         {
-            // The flags inside are not read, and what the clips report is not looked at.
+            // The flags inside are not read, and the clips' results are dropped.
+            auto const& wireParams = source.clips[i];
             auto& params = destination.clips.emplace_back();
-            std::ignore = clipConverter.To(wireParams.oldClip, params.oldClip);
-            std::ignore = clipConverter.To(wireParams.newClip, params.newClip);
+            std::ignore = Read({"clips", i, "oldClip"}, clipConverter, wireParams.oldClip, params.oldClip);
+            std::ignore = Read({"clips", i, "newClip"}, clipConverter, wireParams.newClip, params.newClip);
         }
     }
     return Success();
+}
+
+ConversionResult ThriftToUpdateClipsCommandParamsConverter::To(
+    Generated::UpdateClipsCommandParams const& source,
+    HighLevelOperations::Commands::UpdateClipsCommandParams& destination) const noexcept
+{
+    return ToOrTerminate(*this, source, destination);
+}
+
+ConversionResult ThriftToUpdateClipsCommandParamsConverter::To(
+    Generated::UpdateClipsCommandParams&& source,
+    HighLevelOperations::Commands::UpdateClipsCommandParams& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -28,14 +28,15 @@ class ThriftToUpdateClipsCommandParamsConverter
 public:
     ~ThriftToUpdateClipsCommandParamsConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::UpdateClipsCommandParams const& source,
+                               HighLevelOperations::Commands::UpdateClipsCommandParams& destination) const;
+
     ConversionResult To(Generated::UpdateClipsCommandParams const& source,
                         HighLevelOperations::Commands::UpdateClipsCommandParams& destination) const noexcept override;
 
     ConversionResult To(Generated::UpdateClipsCommandParams&& source,
-                        HighLevelOperations::Commands::UpdateClipsCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        HighLevelOperations::Commands::UpdateClipsCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -4,9 +4,11 @@
 #include "Thrift/Data/Sequences/ToPlaylist.h"
 #include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Lists.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/UpdatePlaylistsCommandParams_types.h"
 
+#include <cstddef>
 #include <tuple>
 
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
@@ -14,9 +16,9 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
 
 using namespace Detail;
 
-ConversionResult ThriftToUpdatePlaylistsCommandParamsConverter::To(
+ConversionResult ThriftToUpdatePlaylistsCommandParamsConverter::ToOrThrow(
     Generated::UpdatePlaylistsCommandParams const& source,
-    HighLevelOperations::Commands::UpdatePlaylistsCommandParams& destination) const noexcept
+    HighLevelOperations::Commands::UpdatePlaylistsCommandParams& destination) const
 {
     static Data::Sequences::ThriftToPlaylistConverter const playlistConverter;
 
@@ -25,15 +27,32 @@ ConversionResult ThriftToUpdatePlaylistsCommandParamsConverter::To(
     if (source.__isset.params)
     {
         ReserveMore(destination.params, source.params.size());
-        for (auto const& wireParams : source.params)
+        for (std::size_t i = 0; i < source.params.size(); ++i)
         {
-            // The flags inside are not read, and what the playlists report is not looked at.
+            // The flags inside are not read, and the playlists' results are dropped.
+            auto const& wireParams = source.params[i];
             auto& params = destination.params.emplace_back();
-            std::ignore = playlistConverter.To(wireParams.oldPlaylist, params.oldPlaylist);
-            std::ignore = playlistConverter.To(wireParams.newPlaylist, params.newPlaylist);
+            std::ignore =
+                Read({"params", i, "oldPlaylist"}, playlistConverter, wireParams.oldPlaylist, params.oldPlaylist);
+            std::ignore =
+                Read({"params", i, "newPlaylist"}, playlistConverter, wireParams.newPlaylist, params.newPlaylist);
         }
     }
     return Success();
+}
+
+ConversionResult ThriftToUpdatePlaylistsCommandParamsConverter::To(
+    Generated::UpdatePlaylistsCommandParams const& source,
+    HighLevelOperations::Commands::UpdatePlaylistsCommandParams& destination) const noexcept
+{
+    return ToOrTerminate(*this, source, destination);
+}
+
+ConversionResult ThriftToUpdatePlaylistsCommandParamsConverter::To(
+    Generated::UpdatePlaylistsCommandParams&& source,
+    HighLevelOperations::Commands::UpdatePlaylistsCommandParams& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

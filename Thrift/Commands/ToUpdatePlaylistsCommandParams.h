@@ -29,16 +29,17 @@ class ThriftToUpdatePlaylistsCommandParamsConverter
 public:
     ~ThriftToUpdatePlaylistsCommandParamsConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::UpdatePlaylistsCommandParams const& source,
+                               HighLevelOperations::Commands::UpdatePlaylistsCommandParams& destination) const;
+
     ConversionResult
     To(Generated::UpdatePlaylistsCommandParams const& source,
        HighLevelOperations::Commands::UpdatePlaylistsCommandParams& destination) const noexcept override;
 
     ConversionResult
     To(Generated::UpdatePlaylistsCommandParams&& source,
-       HighLevelOperations::Commands::UpdatePlaylistsCommandParams& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+       HighLevelOperations::Commands::UpdatePlaylistsCommandParams& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands

@@ -29,4 +29,10 @@ ConversionResult GuidToThriftConverter::To(Corvane::Data::Guid const& source,
     return Success();
 }
 
+ConversionResult GuidToThriftConverter::To(Corvane::Data::Guid&& source,
+                                           Corvane::Data::Generated::Guid& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data

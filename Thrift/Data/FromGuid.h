@@ -26,10 +26,7 @@ public:
                         Corvane::Data::Generated::Guid& destination) const noexcept override;
 
     ConversionResult To(Corvane::Data::Guid&& source,
-                        Corvane::Data::Generated::Guid& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Corvane::Data::Generated::Guid& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data

@@ -31,4 +31,11 @@ FromMultiviewerDataOverrides::To(Multiviewer::MultiviewerDataOverrides const& so
     return Success();
 }
 
+ConversionResult
+FromMultiviewerDataOverrides::To(Multiviewer::MultiviewerDataOverrides&& source,
+                                 Corvane::Data::Generated::MultiviewerDataOverrides& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data

@@ -27,10 +27,7 @@ public:
                         Corvane::Data::Generated::MultiviewerDataOverrides& destination) const noexcept override;
 
     ConversionResult To(Multiviewer::MultiviewerDataOverrides&& source,
-                        Corvane::Data::Generated::MultiviewerDataOverrides& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Corvane::Data::Generated::MultiviewerDataOverrides& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data

@@ -25,4 +25,11 @@ OperationStatusToThriftConverter::To(OperationStatus const& source,
     return Success();
 }
 
+ConversionResult
+OperationStatusToThriftConverter::To(OperationStatus&& source,
+                                     Corvane::Data::Generated::OperationStatus& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data

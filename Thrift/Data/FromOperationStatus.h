@@ -29,10 +29,7 @@ public:
                         Corvane::Data::Generated::OperationStatus& destination) const noexcept override;
 
     ConversionResult To(Corvane::Data::OperationStatus&& source,
-                        Corvane::Data::Generated::OperationStatus& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Corvane::Data::Generated::OperationStatus& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data

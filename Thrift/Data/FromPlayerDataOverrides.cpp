@@ -79,4 +79,10 @@ ConversionResult FromPlayerDataOverrides::To(Multiviewer::PlayerDataOverrides co
     return Success();
 }
 
+ConversionResult FromPlayerDataOverrides::To(Multiviewer::PlayerDataOverrides&& source,
+                                             Generated::PlayerDataOverrides& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data

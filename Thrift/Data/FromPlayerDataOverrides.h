@@ -31,10 +31,7 @@ public:
                         Corvane::Data::Generated::PlayerDataOverrides& destination) const noexcept override;
 
     ConversionResult To(Multiviewer::PlayerDataOverrides&& source,
-                        Corvane::Data::Generated::PlayerDataOverrides& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Corvane::Data::Generated::PlayerDataOverrides& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data

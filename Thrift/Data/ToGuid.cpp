@@ -29,4 +29,9 @@ ConversionResult ThriftToGuidConverter::To(Corvane::Data::Generated::Guid const&
     return Success();
 }
 
+ConversionResult ThriftToGuidConverter::To(Corvane::Data::Generated::Guid&& source, Guid& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data

@@ -26,10 +26,7 @@ public:
                         Corvane::Data::Guid& destination) const noexcept override;
 
     ConversionResult To(Corvane::Data::Generated::Guid&& source,
-                        Corvane::Data::Guid& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Corvane::Data::Guid& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data

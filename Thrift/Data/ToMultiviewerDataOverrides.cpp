@@ -2,6 +2,7 @@
 
 #include "Domain/CorvaneData/Multiviewer/MultiviewerDataOverrides.h"
 #include "Thrift/Data/ToPlayerDataOverrides.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/MultiviewerDataOverrides_types.h"
 
@@ -21,10 +22,17 @@ ConversionResult ToMultiviewerDataOverrides::To(Corvane::Data::Generated::Multiv
     if (source.playersData.size() != destination.playerCount) return Failure("Unexpected playerData count");
     for (std::uint32_t i = 0; i < destination.playerCount; ++i)
     {
-        if (auto const result = toPlayer.To(source.playersData[i], destination[i]); !result.success)
+        if (auto const result = Read({"playersData", i}, toPlayer, source.playersData[i], destination[i]);
+            !result.success)
             return Nested(result);
     }
     return Success();
+}
+
+ConversionResult ToMultiviewerDataOverrides::To(Corvane::Data::Generated::MultiviewerDataOverrides&& source,
+                                                Multiviewer::MultiviewerDataOverrides& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data

@@ -29,10 +29,7 @@ public:
                         Multiviewer::MultiviewerDataOverrides& destination) const noexcept override;
 
     ConversionResult To(Corvane::Data::Generated::MultiviewerDataOverrides&& source,
-                        Multiviewer::MultiviewerDataOverrides& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Multiviewer::MultiviewerDataOverrides& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data

@@ -56,4 +56,10 @@ ConversionResult ThriftToOperationStatusConverter::To(Corvane::Data::Generated::
     return Success();
 }
 
+ConversionResult ThriftToOperationStatusConverter::To(Corvane::Data::Generated::OperationStatus&& source,
+                                                      OperationStatus& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data

@@ -37,10 +37,7 @@ public:
                         Corvane::Data::OperationStatus& destination) const noexcept override;
 
     ConversionResult To(Corvane::Data::Generated::OperationStatus&& source,
-                        Corvane::Data::OperationStatus& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Corvane::Data::OperationStatus& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data

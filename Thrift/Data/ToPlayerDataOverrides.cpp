@@ -2,6 +2,7 @@
 
 #include "Domain/CorvaneData/Multiviewer/PlayerDataOverrides.h"
 #include "Thrift/Data/ToGuid.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/PlayerDataOverrides_types.h"
 
@@ -57,7 +58,8 @@ ConversionResult ToPlayerDataOverrides::To(Generated::PlayerDataOverrides const&
     auto const& isset = source.__isset;
 
     Corvane::Data::Channels::Guid playerGuid;
-    if (auto const result = toGuid.To(source.playerGuid, playerGuid); !result.success) return Nested(result);
+    if (auto const result = Read("playerGuid", toGuid, source.playerGuid, playerGuid); !result.success)
+        return Nested(result);
 
     destination.PlayerGuid(playerGuid);
     if (isset.clipCreationIn) destination.GetClipCreationBoudaries().TimePointIn({source.clipCreationIn});
@@ -69,6 +71,12 @@ ConversionResult ToPlayerDataOverrides::To(Generated::PlayerDataOverrides const&
     if (isset.isPostRollEnabled) destination.IsPostRollEnabled(source.isPostRollEnabled);
     if (isset.message) destination.Message(source.message);
     return Success();
+}
+
+ConversionResult ToPlayerDataOverrides::To(Generated::PlayerDataOverrides&& source,
+                                           Multiviewer::PlayerDataOverrides& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data

@@ -28,10 +28,7 @@ public:
                         Multiviewer::PlayerDataOverrides& destination) const noexcept override;
 
     ConversionResult To(Corvane::Data::Generated::PlayerDataOverrides&& source,
-                        Multiviewer::PlayerDataOverrides& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Multiviewer::PlayerDataOverrides& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data

@@ -4,6 +4,7 @@
 #include "Domain/CorvaneData/Notification/ClipCommandEventArgs.h"
 #include "Thrift/Data/Clips/FromClip.h"
 #include "Thrift/Data/Clips/ToClip.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "Thrift/Notifier/FromClipCommandEventArgs.h"
 #include "Thrift/Notifier/ToClipCommandEventArgs.h"
@@ -22,47 +23,46 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Detail
 // leaves the event with the placeholders and everything else filled in. The database revision is read whether set or
 // not.
 
-/// Converts the nested records of an event one after the other. The first that fails ends it: those behind it are not
-/// converted, and `Result()` is its failure.
+/// Converts the nested records of an event one after the other. The first that fails ends it: those after it are not
+/// converted, and `Result()` is its failure. Each conversion says whether it succeeded.
 class NestedRecords
 {
 public:
-    /// Out, the clip command block. True if it was converted.
-    bool operator()(Notification::ClipCommandEventArgs const& source,
-                    Notifier::Generated::ClipCommandEventArgs& destination)
+    /// The event's base, its clip command block, to the wire.
+    bool SendCommand(Notification::ClipCommandEventArgs const& source,
+                     Notifier::Generated::ClipCommandEventArgs& destination)
     {
-        return Converted(Notifier::ClipCommandEventArgsToThriftConverter(), source, destination);
+        if (result_.success) result_ = Notifier::ClipCommandEventArgsToThriftConverter().To(source, destination);
+        return result_.success;
     }
 
-    /// Out, a clip.
-    bool operator()(Corvane::Data::Clips::Clip const& source, Data::Clips::Generated::Clip& destination)
+    /// A clip to the wire.
+    bool SendClip(Corvane::Data::Clips::Clip const& source, Data::Clips::Generated::Clip& destination)
     {
-        return Converted(Data::Clips::ClipToThriftConverter(), source, destination);
+        if (result_.success) result_ = Data::Clips::ClipToThriftConverter().To(source, destination);
+        return result_.success;
     }
 
-    /// In, a clip.
-    bool operator()(Data::Clips::Generated::Clip const& source, Corvane::Data::Clips::Clip& destination)
+    /// The clip of a field from the wire.
+    bool ReadClip(char const* const field, Data::Clips::Generated::Clip const& source,
+                  Corvane::Data::Clips::Clip& destination)
     {
-        return Converted(Data::Clips::ThriftToClipConverter(), source, destination);
+        if (result_.success) result_ = Read(field, Data::Clips::ThriftToClipConverter(), source, destination);
+        return result_.success;
     }
 
-    /// In, the clip command block.
-    bool operator()(Notifier::Generated::ClipCommandEventArgs const& source,
-                    Notification::ClipCommandEventArgs& destination)
+    /// The clip command block from the wire, into the event's base.
+    bool ReadCommand(char const* const field, Notifier::Generated::ClipCommandEventArgs const& source,
+                     Notification::ClipCommandEventArgs& destination)
     {
-        return Converted(Notifier::ThriftToClipCommandEventArgsConverter(), source, destination);
+        if (result_.success)
+            result_ = Read(field, Notifier::ThriftToClipCommandEventArgsConverter(), source, destination);
+        return result_.success;
     }
 
     Common::Serialization::ConversionResult Result() const { return result_.success ? Success() : Nested(result_); }
 
 private:
-    template<typename TConverter, typename TSource, typename TDestination>
-    bool Converted(TConverter const& converter, TSource const& source, TDestination& destination)
-    {
-        if (result_.success) result_ = converter.To(source, destination);
-        return result_.success;
-    }
-
     Common::Serialization::ConversionResult result_ = Success();
 };
 

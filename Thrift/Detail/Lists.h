@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 
 #include <algorithm>
@@ -26,16 +27,17 @@ void ReserveFor(std::vector<T>& list, auto const& reply)
     if constexpr (requires { reply.RemainingCount(); }) ReserveMore(list, reply.RemainingCount());
 }
 
-/// Converts every element of `source` into a new one behind those that `destination` holds. The first that fails ends
-/// it with its failure: it is not added, those before it are kept.
+/// Converts every element of `source`, the list `field`, into a new one after those that `destination` holds. The first
+/// that fails ends it with its failure: it is not added, those before it are kept.
 template<typename TConverter, typename TSource, typename TDestination>
-Common::Serialization::ConversionResult AppendEach(TConverter const& converter, std::vector<TSource> const& source,
+Common::Serialization::ConversionResult AppendEach(char const* const field, TConverter const& converter,
+                                                   std::vector<TSource> const& source,
                                                    std::vector<TDestination>& destination)
 {
     ReserveMore(destination, source.size());
-    for (auto const& element : source)
+    for (std::size_t i = 0; i < source.size(); ++i)
     {
-        if (auto const result = converter.To(element, destination.emplace_back()); !result.success)
+        if (auto const result = Read({field, i}, converter, source[i], destination.emplace_back()); !result.success)
         {
             destination.pop_back();
             return Nested(result);
@@ -44,12 +46,14 @@ Common::Serialization::ConversionResult AppendEach(TConverter const& converter, 
     return Success();
 }
 
-/// The same, but what an element reports is not looked at: one that fails is added with what was converted of it.
+/// As AppendEach(), but the results of the elements are dropped: one that fails is added with what was converted of it.
 template<typename TConverter, typename TSource, typename TDestination>
-void AppendAll(TConverter const& converter, std::vector<TSource> const& source, std::vector<TDestination>& destination)
+void AppendAll(char const* const field, TConverter const& converter, std::vector<TSource> const& source,
+               std::vector<TDestination>& destination)
 {
     ReserveMore(destination, source.size());
-    for (auto const& element : source) std::ignore = converter.To(element, destination.emplace_back());
+    for (std::size_t i = 0; i < source.size(); ++i)
+        std::ignore = Read({field, i}, converter, source[i], destination.emplace_back());
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Detail

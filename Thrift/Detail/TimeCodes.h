@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Thrift/Detail/Reading.h"
 #include "TimePoints/TalvoTimeCodeParser.h"
 #include "TimePoints/TimeCode.h"
 #include "TimePoints/TimeCodeText.h"
@@ -15,10 +16,11 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Detail
 using TimePoints::ReadTimeCode;
 using TimePoints::WriteTimeCode;
 
-/// Unguarded in: for a bad text it throws, which ends the process at the end of a conversion.
-inline TimePoints::TimeCode ParseTimeCode(std::string const& text)
+/// Unguarded in: a bad text is a BadValue, which ends the process in `To`.
+inline TimePoints::TimeCode ParseTimeCode(char const* const field, std::string const& text)
 {
-    return TimePoints::TalvoTimeCodeParser().Parse(text);
+    if (auto const timeCode = ReadTimeCode(text)) return *timeCode;
+    return OrBadValue(field, [&] { return TimePoints::TalvoTimeCodeParser().Parse(text); });
 }
 
 /// Guarded in: a bad text is skipped, and the destination keeps its value.

@@ -24,4 +24,11 @@ AnglesGroupCreationEventArgsToThriftConverter::To(Notification::AnglesGroupCreat
     return anglesGroupToThriftConverter.To(source.anglesGroup, destination.anglesGroup);
 }
 
+ConversionResult
+AnglesGroupCreationEventArgsToThriftConverter::To(Notification::AnglesGroupCreationEventArgs&& source,
+                                                  Generated::AnglesGroupCreationEventArgs& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -26,10 +26,7 @@ public:
                         Generated::AnglesGroupCreationEventArgs& destination) const noexcept override;
 
     ConversionResult To(Notification::AnglesGroupCreationEventArgs&& source,
-                        Generated::AnglesGroupCreationEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::AnglesGroupCreationEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

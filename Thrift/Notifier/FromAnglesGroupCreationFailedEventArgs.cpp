@@ -25,4 +25,11 @@ ConversionResult AnglesGroupCreationFailedEventArgsToThriftConverter::To(
     return Success();
 }
 
+ConversionResult AnglesGroupCreationFailedEventArgsToThriftConverter::To(
+    Notification::AnglesGroupCreationFailedEventArgs&& source,
+    Generated::AnglesGroupCreationFailedEventArgs& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

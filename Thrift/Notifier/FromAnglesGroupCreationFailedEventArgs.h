@@ -29,10 +29,7 @@ public:
                         Generated::AnglesGroupCreationFailedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Notification::AnglesGroupCreationFailedEventArgs&& source,
-                        Generated::AnglesGroupCreationFailedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::AnglesGroupCreationFailedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -16,4 +16,11 @@ ConversionResult AnglesGroupCreationFinishedEventArgsToThriftConverter::To(
     return anglesGroupCreationEventArgsToThriftConverter.To(source, destination.creationEventArgs);
 }
 
+ConversionResult AnglesGroupCreationFinishedEventArgsToThriftConverter::To(
+    Notification::AnglesGroupCreationFinishedEventArgs&& source,
+    Generated::AnglesGroupCreationFinishedEventArgs& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -28,10 +28,7 @@ public:
                         Generated::AnglesGroupCreationFinishedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Notification::AnglesGroupCreationFinishedEventArgs&& source,
-                        Generated::AnglesGroupCreationFinishedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::AnglesGroupCreationFinishedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

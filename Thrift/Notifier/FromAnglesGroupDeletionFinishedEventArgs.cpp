@@ -25,4 +25,11 @@ ConversionResult AnglesGroupDeletionFinishedEventArgsToThriftConverter::To(
     return guidToThriftConverter.To(source.anglesGroupId, wireEvent.anglesGroupId);
 }
 
+ConversionResult AnglesGroupDeletionFinishedEventArgsToThriftConverter::To(
+    Notification::AnglesGroupDeletionFinishedEventArgs&& source,
+    Generated::AnglesGroupDeletionFinishedEventArgs& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -28,10 +28,7 @@ public:
                         Generated::AnglesGroupDeletionFinishedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Notification::AnglesGroupDeletionFinishedEventArgs&& source,
-                        Generated::AnglesGroupDeletionFinishedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::AnglesGroupDeletionFinishedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -25,4 +25,11 @@ ConversionResult AnglesGroupUpdateFinishedEventArgsToThriftConverter::To(
     return anglesGroupToThriftConverter.To(source.anglesGroup, wireEvent.anglesGroup);
 }
 
+ConversionResult AnglesGroupUpdateFinishedEventArgsToThriftConverter::To(
+    Notification::AnglesGroupUpdateFinishedEventArgs&& source,
+    Generated::AnglesGroupUpdateFinishedEventArgs& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -27,10 +27,7 @@ public:
                         Generated::AnglesGroupUpdateFinishedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Notification::AnglesGroupUpdateFinishedEventArgs&& source,
-                        Generated::AnglesGroupUpdateFinishedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::AnglesGroupUpdateFinishedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

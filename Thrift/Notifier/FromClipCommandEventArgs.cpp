@@ -49,4 +49,10 @@ ConversionResult ClipCommandEventArgsToThriftConverter::To(Notification::ClipCom
     return Success();
 }
 
+ConversionResult ClipCommandEventArgsToThriftConverter::To(Notification::ClipCommandEventArgs&& source,
+                                                           Generated::ClipCommandEventArgs& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

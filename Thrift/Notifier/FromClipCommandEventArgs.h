@@ -29,10 +29,7 @@ public:
                         Generated::ClipCommandEventArgs& destination) const noexcept override;
 
     ConversionResult To(Notification::ClipCommandEventArgs&& source,
-                        Generated::ClipCommandEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::ClipCommandEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

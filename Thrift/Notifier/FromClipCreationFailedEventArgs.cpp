@@ -20,9 +20,9 @@ ClipCreationFailedEventArgsToThriftConverter::To(Notification::ClipCreationFaile
     NestedRecords nested;
     auto& isset = destination.__isset;
 
-    if (nested(source, destination.clipCommand)) isset.clipCommand = true;
-    if (nested(source.sourceClip, destination.sourceClip)) isset.sourceClip = true;
-    if (nested(source.newClip, destination.newClip)) isset.newClip = true;
+    if (nested.SendCommand(source, destination.clipCommand)) isset.clipCommand = true;
+    if (nested.SendClip(source.sourceClip, destination.sourceClip)) isset.sourceClip = true;
+    if (nested.SendClip(source.newClip, destination.newClip)) isset.newClip = true;
     if (auto result = nested.Result(); !result.success) return result;
     TALVO_FLAGGED(destination, creationType) = Word(source.creationType);
     TALVO_FLAGGED(destination, networkType) = Word(source.networkType);
@@ -31,6 +31,13 @@ ClipCreationFailedEventArgsToThriftConverter::To(Notification::ClipCreationFaile
     TALVO_FLAGGED(destination, result) = Data::OperationResultConverter::To(source.result);
     TALVO_FLAGGED(destination, databaseRevision) = source.databaseRevision;
     return Success();
+}
+
+ConversionResult
+ClipCreationFailedEventArgsToThriftConverter::To(Notification::ClipCreationFailedEventArgs&& source,
+                                                 Generated::ClipCreationFailedEventArgs& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

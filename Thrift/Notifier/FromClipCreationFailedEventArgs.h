@@ -30,10 +30,7 @@ public:
                         Generated::ClipCreationFailedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Notification::ClipCreationFailedEventArgs&& source,
-                        Generated::ClipCreationFailedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::ClipCreationFailedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -28,10 +28,7 @@ public:
                         Generated::ClipCreationFinishedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Notification::ClipCreationFinishedEventArgs&& source,
-                        Generated::ClipCreationFinishedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::ClipCreationFinishedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -19,14 +19,21 @@ ClipCreationStartedEventArgsToThriftConverter::To(Notification::ClipCreationEven
     NestedRecords nested;
     auto& isset = destination.__isset;
 
-    if (nested(source, destination.clipCommand)) isset.clipCommand = true;
-    if (nested(source.sourceClip, destination.sourceClip)) isset.sourceClip = true;
-    if (nested(source.newClip, destination.newClip)) isset.newClip = true;
+    if (nested.SendCommand(source, destination.clipCommand)) isset.clipCommand = true;
+    if (nested.SendClip(source.sourceClip, destination.sourceClip)) isset.sourceClip = true;
+    if (nested.SendClip(source.newClip, destination.newClip)) isset.newClip = true;
     if (auto result = nested.Result(); !result.success) return result;
     TALVO_FLAGGED(destination, creationType) = Word(source.creationType);
     TALVO_FLAGGED(destination, networkType) = Word(source.networkType);
     TALVO_FLAGGED(destination, databaseRevision) = source.databaseRevision;
     return Success();
+}
+
+ConversionResult
+ClipCreationStartedEventArgsToThriftConverter::To(Notification::ClipCreationEventArgs&& source,
+                                                  Generated::ClipCreationStartedEventArgs& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

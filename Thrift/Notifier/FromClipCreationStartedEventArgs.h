@@ -28,10 +28,7 @@ public:
                         Generated::ClipCreationStartedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Notification::ClipCreationEventArgs&& source,
-                        Generated::ClipCreationStartedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::ClipCreationStartedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -19,8 +19,8 @@ ClipDeletionFailedEventArgsToThriftConverter::To(Notification::ClipDeletionFaile
     NestedRecords nested;
     auto& isset = destination.__isset;
 
-    if (nested(source, destination.clipCommand)) isset.clipCommand = true;
-    if (nested(source.removedClip, destination.removedClip)) isset.removedClip = true;
+    if (nested.SendCommand(source, destination.clipCommand)) isset.clipCommand = true;
+    if (nested.SendClip(source.removedClip, destination.removedClip)) isset.removedClip = true;
     if (auto result = nested.Result(); !result.success) return result;
     TALVO_FLAGGED(destination, result) = Data::OperationResultConverter::To(source.result);
     TALVO_FLAGGED(destination, internalResult) = source.internalResult;
@@ -29,6 +29,13 @@ ClipDeletionFailedEventArgsToThriftConverter::To(Notification::ClipDeletionFaile
     TALVO_FLAGGED(destination, forceForPlaylist) = source.forceForPlaylist;
     TALVO_FLAGGED(destination, databaseRevision) = source.databaseRevision;
     return Success();
+}
+
+ConversionResult
+ClipDeletionFailedEventArgsToThriftConverter::To(Notification::ClipDeletionFailedEventArgs&& source,
+                                                 Generated::ClipDeletionFailedEventArgs& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -29,10 +29,7 @@ public:
                         Generated::ClipDeletionFailedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Notification::ClipDeletionFailedEventArgs&& source,
-                        Generated::ClipDeletionFailedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::ClipDeletionFailedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -18,11 +18,18 @@ ClipDeletionFinishedEventArgsToThriftConverter::To(Notification::ClipDeletionFin
     NestedRecords nested;
     auto& isset = destination.__isset;
 
-    if (nested(source, destination.clipCommand)) isset.clipCommand = true;
-    if (nested(source.removedClip, destination.removedClip)) isset.removedClip = true;
+    if (nested.SendCommand(source, destination.clipCommand)) isset.clipCommand = true;
+    if (nested.SendClip(source.removedClip, destination.removedClip)) isset.removedClip = true;
     if (auto result = nested.Result(); !result.success) return result;
     TALVO_FLAGGED(destination, databaseRevision) = source.databaseRevision;
     return Success();
+}
+
+ConversionResult
+ClipDeletionFinishedEventArgsToThriftConverter::To(Notification::ClipDeletionFinishedEventArgs&& source,
+                                                   Generated::ClipDeletionFinishedEventArgs& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

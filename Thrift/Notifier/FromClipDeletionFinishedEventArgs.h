@@ -28,10 +28,7 @@ public:
                         Generated::ClipDeletionFinishedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Notification::ClipDeletionFinishedEventArgs&& source,
-                        Generated::ClipDeletionFinishedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::ClipDeletionFinishedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -19,14 +19,21 @@ ClipMoveFailedEventArgsToThriftConverter::To(Notification::ClipMoveFailedEventAr
     NestedRecords nested;
     auto& isset = destination.__isset;
 
-    if (nested(source, destination.clipCommand)) isset.clipCommand = true;
-    if (nested(source.sourceClip, destination.sourceClip)) isset.sourceClip = true;
-    if (nested(source.destClip, destination.destClip)) isset.destClip = true;
+    if (nested.SendCommand(source, destination.clipCommand)) isset.clipCommand = true;
+    if (nested.SendClip(source.sourceClip, destination.sourceClip)) isset.sourceClip = true;
+    if (nested.SendClip(source.destClip, destination.destClip)) isset.destClip = true;
     if (auto result = nested.Result(); !result.success) return result;
     TALVO_FLAGGED(destination, result) = Data::OperationResultConverter::To(source.result);
     TALVO_FLAGGED(destination, internalResult) = source.internalResult;
     TALVO_FLAGGED(destination, databaseRevision) = source.databaseRevision;
     return Success();
+}
+
+ConversionResult
+ClipMoveFailedEventArgsToThriftConverter::To(Notification::ClipMoveFailedEventArgs&& source,
+                                             Generated::ClipMoveFailedEventArgs& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

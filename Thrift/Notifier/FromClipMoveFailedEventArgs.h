@@ -28,10 +28,7 @@ public:
                         Generated::ClipMoveFailedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Notification::ClipMoveFailedEventArgs&& source,
-                        Generated::ClipMoveFailedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::ClipMoveFailedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -18,12 +18,19 @@ ClipMoveFinishedEventArgsToThriftConverter::To(Notification::ClipMoveFinishedEve
     NestedRecords nested;
     auto& isset = destination.__isset;
 
-    if (nested(source, destination.clipCommand)) isset.clipCommand = true;
-    if (nested(source.sourceClip, destination.sourceClip)) isset.sourceClip = true;
-    if (nested(source.destClip, destination.destClip)) isset.destClip = true;
+    if (nested.SendCommand(source, destination.clipCommand)) isset.clipCommand = true;
+    if (nested.SendClip(source.sourceClip, destination.sourceClip)) isset.sourceClip = true;
+    if (nested.SendClip(source.destClip, destination.destClip)) isset.destClip = true;
     if (auto result = nested.Result(); !result.success) return result;
     TALVO_FLAGGED(destination, databaseRevision) = source.databaseRevision;
     return Success();
+}
+
+ConversionResult
+ClipMoveFinishedEventArgsToThriftConverter::To(Notification::ClipMoveFinishedEventArgs&& source,
+                                               Generated::ClipMoveFinishedEventArgs& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -28,10 +28,7 @@ public:
                         Generated::ClipMoveFinishedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Notification::ClipMoveFinishedEventArgs&& source,
-                        Generated::ClipMoveFinishedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::ClipMoveFinishedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -28,10 +28,7 @@ public:
                         Generated::ClipMoveStartedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Notification::ClipMoveEventArgs&& source,
-                        Generated::ClipMoveStartedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::ClipMoveStartedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -19,14 +19,21 @@ ClipUpdateFailedEventArgsToThriftConverter::To(Notification::ClipUpdateFailedEve
     NestedRecords nested;
     auto& isset = destination.__isset;
 
-    if (nested(source, destination.clipCommand)) isset.clipCommand = true;
-    if (nested(source.oldClip, destination.oldClip)) isset.oldClip = true;
-    if (nested(source.newClip, destination.newClip)) isset.newClip = true;
+    if (nested.SendCommand(source, destination.clipCommand)) isset.clipCommand = true;
+    if (nested.SendClip(source.oldClip, destination.oldClip)) isset.oldClip = true;
+    if (nested.SendClip(source.newClip, destination.newClip)) isset.newClip = true;
     if (auto result = nested.Result(); !result.success) return result;
     TALVO_FLAGGED(destination, result) = Data::OperationResultConverter::To(source.result);
     TALVO_FLAGGED(destination, internalResult) = source.internalResult;
     TALVO_FLAGGED(destination, databaseRevision) = source.databaseRevision;
     return Success();
+}
+
+ConversionResult
+ClipUpdateFailedEventArgsToThriftConverter::To(Notification::ClipUpdateFailedEventArgs&& source,
+                                               Generated::ClipUpdateFailedEventArgs& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

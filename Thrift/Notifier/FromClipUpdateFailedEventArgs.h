@@ -28,10 +28,7 @@ public:
                         Generated::ClipUpdateFailedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Notification::ClipUpdateFailedEventArgs&& source,
-                        Generated::ClipUpdateFailedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::ClipUpdateFailedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -18,13 +18,20 @@ ClipUpdateFinishedEventArgsToThriftConverter::To(Notification::ClipUpdateFinishe
     NestedRecords nested;
     auto& isset = destination.__isset;
 
-    if (nested(source, destination.clipCommand)) isset.clipCommand = true;
-    if (nested(source.oldClip, destination.oldClip)) isset.oldClip = true;
-    if (nested(source.newClip, destination.newClip)) isset.newClip = true;
+    if (nested.SendCommand(source, destination.clipCommand)) isset.clipCommand = true;
+    if (nested.SendClip(source.oldClip, destination.oldClip)) isset.oldClip = true;
+    if (nested.SendClip(source.newClip, destination.newClip)) isset.newClip = true;
     if (auto result = nested.Result(); !result.success) return result;
     TALVO_FLAGGED(destination, endOfGrowingClipCreation) = source.endOfGrowingClipCreation;
     TALVO_FLAGGED(destination, databaseRevision) = source.databaseRevision;
     return Success();
+}
+
+ConversionResult
+ClipUpdateFinishedEventArgsToThriftConverter::To(Notification::ClipUpdateFinishedEventArgs&& source,
+                                                 Generated::ClipUpdateFinishedEventArgs& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

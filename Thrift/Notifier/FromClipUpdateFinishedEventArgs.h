@@ -28,10 +28,7 @@ public:
                         Generated::ClipUpdateFinishedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Notification::ClipUpdateFinishedEventArgs&& source,
-                        Generated::ClipUpdateFinishedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::ClipUpdateFinishedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

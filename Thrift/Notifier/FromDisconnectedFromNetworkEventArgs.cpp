@@ -18,4 +18,11 @@ ConversionResult DisconnectedFromNetworkEventArgsToThriftConverter::To(
     return Success();
 }
 
+ConversionResult DisconnectedFromNetworkEventArgsToThriftConverter::To(
+    Notification::DisconnectedFromNetworkEventArgs&& source,
+    Generated::DisconnectedFromNetworkEventArgs& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -27,10 +27,7 @@ public:
                         Generated::DisconnectedFromNetworkEventArgs& destination) const noexcept override;
 
     ConversionResult To(Notification::DisconnectedFromNetworkEventArgs&& source,
-                        Generated::DisconnectedFromNetworkEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::DisconnectedFromNetworkEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

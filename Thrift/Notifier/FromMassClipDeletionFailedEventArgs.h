@@ -29,10 +29,7 @@ public:
                         Generated::MassClipDeletionFailedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Notification::MassClipDeletionFailedEventArgs&& source,
-                        Generated::MassClipDeletionFailedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::MassClipDeletionFailedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

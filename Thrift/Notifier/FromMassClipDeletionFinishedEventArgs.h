@@ -26,10 +26,7 @@ public:
                         Generated::MassClipDeletionFinishedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Notification::MassClipDeletionEventArgs&& source,
-                        Generated::MassClipDeletionFinishedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::MassClipDeletionFinishedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -20,13 +20,20 @@ MassClipUpdateFailedEventArgsToThriftConverter::To(Notification::MassClipUpdateF
     NestedRecords nested;
 
     // One flag with the others: a block that fails leaves all of them as they were.
-    if (!nested(source, destination.clipCommand)) return nested.Result();
+    if (!nested.SendCommand(source, destination.clipCommand)) return nested.Result();
     destination.__isset.clipCommand = true;
     TALVO_FLAGGED(destination, machineSerial) = Widened(source.machineSerial);
     TALVO_FLAGGED(destination, result) = Data::OperationResultConverter::To(source.result);
     TALVO_FLAGGED(destination, internalResult) = source.internalResult;
     TALVO_FLAGGED(destination, databaseRevision) = source.databaseRevision;
     return Success();
+}
+
+ConversionResult
+MassClipUpdateFailedEventArgsToThriftConverter::To(Notification::MassClipUpdateFailedEventArgs&& source,
+                                                   Generated::MassClipUpdateFailedEventArgs& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

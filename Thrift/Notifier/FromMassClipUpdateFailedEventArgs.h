@@ -28,10 +28,7 @@ public:
                         Generated::MassClipUpdateFailedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Notification::MassClipUpdateFailedEventArgs&& source,
-                        Generated::MassClipUpdateFailedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::MassClipUpdateFailedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -19,11 +19,18 @@ ConversionResult MassClipUpdateFinishedEventArgsToThriftConverter::To(
     NestedRecords nested;
 
     // One flag with the others: a block that fails leaves all of them as they were.
-    if (!nested(source, destination.clipCommand)) return nested.Result();
+    if (!nested.SendCommand(source, destination.clipCommand)) return nested.Result();
     destination.__isset.clipCommand = true;
     TALVO_FLAGGED(destination, machineSerial) = Widened(source.machineSerial);
     TALVO_FLAGGED(destination, databaseRevision) = source.databaseRevision;
     return Success();
+}
+
+ConversionResult MassClipUpdateFinishedEventArgsToThriftConverter::To(
+    Notification::MassClipUpdateEventArgs&& source,
+    Generated::MassClipUpdateFinishedEventArgs& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

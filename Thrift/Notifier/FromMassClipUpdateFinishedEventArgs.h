@@ -26,10 +26,7 @@ public:
                         Generated::MassClipUpdateFinishedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Notification::MassClipUpdateEventArgs&& source,
-                        Generated::MassClipUpdateFinishedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::MassClipUpdateFinishedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -26,4 +26,11 @@ PlayerStateChangedEventArgsToThriftConverter::To(Notification::PlayerStateChange
     return Success();
 }
 
+ConversionResult
+PlayerStateChangedEventArgsToThriftConverter::To(Notification::PlayerStateChangedEventArgs&& source,
+                                                 Generated::PlayerStateChangedEventArgs& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -29,10 +29,7 @@ public:
                         Generated::PlayerStateChangedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Notification::PlayerStateChangedEventArgs&& source,
-                        Generated::PlayerStateChangedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::PlayerStateChangedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

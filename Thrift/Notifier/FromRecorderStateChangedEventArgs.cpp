@@ -26,4 +26,11 @@ RecorderStateChangedEventArgsToThriftConverter::To(Notification::RecorderStateCh
     return Success();
 }
 
+ConversionResult
+RecorderStateChangedEventArgsToThriftConverter::To(Notification::RecorderStateChangedEventArgs&& source,
+                                                   Generated::RecorderStateChangedEventArgs& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

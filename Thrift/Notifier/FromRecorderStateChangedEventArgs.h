@@ -29,10 +29,7 @@ public:
                         Generated::RecorderStateChangedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Notification::RecorderStateChangedEventArgs&& source,
-                        Generated::RecorderStateChangedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::RecorderStateChangedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

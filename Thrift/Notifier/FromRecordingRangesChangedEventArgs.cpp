@@ -21,11 +21,18 @@ ConversionResult RecordingRangesChangedEventArgsToThriftConverter::To(
 
     SendGuid(source.recorderId, TALVO_FLAGGED(destination, recorderId));
     // Appended: a destination that holds ranges already keeps them in front.
-    AppendAll(fromRange, source.recordingRanges, destination.recordingRanges);
+    AppendAll("recordingRanges", fromRange, source.recordingRanges, destination.recordingRanges);
     TALVO_FLAGGED(destination, isInBoundMoving) = source.isInBoundMoving;
     TALVO_FLAGGED(destination, isOutBoundMoving) = source.isOutBoundMoving;
     destination.__isset.recordingRanges = !destination.recordingRanges.empty();
     return Success();
+}
+
+ConversionResult RecordingRangesChangedEventArgsToThriftConverter::To(
+    Notification::RecordingRangesChangedEventArgs&& source,
+    Generated::RecordingRangesChangedEventArgs& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -32,10 +32,7 @@ public:
                         Generated::RecordingRangesChangedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Notification::RecordingRangesChangedEventArgs&& source,
-                        Generated::RecordingRangesChangedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::RecordingRangesChangedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

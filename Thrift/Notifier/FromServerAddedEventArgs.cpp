@@ -23,4 +23,10 @@ ConversionResult ServerAddedEventArgsToThriftConverter::To(Notification::ServerA
     return Success();
 }
 
+ConversionResult ServerAddedEventArgsToThriftConverter::To(Notification::ServerAddedEventArgs&& source,
+                                                           Generated::ServerAddedEventArgs& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

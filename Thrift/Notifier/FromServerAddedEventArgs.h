@@ -27,10 +27,7 @@ public:
                         Generated::ServerAddedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Notification::ServerAddedEventArgs&& source,
-                        Generated::ServerAddedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::ServerAddedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

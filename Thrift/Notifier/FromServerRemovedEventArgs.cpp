@@ -18,4 +18,11 @@ ServerRemovedEventArgsToThriftConverter::To(Notification::ServerRemovedEventArgs
     return Success();
 }
 
+ConversionResult
+ServerRemovedEventArgsToThriftConverter::To(Notification::ServerRemovedEventArgs&& source,
+                                            Generated::ServerRemovedEventArgs& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

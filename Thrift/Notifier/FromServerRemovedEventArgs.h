@@ -26,10 +26,7 @@ public:
                         Generated::ServerRemovedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Notification::ServerRemovedEventArgs&& source,
-                        Generated::ServerRemovedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::ServerRemovedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

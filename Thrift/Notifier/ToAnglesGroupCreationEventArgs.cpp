@@ -2,6 +2,7 @@
 
 #include "Domain/CorvaneData/Notification/AnglesGroupCreationEventArgs.h"
 #include "Thrift/Data/Clips/ToAnglesGroup.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "Thrift/Notifier/ToClipCommandEventArgs.h"
 #include "generated/AnglesGroupCreationEventArgs_types.h"
@@ -19,12 +20,21 @@ ConversionResult ThriftToAnglesGroupCreationEventArgsConverter::To(
     static Data::Clips::ThriftToAnglesGroupConverter const thriftToAnglesGroupConverter;
 
     Corvane::Data::Clips::Groups::AnglesGroup anglesGroup{Corvane::Data::Clips::Groups::Guid()};
-    if (auto const result = thriftToAnglesGroupConverter.To(source.anglesGroup, anglesGroup); !result.success)
+    if (auto const result = Read("anglesGroup", thriftToAnglesGroupConverter, source.anglesGroup, anglesGroup);
+        !result.success)
         return Nested(result);
     destination =
         Notification::AnglesGroupCreationEventArgs(source.databaseRevision, Corvane::Data::Guid::Empty(), anglesGroup);
     // Last: a block that fails leaves the event with everything else filled in.
-    return thriftToClipCommandEventArgsConverter.To(source.clipCommandEventArgs, destination);
+    return Read("clipCommandEventArgs", thriftToClipCommandEventArgsConverter, source.clipCommandEventArgs,
+                destination);
+}
+
+ConversionResult ThriftToAnglesGroupCreationEventArgsConverter::To(
+    Generated::AnglesGroupCreationEventArgs&& source,
+    Notification::AnglesGroupCreationEventArgs& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

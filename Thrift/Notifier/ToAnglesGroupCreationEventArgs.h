@@ -32,10 +32,7 @@ public:
                         Notification::AnglesGroupCreationEventArgs& destination) const noexcept override;
 
     ConversionResult To(Generated::AnglesGroupCreationEventArgs&& source,
-                        Notification::AnglesGroupCreationEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Notification::AnglesGroupCreationEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -33,10 +33,7 @@ public:
                         Notification::AnglesGroupCreationFinishedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Generated::AnglesGroupCreationFinishedEventArgs&& source,
-                        Notification::AnglesGroupCreationFinishedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Notification::AnglesGroupCreationFinishedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -2,6 +2,7 @@
 
 #include "Domain/CorvaneData/Notification/AnglesGroupDeletionFinishedEventArgs.h"
 #include "Thrift/Data/ToGuid.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "Thrift/Notifier/ToClipCommandEventArgs.h"
 #include "generated/AnglesGroupDeletionEventArgs_types.h"
@@ -20,12 +21,21 @@ ConversionResult ThriftToAnglesGroupDeletionFinishedEventArgsConverter::To(
     auto const& wireEvent = source.deletionEventArgs;
 
     Corvane::Data::Clips::Groups::Guid anglesGroupId;
-    if (auto const result = thriftToGuidConverter.To(wireEvent.anglesGroupId, anglesGroupId); !result.success)
+    if (auto const result = Read("anglesGroupId", thriftToGuidConverter, wireEvent.anglesGroupId, anglesGroupId);
+        !result.success)
         return Nested(result);
     destination = Notification::AnglesGroupDeletionFinishedEventArgs(wireEvent.databaseRevision,
                                                                      Corvane::Data::Guid::Empty(), anglesGroupId);
     // Last: a block that fails leaves the event with everything else filled in.
-    return thriftToClipCommandEventArgsConverter.To(wireEvent.clipCommandEventArgs, destination);
+    return Read("clipCommandEventArgs", thriftToClipCommandEventArgsConverter, wireEvent.clipCommandEventArgs,
+                destination);
+}
+
+ConversionResult ThriftToAnglesGroupDeletionFinishedEventArgsConverter::To(
+    Generated::AnglesGroupDeletionFinishedEventArgs&& source,
+    Notification::AnglesGroupDeletionFinishedEventArgs& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

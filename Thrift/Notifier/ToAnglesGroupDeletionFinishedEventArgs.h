@@ -33,10 +33,7 @@ public:
                         Notification::AnglesGroupDeletionFinishedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Generated::AnglesGroupDeletionFinishedEventArgs&& source,
-                        Notification::AnglesGroupDeletionFinishedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Notification::AnglesGroupDeletionFinishedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

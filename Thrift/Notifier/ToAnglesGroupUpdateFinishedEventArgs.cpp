@@ -2,6 +2,7 @@
 
 #include "Domain/CorvaneData/Notification/AnglesGroupUpdateFinishedEventArgs.h"
 #include "Thrift/Data/Clips/ToAnglesGroup.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "Thrift/Notifier/ToClipCommandEventArgs.h"
 #include "generated/AnglesGroupUpdateEventArgs_types.h"
@@ -20,12 +21,21 @@ ConversionResult ThriftToAnglesGroupUpdateFinishedEventArgsConverter::To(
     auto const& wireEvent = source.updateEventArgs;
 
     Corvane::Data::Clips::Groups::AnglesGroup anglesGroup{Corvane::Data::Clips::Groups::Guid()};
-    if (auto const result = thriftToAnglesGroupConverter.To(wireEvent.anglesGroup, anglesGroup); !result.success)
+    if (auto const result = Read("anglesGroup", thriftToAnglesGroupConverter, wireEvent.anglesGroup, anglesGroup);
+        !result.success)
         return Nested(result);
     destination = Notification::AnglesGroupUpdateFinishedEventArgs(wireEvent.databaseRevision,
                                                                    Corvane::Data::Guid::Empty(), anglesGroup);
     // Last: a block that fails leaves the event with everything else filled in.
-    return thriftToClipCommandEventArgsConverter.To(wireEvent.clipCommandEventArgs, destination);
+    return Read("clipCommandEventArgs", thriftToClipCommandEventArgsConverter, wireEvent.clipCommandEventArgs,
+                destination);
+}
+
+ConversionResult ThriftToAnglesGroupUpdateFinishedEventArgsConverter::To(
+    Generated::AnglesGroupUpdateFinishedEventArgs&& source,
+    Notification::AnglesGroupUpdateFinishedEventArgs& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -32,10 +32,7 @@ public:
                         Notification::AnglesGroupUpdateFinishedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Generated::AnglesGroupUpdateFinishedEventArgs&& source,
-                        Notification::AnglesGroupUpdateFinishedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Notification::AnglesGroupUpdateFinishedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -2,6 +2,7 @@
 
 #include "Domain/CorvaneData/Notification/ClipCommandEventArgs.h"
 #include "Thrift/Data/ToGuid.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "Thrift/Detail/Widths.h"
 #include "generated/ClipCommandEventArgs_types.h"
@@ -40,7 +41,8 @@ ThriftToClipCommandEventArgsConverter::To(Generated::ClipCommandEventArgs const&
         return Failure("Missing fields for ClipCommand");
 
     Corvane::Data::Guid commandGuid;
-    if (auto const result = toGuid.To(source.commandGuid, commandGuid); !result.success) return Nested(result);
+    if (auto const result = Read("commandGuid", toGuid, source.commandGuid, commandGuid); !result.success)
+        return Nested(result);
 
     destination.commandGuid = commandGuid;
     destination.requestSource = SourceOf(source.requestSource);
@@ -49,6 +51,13 @@ ThriftToClipCommandEventArgsConverter::To(Generated::ClipCommandEventArgs const&
     destination.userTicket = static_cast<std::uint16_t>(source.userTicket);
     destination.subCommandIndex = source.subCommandIndex; // whether its flag is set or not
     return Success();
+}
+
+ConversionResult
+ThriftToClipCommandEventArgsConverter::To(Generated::ClipCommandEventArgs&& source,
+                                          Notification::ClipCommandEventArgs& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

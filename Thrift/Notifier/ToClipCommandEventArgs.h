@@ -33,10 +33,7 @@ public:
                         Notification::ClipCommandEventArgs& destination) const noexcept override;
 
     ConversionResult To(Generated::ClipCommandEventArgs&& source,
-                        Notification::ClipCommandEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Notification::ClipCommandEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -4,6 +4,7 @@
 #include "Thrift/Data/OperationResultConverter.h"
 #include "Thrift/Detail/ClipEvents.h"
 #include "Thrift/Detail/CreationTexts.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/ClipCreationEventArgs_types.h"
 
@@ -13,8 +14,8 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
 using namespace Detail;
 
 ConversionResult
-ThriftToClipCreationFailedEventArgsConverter::To(Generated::ClipCreationFailedEventArgs const& source,
-                                                 Notification::ClipCreationFailedEventArgs& destination) const noexcept
+ThriftToClipCreationFailedEventArgsConverter::ToOrThrow(Generated::ClipCreationFailedEventArgs const& source,
+                                                        Notification::ClipCreationFailedEventArgs& destination) const
 {
     auto const& isset = source.__isset;
     if (!isset.clipCommand || !isset.sourceClip || !isset.newClip || !isset.creationType || !isset.networkType ||
@@ -24,14 +25,29 @@ ThriftToClipCreationFailedEventArgsConverter::To(Generated::ClipCreationFailedEv
     Corvane::Data::Clips::Clip sourceClip;
     Corvane::Data::Clips::Clip newClip;
     NestedRecords nested;
-    if (nested(source.sourceClip, sourceClip) && nested(source.newClip, newClip))
+    if (nested.ReadClip("sourceClip", source.sourceClip, sourceClip) &&
+        nested.ReadClip("newClip", source.newClip, newClip))
     {
         destination = EventWithPlaceholders<Notification::ClipCreationFailedEventArgs>(
             source.databaseRevision, Data::OperationResultConverter::To(source.result), InternalResult(source),
             sourceClip, newClip, CreationTypeOf(source.creationType), NetworkTypeOf(source.networkType));
-        nested(source.clipCommand, destination);
+        nested.ReadCommand("clipCommand", source.clipCommand, destination);
     }
     return nested.Result();
+}
+
+ConversionResult
+ThriftToClipCreationFailedEventArgsConverter::To(Generated::ClipCreationFailedEventArgs const& source,
+                                                 Notification::ClipCreationFailedEventArgs& destination) const noexcept
+{
+    return ToOrTerminate(*this, source, destination);
+}
+
+ConversionResult
+ThriftToClipCreationFailedEventArgsConverter::To(Generated::ClipCreationFailedEventArgs&& source,
+                                                 Notification::ClipCreationFailedEventArgs& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

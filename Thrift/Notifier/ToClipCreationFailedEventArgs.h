@@ -35,14 +35,15 @@ class ThriftToClipCreationFailedEventArgsConverter
 public:
     ~ThriftToClipCreationFailedEventArgsConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::ClipCreationFailedEventArgs const& source,
+                               Notification::ClipCreationFailedEventArgs& destination) const;
+
     ConversionResult To(Generated::ClipCreationFailedEventArgs const& source,
                         Notification::ClipCreationFailedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Generated::ClipCreationFailedEventArgs&& source,
-                        Notification::ClipCreationFailedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Notification::ClipCreationFailedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -35,14 +35,15 @@ class ThriftToClipCreationFinishedEventArgsConverter
 public:
     ~ThriftToClipCreationFinishedEventArgsConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::ClipCreationFinishedEventArgs const& source,
+                               Notification::ClipCreationFinishedEventArgs& destination) const;
+
     ConversionResult To(Generated::ClipCreationFinishedEventArgs const& source,
                         Notification::ClipCreationFinishedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Generated::ClipCreationFinishedEventArgs&& source,
-                        Notification::ClipCreationFinishedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Notification::ClipCreationFinishedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

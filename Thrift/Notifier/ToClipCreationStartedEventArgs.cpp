@@ -3,6 +3,7 @@
 #include "Domain/CorvaneData/Notification/ClipCreationEventArgs.h"
 #include "Thrift/Detail/ClipEvents.h"
 #include "Thrift/Detail/CreationTexts.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/ClipCreationEventArgs_types.h"
 
@@ -12,8 +13,8 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
 using namespace Detail;
 
 ConversionResult
-ThriftToClipCreationStartedEventArgsConverter::To(Generated::ClipCreationStartedEventArgs const& source,
-                                                  Notification::ClipCreationEventArgs& destination) const noexcept
+ThriftToClipCreationStartedEventArgsConverter::ToOrThrow(Generated::ClipCreationStartedEventArgs const& source,
+                                                         Notification::ClipCreationEventArgs& destination) const
 {
     auto const& isset = source.__isset;
     if (!isset.clipCommand || !isset.sourceClip || !isset.newClip || !isset.creationType || !isset.networkType)
@@ -22,14 +23,29 @@ ThriftToClipCreationStartedEventArgsConverter::To(Generated::ClipCreationStarted
     Corvane::Data::Clips::Clip sourceClip;
     Corvane::Data::Clips::Clip newClip;
     NestedRecords nested;
-    if (nested(source.sourceClip, sourceClip) && nested(source.newClip, newClip))
+    if (nested.ReadClip("sourceClip", source.sourceClip, sourceClip) &&
+        nested.ReadClip("newClip", source.newClip, newClip))
     {
         destination = EventWithPlaceholders<Notification::ClipCreationEventArgs>(
             source.databaseRevision, sourceClip, newClip, CreationTypeOf(source.creationType),
             NetworkTypeOf(source.networkType));
-        nested(source.clipCommand, destination);
+        nested.ReadCommand("clipCommand", source.clipCommand, destination);
     }
     return nested.Result();
+}
+
+ConversionResult
+ThriftToClipCreationStartedEventArgsConverter::To(Generated::ClipCreationStartedEventArgs const& source,
+                                                  Notification::ClipCreationEventArgs& destination) const noexcept
+{
+    return ToOrTerminate(*this, source, destination);
+}
+
+ConversionResult
+ThriftToClipCreationStartedEventArgsConverter::To(Generated::ClipCreationStartedEventArgs&& source,
+                                                  Notification::ClipCreationEventArgs& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -35,14 +35,15 @@ class ThriftToClipCreationStartedEventArgsConverter
 public:
     ~ThriftToClipCreationStartedEventArgsConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::ClipCreationStartedEventArgs const& source,
+                               Notification::ClipCreationEventArgs& destination) const;
+
     ConversionResult To(Generated::ClipCreationStartedEventArgs const& source,
                         Notification::ClipCreationEventArgs& destination) const noexcept override;
 
     ConversionResult To(Generated::ClipCreationStartedEventArgs&& source,
-                        Notification::ClipCreationEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Notification::ClipCreationEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

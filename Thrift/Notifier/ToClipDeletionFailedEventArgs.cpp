@@ -3,6 +3,7 @@
 #include "Domain/CorvaneData/Notification/ClipDeletionFailedEventArgs.h"
 #include "Thrift/Data/OperationResultConverter.h"
 #include "Thrift/Detail/ClipEvents.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/ClipDeletionEventArgs_types.h"
 
@@ -14,8 +15,8 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
 using namespace Detail;
 
 ConversionResult
-ThriftToClipDeletionFailedEventArgsConverter::To(Generated::ClipDeletionFailedEventArgs const& source,
-                                                 Notification::ClipDeletionFailedEventArgs& destination) const noexcept
+ThriftToClipDeletionFailedEventArgsConverter::ToOrThrow(Generated::ClipDeletionFailedEventArgs const& source,
+                                                        Notification::ClipDeletionFailedEventArgs& destination) const
 {
     auto const& isset = source.__isset;
     if (!isset.clipCommand || !isset.removedClip || !isset.result || !isset.essenceBitmap || !isset.fromUCode ||
@@ -24,15 +25,29 @@ ThriftToClipDeletionFailedEventArgsConverter::To(Generated::ClipDeletionFailedEv
 
     Corvane::Data::Clips::Clip removedClip;
     NestedRecords nested;
-    if (nested(source.removedClip, removedClip))
+    if (nested.ReadClip("removedClip", source.removedClip, removedClip))
     {
         destination = EventWithPlaceholders<Notification::ClipDeletionFailedEventArgs>(
             source.databaseRevision, Data::OperationResultConverter::To(source.result), InternalResult(source),
             removedClip, std::uint8_t{0}, std::uint8_t{0}, static_cast<std::uint8_t>(source.essenceBitmap),
             source.fromUCode, source.forceForPlaylist);
-        nested(source.clipCommand, destination);
+        nested.ReadCommand("clipCommand", source.clipCommand, destination);
     }
     return nested.Result();
+}
+
+ConversionResult
+ThriftToClipDeletionFailedEventArgsConverter::To(Generated::ClipDeletionFailedEventArgs const& source,
+                                                 Notification::ClipDeletionFailedEventArgs& destination) const noexcept
+{
+    return ToOrTerminate(*this, source, destination);
+}
+
+ConversionResult
+ThriftToClipDeletionFailedEventArgsConverter::To(Generated::ClipDeletionFailedEventArgs&& source,
+                                                 Notification::ClipDeletionFailedEventArgs& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

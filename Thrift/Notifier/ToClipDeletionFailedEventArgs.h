@@ -36,14 +36,15 @@ class ThriftToClipDeletionFailedEventArgsConverter
 public:
     ~ThriftToClipDeletionFailedEventArgsConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::ClipDeletionFailedEventArgs const& source,
+                               Notification::ClipDeletionFailedEventArgs& destination) const;
+
     ConversionResult To(Generated::ClipDeletionFailedEventArgs const& source,
                         Notification::ClipDeletionFailedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Generated::ClipDeletionFailedEventArgs&& source,
-                        Notification::ClipDeletionFailedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Notification::ClipDeletionFailedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

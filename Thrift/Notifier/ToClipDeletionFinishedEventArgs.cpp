@@ -2,6 +2,7 @@
 
 #include "Domain/CorvaneData/Notification/ClipDeletionFinishedEventArgs.h"
 #include "Thrift/Detail/ClipEvents.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/ClipDeletionEventArgs_types.h"
 
@@ -12,9 +13,9 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
 
 using namespace Detail;
 
-ConversionResult ThriftToClipDeletionFinishedEventArgsConverter::To(
+ConversionResult ThriftToClipDeletionFinishedEventArgsConverter::ToOrThrow(
     Generated::ClipDeletionFinishedEventArgs const& source,
-    Notification::ClipDeletionFinishedEventArgs& destination) const noexcept
+    Notification::ClipDeletionFinishedEventArgs& destination) const
 {
     auto const& isset = source.__isset;
     if (!isset.clipCommand || !isset.removedClip)
@@ -22,13 +23,27 @@ ConversionResult ThriftToClipDeletionFinishedEventArgsConverter::To(
 
     Corvane::Data::Clips::Clip removedClip;
     NestedRecords nested;
-    if (nested(source.removedClip, removedClip))
+    if (nested.ReadClip("removedClip", source.removedClip, removedClip))
     {
         destination = EventWithPlaceholders<Notification::ClipDeletionFinishedEventArgs>(
             source.databaseRevision, removedClip, std::uint8_t{0}, std::uint8_t{0});
-        nested(source.clipCommand, destination);
+        nested.ReadCommand("clipCommand", source.clipCommand, destination);
     }
     return nested.Result();
+}
+
+ConversionResult ThriftToClipDeletionFinishedEventArgsConverter::To(
+    Generated::ClipDeletionFinishedEventArgs const& source,
+    Notification::ClipDeletionFinishedEventArgs& destination) const noexcept
+{
+    return ToOrTerminate(*this, source, destination);
+}
+
+ConversionResult ThriftToClipDeletionFinishedEventArgsConverter::To(
+    Generated::ClipDeletionFinishedEventArgs&& source,
+    Notification::ClipDeletionFinishedEventArgs& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -35,14 +35,15 @@ class ThriftToClipDeletionFinishedEventArgsConverter
 public:
     ~ThriftToClipDeletionFinishedEventArgsConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::ClipDeletionFinishedEventArgs const& source,
+                               Notification::ClipDeletionFinishedEventArgs& destination) const;
+
     ConversionResult To(Generated::ClipDeletionFinishedEventArgs const& source,
                         Notification::ClipDeletionFinishedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Generated::ClipDeletionFinishedEventArgs&& source,
-                        Notification::ClipDeletionFinishedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Notification::ClipDeletionFinishedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -3,6 +3,7 @@
 #include "Domain/CorvaneData/Notification/ClipMoveFailedEventArgs.h"
 #include "Thrift/Data/OperationResultConverter.h"
 #include "Thrift/Detail/ClipEvents.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/ClipMoveEventArgs_types.h"
 
@@ -12,8 +13,8 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
 using namespace Detail;
 
 ConversionResult
-ThriftToClipMoveFailedEventArgsConverter::To(Generated::ClipMoveFailedEventArgs const& source,
-                                             Notification::ClipMoveFailedEventArgs& destination) const noexcept
+ThriftToClipMoveFailedEventArgsConverter::ToOrThrow(Generated::ClipMoveFailedEventArgs const& source,
+                                                    Notification::ClipMoveFailedEventArgs& destination) const
 {
     auto const& isset = source.__isset;
     if (!isset.clipCommand || !isset.result || !isset.sourceClip || !isset.destClip)
@@ -22,14 +23,29 @@ ThriftToClipMoveFailedEventArgsConverter::To(Generated::ClipMoveFailedEventArgs 
     Corvane::Data::Clips::Clip sourceClip;
     Corvane::Data::Clips::Clip destClip;
     NestedRecords nested;
-    if (nested(source.sourceClip, sourceClip) && nested(source.destClip, destClip))
+    if (nested.ReadClip("sourceClip", source.sourceClip, sourceClip) &&
+        nested.ReadClip("destClip", source.destClip, destClip))
     {
         destination = EventWithPlaceholders<Notification::ClipMoveFailedEventArgs>(
             source.databaseRevision, Data::OperationResultConverter::To(source.result), InternalResult(source),
             sourceClip, destClip);
-        nested(source.clipCommand, destination);
+        nested.ReadCommand("clipCommand", source.clipCommand, destination);
     }
     return nested.Result();
+}
+
+ConversionResult
+ThriftToClipMoveFailedEventArgsConverter::To(Generated::ClipMoveFailedEventArgs const& source,
+                                             Notification::ClipMoveFailedEventArgs& destination) const noexcept
+{
+    return ToOrTerminate(*this, source, destination);
+}
+
+ConversionResult
+ThriftToClipMoveFailedEventArgsConverter::To(Generated::ClipMoveFailedEventArgs&& source,
+                                             Notification::ClipMoveFailedEventArgs& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -35,14 +35,15 @@ class ThriftToClipMoveFailedEventArgsConverter
 public:
     ~ThriftToClipMoveFailedEventArgsConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::ClipMoveFailedEventArgs const& source,
+                               Notification::ClipMoveFailedEventArgs& destination) const;
+
     ConversionResult To(Generated::ClipMoveFailedEventArgs const& source,
                         Notification::ClipMoveFailedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Generated::ClipMoveFailedEventArgs&& source,
-                        Notification::ClipMoveFailedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Notification::ClipMoveFailedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -2,6 +2,7 @@
 
 #include "Domain/CorvaneData/Notification/ClipMoveFinishedEventArgs.h"
 #include "Thrift/Detail/ClipEvents.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/ClipMoveEventArgs_types.h"
 
@@ -11,8 +12,8 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
 using namespace Detail;
 
 ConversionResult
-ThriftToClipMoveFinishedEventArgsConverter::To(Generated::ClipMoveFinishedEventArgs const& source,
-                                               Notification::ClipMoveFinishedEventArgs& destination) const noexcept
+ThriftToClipMoveFinishedEventArgsConverter::ToOrThrow(Generated::ClipMoveFinishedEventArgs const& source,
+                                                      Notification::ClipMoveFinishedEventArgs& destination) const
 {
     auto const& isset = source.__isset;
     if (!isset.clipCommand || !isset.sourceClip || !isset.destClip)
@@ -21,13 +22,28 @@ ThriftToClipMoveFinishedEventArgsConverter::To(Generated::ClipMoveFinishedEventA
     Corvane::Data::Clips::Clip sourceClip;
     Corvane::Data::Clips::Clip destClip;
     NestedRecords nested;
-    if (nested(source.sourceClip, sourceClip) && nested(source.destClip, destClip))
+    if (nested.ReadClip("sourceClip", source.sourceClip, sourceClip) &&
+        nested.ReadClip("destClip", source.destClip, destClip))
     {
         destination = EventWithPlaceholders<Notification::ClipMoveFinishedEventArgs>(source.databaseRevision,
                                                                                      sourceClip, destClip);
-        nested(source.clipCommand, destination);
+        nested.ReadCommand("clipCommand", source.clipCommand, destination);
     }
     return nested.Result();
+}
+
+ConversionResult
+ThriftToClipMoveFinishedEventArgsConverter::To(Generated::ClipMoveFinishedEventArgs const& source,
+                                               Notification::ClipMoveFinishedEventArgs& destination) const noexcept
+{
+    return ToOrTerminate(*this, source, destination);
+}
+
+ConversionResult
+ThriftToClipMoveFinishedEventArgsConverter::To(Generated::ClipMoveFinishedEventArgs&& source,
+                                               Notification::ClipMoveFinishedEventArgs& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -34,14 +34,15 @@ class ThriftToClipMoveFinishedEventArgsConverter
 public:
     ~ThriftToClipMoveFinishedEventArgsConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::ClipMoveFinishedEventArgs const& source,
+                               Notification::ClipMoveFinishedEventArgs& destination) const;
+
     ConversionResult To(Generated::ClipMoveFinishedEventArgs const& source,
                         Notification::ClipMoveFinishedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Generated::ClipMoveFinishedEventArgs&& source,
-                        Notification::ClipMoveFinishedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Notification::ClipMoveFinishedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -34,14 +34,15 @@ class ThriftToClipMoveStartedEventArgsConverter
 public:
     ~ThriftToClipMoveStartedEventArgsConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::ClipMoveStartedEventArgs const& source,
+                               Notification::ClipMoveEventArgs& destination) const;
+
     ConversionResult To(Generated::ClipMoveStartedEventArgs const& source,
                         Notification::ClipMoveEventArgs& destination) const noexcept override;
 
     ConversionResult To(Generated::ClipMoveStartedEventArgs&& source,
-                        Notification::ClipMoveEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Notification::ClipMoveEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -35,14 +35,15 @@ class ThriftToClipUpdateFailedEventArgsConverter
 public:
     ~ThriftToClipUpdateFailedEventArgsConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::ClipUpdateFailedEventArgs const& source,
+                               Notification::ClipUpdateFailedEventArgs& destination) const;
+
     ConversionResult To(Generated::ClipUpdateFailedEventArgs const& source,
                         Notification::ClipUpdateFailedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Generated::ClipUpdateFailedEventArgs&& source,
-                        Notification::ClipUpdateFailedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Notification::ClipUpdateFailedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

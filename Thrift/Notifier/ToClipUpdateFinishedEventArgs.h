@@ -34,14 +34,15 @@ class ThriftToClipUpdateFinishedEventArgsConverter
 public:
     ~ThriftToClipUpdateFinishedEventArgsConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::ClipUpdateFinishedEventArgs const& source,
+                               Notification::ClipUpdateFinishedEventArgs& destination) const;
+
     ConversionResult To(Generated::ClipUpdateFinishedEventArgs const& source,
                         Notification::ClipUpdateFinishedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Generated::ClipUpdateFinishedEventArgs&& source,
-                        Notification::ClipUpdateFinishedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Notification::ClipUpdateFinishedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -19,4 +19,11 @@ ConversionResult ThriftToDisconnectedFromNetworkEventArgsConverter::To(
     return Success();
 }
 
+ConversionResult ThriftToDisconnectedFromNetworkEventArgsConverter::To(
+    Generated::DisconnectedFromNetworkEventArgs&& source,
+    Notification::DisconnectedFromNetworkEventArgs& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -28,10 +28,7 @@ public:
                         Notification::DisconnectedFromNetworkEventArgs& destination) const noexcept override;
 
     ConversionResult To(Generated::DisconnectedFromNetworkEventArgs&& source,
-                        Notification::DisconnectedFromNetworkEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Notification::DisconnectedFromNetworkEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -24,8 +24,15 @@ ConversionResult ThriftToMassClipDeletionFailedEventArgsConverter::To(
     destination = EventWithPlaceholders<Notification::MassClipDeletionFailedEventArgs>(
         source.databaseRevision, Data::OperationResultConverter::To(source.result), InternalResult(source),
         LowWord(source.machineSerial));
-    nested(source.clipCommand, destination);
+    nested.ReadCommand("clipCommand", source.clipCommand, destination);
     return nested.Result();
+}
+
+ConversionResult ThriftToMassClipDeletionFailedEventArgsConverter::To(
+    Generated::MassClipDeletionFailedEventArgs&& source,
+    Notification::MassClipDeletionFailedEventArgs& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -36,10 +36,7 @@ public:
                         Notification::MassClipDeletionFailedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Generated::MassClipDeletionFailedEventArgs&& source,
-                        Notification::MassClipDeletionFailedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Notification::MassClipDeletionFailedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

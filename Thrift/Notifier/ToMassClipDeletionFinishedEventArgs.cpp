@@ -22,8 +22,15 @@ ConversionResult ThriftToMassClipDeletionFinishedEventArgsConverter::To(
     NestedRecords nested;
     destination = EventWithPlaceholders<Notification::MassClipDeletionEventArgs>(source.databaseRevision,
                                                                                  LowWord(source.machineSerial));
-    nested(source.clipCommand, destination);
+    nested.ReadCommand("clipCommand", source.clipCommand, destination);
     return nested.Result();
+}
+
+ConversionResult ThriftToMassClipDeletionFinishedEventArgsConverter::To(
+    Generated::MassClipDeletionFinishedEventArgs&& source,
+    Notification::MassClipDeletionEventArgs& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -35,10 +35,7 @@ public:
                         Notification::MassClipDeletionEventArgs& destination) const noexcept override;
 
     ConversionResult To(Generated::MassClipDeletionFinishedEventArgs&& source,
-                        Notification::MassClipDeletionEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Notification::MassClipDeletionEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -24,8 +24,15 @@ ConversionResult ThriftToMassClipUpdateFailedEventArgsConverter::To(
     destination = EventWithPlaceholders<Notification::MassClipUpdateFailedEventArgs>(
         source.databaseRevision, Data::OperationResultConverter::To(source.result), InternalResult(source),
         LowWord(source.machineSerial));
-    nested(source.clipCommand, destination);
+    nested.ReadCommand("clipCommand", source.clipCommand, destination);
     return nested.Result();
+}
+
+ConversionResult ThriftToMassClipUpdateFailedEventArgsConverter::To(
+    Generated::MassClipUpdateFailedEventArgs&& source,
+    Notification::MassClipUpdateFailedEventArgs& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

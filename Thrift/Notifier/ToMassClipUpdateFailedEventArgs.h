@@ -36,10 +36,7 @@ public:
                         Notification::MassClipUpdateFailedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Generated::MassClipUpdateFailedEventArgs&& source,
-                        Notification::MassClipUpdateFailedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Notification::MassClipUpdateFailedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -22,8 +22,15 @@ ThriftToMassClipUpdateFinishedEventArgsConverter::To(Generated::MassClipUpdateFi
     NestedRecords nested;
     destination = EventWithPlaceholders<Notification::MassClipUpdateEventArgs>(source.databaseRevision,
                                                                                LowWord(source.machineSerial));
-    nested(source.clipCommand, destination);
+    nested.ReadCommand("clipCommand", source.clipCommand, destination);
     return nested.Result();
+}
+
+ConversionResult
+ThriftToMassClipUpdateFinishedEventArgsConverter::To(Generated::MassClipUpdateFinishedEventArgs&& source,
+                                                     Notification::MassClipUpdateEventArgs& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

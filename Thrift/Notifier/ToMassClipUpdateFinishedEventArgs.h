@@ -35,10 +35,7 @@ public:
                         Notification::MassClipUpdateEventArgs& destination) const noexcept override;
 
     ConversionResult To(Generated::MassClipUpdateFinishedEventArgs&& source,
-                        Notification::MassClipUpdateEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Notification::MassClipUpdateEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

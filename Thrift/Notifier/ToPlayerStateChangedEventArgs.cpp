@@ -2,6 +2,7 @@
 
 #include "Domain/CorvaneData/Notification/PlayerStateChangedEventArgs.h"
 #include "Thrift/Data/Channels/ToPlayerState.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "Thrift/Detail/SeenFields.h"
 #include "Thrift/Detail/Widths.h"
@@ -16,8 +17,8 @@ using namespace Detail;
 using Corvane::Data::Channels::Guid;
 
 ConversionResult
-ThriftToPlayerStateChangedEventArgsConverter::To(Generated::PlayerStateChangedEventArgs const& source,
-                                                 Notification::PlayerStateChangedEventArgs& destination) const noexcept
+ThriftToPlayerStateChangedEventArgsConverter::ToOrThrow(Generated::PlayerStateChangedEventArgs const& source,
+                                                        Notification::PlayerStateChangedEventArgs& destination) const
 {
     Data::Channels::ThriftToPlayerStateConverter const toState;
     auto const& isset = source.__isset;
@@ -28,8 +29,22 @@ ThriftToPlayerStateChangedEventArgsConverter::To(Generated::PlayerStateChangedEv
             Guid(Guid::Type::ChannelGuidTypePlayer, source.channelIndex, LowWord(source.channelSerial));
     destination.eventFlags = seen(isset.eventFlags) ? source.eventFlags : 0;
     // What the state reports is not looked at, although the other direction reports it.
-    if (seen(isset.status)) std::ignore = toState.To(source.status, destination.state);
+    if (seen(isset.status)) std::ignore = Read("status", toState, source.status, destination.state);
     return seen.None() ? Failure("PlayerStateChanged is empty") : Success();
+}
+
+ConversionResult
+ThriftToPlayerStateChangedEventArgsConverter::To(Generated::PlayerStateChangedEventArgs const& source,
+                                                 Notification::PlayerStateChangedEventArgs& destination) const noexcept
+{
+    return ToOrTerminate(*this, source, destination);
+}
+
+ConversionResult
+ThriftToPlayerStateChangedEventArgsConverter::To(Generated::PlayerStateChangedEventArgs&& source,
+                                                 Notification::PlayerStateChangedEventArgs& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -31,14 +31,15 @@ class ThriftToPlayerStateChangedEventArgsConverter
 public:
     ~ThriftToPlayerStateChangedEventArgsConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::PlayerStateChangedEventArgs const& source,
+                               Notification::PlayerStateChangedEventArgs& destination) const;
+
     ConversionResult To(Generated::PlayerStateChangedEventArgs const& source,
                         Notification::PlayerStateChangedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Generated::PlayerStateChangedEventArgs&& source,
-                        Notification::PlayerStateChangedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Notification::PlayerStateChangedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

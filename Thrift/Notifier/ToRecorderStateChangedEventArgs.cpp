@@ -2,6 +2,7 @@
 
 #include "Domain/CorvaneData/Notification/RecorderStateChangedEventArgs.h"
 #include "Thrift/Data/Channels/ToRecorderState.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "Thrift/Detail/SeenFields.h"
 #include "Thrift/Detail/Widths.h"
@@ -15,9 +16,9 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier
 using namespace Detail;
 using Corvane::Data::Channels::Guid;
 
-ConversionResult ThriftToRecorderStateChangedEventArgsConverter::To(
+ConversionResult ThriftToRecorderStateChangedEventArgsConverter::ToOrThrow(
     Generated::RecorderStateChangedEventArgs const& source,
-    Notification::RecorderStateChangedEventArgs& destination) const noexcept
+    Notification::RecorderStateChangedEventArgs& destination) const
 {
     Data::Channels::ThriftToRecorderStateConverter const toState;
     auto const& isset = source.__isset;
@@ -28,8 +29,22 @@ ConversionResult ThriftToRecorderStateChangedEventArgsConverter::To(
             Guid(Guid::Type::ChannelGuidTypeRecorder, source.channelIndex, LowWord(source.channelSerial));
     destination.eventFlags = seen(isset.eventFlags) ? source.eventFlags : 0;
     // What the state reports is not looked at, although the other direction reports it.
-    if (seen(isset.status)) std::ignore = toState.To(source.status, destination.state);
+    if (seen(isset.status)) std::ignore = Read("status", toState, source.status, destination.state);
     return seen.None() ? Failure("RecorderStateChanged is empty") : Success();
+}
+
+ConversionResult ThriftToRecorderStateChangedEventArgsConverter::To(
+    Generated::RecorderStateChangedEventArgs const& source,
+    Notification::RecorderStateChangedEventArgs& destination) const noexcept
+{
+    return ToOrTerminate(*this, source, destination);
+}
+
+ConversionResult ThriftToRecorderStateChangedEventArgsConverter::To(
+    Generated::RecorderStateChangedEventArgs&& source,
+    Notification::RecorderStateChangedEventArgs& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -31,14 +31,15 @@ class ThriftToRecorderStateChangedEventArgsConverter
 public:
     ~ThriftToRecorderStateChangedEventArgsConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::RecorderStateChangedEventArgs const& source,
+                               Notification::RecorderStateChangedEventArgs& destination) const;
+
     ConversionResult To(Generated::RecorderStateChangedEventArgs const& source,
                         Notification::RecorderStateChangedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Generated::RecorderStateChangedEventArgs&& source,
-                        Notification::RecorderStateChangedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Notification::RecorderStateChangedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

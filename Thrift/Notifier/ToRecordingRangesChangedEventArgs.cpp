@@ -27,7 +27,7 @@ ConversionResult ThriftToRecordingRangesChangedEventArgsConverter::To(
     Corvane::Data::Channels::Guid recorderId;
     if (seen(isset.recorderId)) ReadGuid(source.recorderId, recorderId);
     std::vector<Corvane::Data::Clips::RecordingRange> recordingRanges;
-    if (seen(isset.recordingRanges)) AppendAll(toRange, source.recordingRanges, recordingRanges);
+    if (seen(isset.recordingRanges)) AppendAll("recordingRanges", toRange, source.recordingRanges, recordingRanges);
 
     // The destination is taken over even when nothing was seen: an event that fails is left empty, not as it was.
     destination.recorderId = recorderId;
@@ -35,6 +35,13 @@ ConversionResult ThriftToRecordingRangesChangedEventArgsConverter::To(
     destination.isInBoundMoving = source.isInBoundMoving;
     destination.isOutBoundMoving = source.isOutBoundMoving;
     return seen.None() ? Failure("RecordingRangesChanged is empty") : Success();
+}
+
+ConversionResult ThriftToRecordingRangesChangedEventArgsConverter::To(
+    Generated::RecordingRangesChangedEventArgs&& source,
+    Notification::RecordingRangesChangedEventArgs& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -30,10 +30,7 @@ public:
                         Notification::RecordingRangesChangedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Generated::RecordingRangesChangedEventArgs&& source,
-                        Notification::RecordingRangesChangedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Notification::RecordingRangesChangedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -30,10 +30,7 @@ public:
                         Notification::ServerAddedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Generated::ServerAddedEventArgs&& source,
-                        Notification::ServerAddedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Notification::ServerAddedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -19,4 +19,11 @@ ThriftToServerRemovedEventArgsConverter::To(Generated::ServerRemovedEventArgs co
     return Success();
 }
 
+ConversionResult
+ThriftToServerRemovedEventArgsConverter::To(Generated::ServerRemovedEventArgs&& source,
+                                            Notification::ServerRemovedEventArgs& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -28,10 +28,7 @@ public:
                         Notification::ServerRemovedEventArgs& destination) const noexcept override;
 
     ConversionResult To(Generated::ServerRemovedEventArgs&& source,
-                        Notification::ServerRemovedEventArgs& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Notification::ServerRemovedEventArgs& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -3,6 +3,7 @@
 #include "Domain/CorvaneData/Clips/Clip.h"
 #include "Thrift/Data/Clips/FromClip.h"
 #include "Thrift/Data/Clips/ToClip.h"
+#include "Thrift/TryTo.h"
 #include "TimePoints/TalvoTimeCodeFormatter.h"
 #include "TimePoints/TimeCodeBuilder.h"
 #include "generated/Clip_types.h"
@@ -19,6 +20,7 @@
 namespace Domain = Talvo::Corvane::Data::Clips;
 namespace Wire = Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips;
 using apache::thrift::transport::TMemoryBuffer;
+using Talvo::Corvane::Zelmar::Serialization::Thrift::TryTo;
 using Talvo::TimePoints::TalvoTimeCodeFormatter;
 using Talvo::TimePoints::TimeCodeBuilder;
 using Protocol = apache::thrift::protocol::TBinaryProtocolT<TMemoryBuffer>;
@@ -46,7 +48,7 @@ int main()
     Wire::Generated::Clip received;
     received.read(&protocol);
     Domain::Clip copy;
-    auto const result = Wire::ThriftToClipConverter().To(received, copy);
+    auto const result = TryTo(Wire::ThriftToClipConverter(), received, copy);
     if (!result.success) std::cerr << result.message << '\n';
 
     std::cout << size << " bytes, in at " << TalvoTimeCodeFormatter().Format(copy.InBoundTodTimecode())

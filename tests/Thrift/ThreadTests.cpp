@@ -49,7 +49,6 @@ std::vector<Input> Inputs()
 /// What became of the input: the message of a failure, or the bytes that came back and whether they mean the same.
 std::string Result(Input const& input)
 {
-    if (auto const hazards = input.type->findHazards(*input.record); !hazards.empty()) return hazards.front().reason;
     auto const trip = input.type->throughDomain(*input.record);
     if (trip.record == nullptr) return std::string(trip.toWire ? trip.toWire->message : trip.toDomain.message);
     auto const same = input.type->sameDomain == nullptr || input.type->sameDomain(*input.record, *trip.record);

@@ -33,20 +33,21 @@ RecordFiller RecordFiller::Convertible(std::vector<std::int16_t> numbers, Filter
 
 void RecordFiller::Spoil(std::size_t const value, std::string text, std::int16_t const number)
 {
-    spoiled_ = {value, std::move(text), number};
+    spoiled_[value] = {std::move(text), number};
 }
 
-bool RecordFiller::IsNextSpoiled()
+RecordFiller::Spoiled const* RecordFiller::NextSpoiled()
 {
-    auto const value = values_++;
-    return spoiled_ && spoiled_->value == value;
+    auto const spoiled = spoiled_.find(values_++);
+    return spoiled == spoiled_.end() ? nullptr : &spoiled->second;
 }
 
 bool RecordFiller::ReadConvertible(auto& value)
 {
     if (numbers_.empty()) return false;
     auto const number = numbers_[nextNumber_++ % numbers_.size()];
-    value = IsNextSpoiled() ? spoiled_->number : number;
+    auto const* const spoiled = NextSpoiled();
+    value = spoiled != nullptr ? spoiled->number : number;
     return true;
 }
 
@@ -163,8 +164,8 @@ std::uint32_t RecordFiller::readString(std::string& value)
     auto const text = count_++;
     if (numbers_.empty())
         value = "text " + std::to_string(text) + " \"\\\x01\x7F\x80\xFF";
-    else if (IsNextSpoiled())
-        value = spoiled_->text;
+    else if (auto const* const spoiled = NextSpoiled())
+        value = spoiled->text;
     else
         value =
             "2024-01-" + std::to_string(10 + text % 20) + "T" + std::to_string(10 + text / 20 % 14) + ":58:57:12@25";

@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
-#include <optional>
+#include <map>
 #include <set>
 #include <string>
 #include <vector>
@@ -35,7 +35,7 @@ public:
     static RecordFiller Convertible(
         std::vector<std::int16_t> numbers, Filter offered = [](std::int16_t) { return true; });
 
-    /// One of the values that converters take, the first being 0, becomes this text or number.
+    /// One of the values that converters take, the first being 0, becomes this text or number. Several may be spoiled.
     void Spoil(std::size_t value, std::string text, std::int16_t number);
 
     /// How many numbers and texts were read that converters take.
@@ -76,13 +76,12 @@ private:
 
     struct Spoiled
     {
-        std::size_t value;
         std::string text;
         std::int16_t number;
     };
 
-    /// Whether the value that is read next is the spoiled one.
-    bool IsNextSpoiled();
+    /// What the value that is read next is spoiled with, or null.
+    Spoiled const* NextSpoiled();
     /// The next number, where converters take it.
     bool ReadConvertible(auto& value);
 
@@ -93,7 +92,7 @@ private:
     std::vector<std::int16_t> numbers_; ///< Empty: distinct values.
     std::size_t nextNumber_ = 0;
     std::size_t values_ = 0;
-    std::optional<Spoiled> spoiled_;
+    std::map<std::size_t, Spoiled> spoiled_;
 };
 
 } // namespace Talvo::Tests

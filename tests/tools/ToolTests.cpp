@@ -287,13 +287,13 @@ TEST(Tool, PrintsJsonForAllBytes)
     EXPECT_EQ(parsed({"convert", "Clip", "--json", SamplePath("clip-nothing-counts.binary")})["toDomain"],
               (json{{"success", false}, {"message", "Clip is empty"}}));
 
-    // A clip whose inBoundTodTimecode is this one byte is not converted; the reason quotes it.
-    auto const hazard = RunTool({"convert", "Clip", "--json"}, "\x0b\0\x2a\0\0\0\1\xff\0"s);
-    EXPECT_EQ(hazard.status, 1);
-    auto const told = json::parse(hazard.output);
-    EXPECT_EQ(told["hazards"][0]["path"], "inBoundTodTimecode");
-    EXPECT_THAT(told["hazards"][0]["reason"].get<std::string>(), HasSubstr("'\u00ff'"));
-    EXPECT_EQ(told["toDomain"], nullptr);
+    // A clip whose inBoundTodTimecode is this one byte, which the message quotes.
+    auto const badValue = RunTool({"convert", "Clip", "--json"}, "\x0b\0\x2a\0\0\0\1\xff\0"s);
+    EXPECT_EQ(badValue.status, 1);
+    auto const shown = json::parse(badValue.output);
+    EXPECT_EQ(shown["toDomain"]["message"], "inBoundTodTimecode: TalvoTimeCodeParser the string '\u00ff' has not the "
+                                            "expected format.");
+    EXPECT_EQ(shown["toWire"], nullptr);
 }
 
 TEST(Tool, ColoursATerminalOnly)
@@ -389,10 +389,10 @@ TEST(Tool, DoesNotConvertWhatWouldEndTheProcess)
     auto const location = RunTool({"convert", "SequenceId"}, "\x08\0\1\0\0\0\x6e\0"s);
     EXPECT_EQ(location.status, 1);
     EXPECT_THAT(location.output, IsEmpty());
-    EXPECT_THAT(location.errors, OneLine("location would end the process: SequenceId.Location : invalid location"));
+    EXPECT_THAT(location.errors, OneLine("wire to domain failed: location: SequenceId.Location : invalid location"));
     auto const timeCode = RunTool({"convert", "Clip"}, "\x0b\0\x2a\0\0\0\4noon\0"s);
     EXPECT_EQ(timeCode.status, 1);
-    EXPECT_THAT(timeCode.errors, OneLine("inBoundTodTimecode would end the process: TalvoTimeCodeParser the string"));
+    EXPECT_THAT(timeCode.errors, OneLine("wire to domain failed: inBoundTodTimecode: TalvoTimeCodeParser the string"));
 
     // What a terminal would obey is escaped.
     EXPECT_THAT(RunTool({"convert", "Clip"}, "\x0b\0\x2a\0\0\0\4\n\x1b[m\0"s).errors, OneLine(R"('\x0a\x1b[m')"));

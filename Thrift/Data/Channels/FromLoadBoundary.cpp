@@ -41,4 +41,10 @@ ConversionResult LoadBoundaryToThriftConverter::To(Boundary const& source,
     return Success();
 }
 
+ConversionResult LoadBoundaryToThriftConverter::To(Boundary&& source,
+                                                   Generated::LoadBoundary& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Channels

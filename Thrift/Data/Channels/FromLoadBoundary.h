@@ -27,10 +27,7 @@ public:
                         Generated::LoadBoundary& destination) const noexcept override;
 
     ConversionResult To(Corvane::Data::Channels::Boundary&& source,
-                        Generated::LoadBoundary& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::LoadBoundary& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Channels

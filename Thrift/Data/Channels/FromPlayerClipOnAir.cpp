@@ -32,4 +32,10 @@ ConversionResult PlayerClipOnAirToThriftConverter::To(Corvane::Data::Channels::P
     return Success();
 }
 
+ConversionResult PlayerClipOnAirToThriftConverter::To(Corvane::Data::Channels::PlayerClipOnAir&& source,
+                                                      Generated::PlayerClipOnAir& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Channels

@@ -30,10 +30,7 @@ public:
                         Generated::PlayerClipOnAir& destination) const noexcept override;
 
     ConversionResult To(Corvane::Data::Channels::PlayerClipOnAir&& source,
-                        Generated::PlayerClipOnAir& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::PlayerClipOnAir& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Channels

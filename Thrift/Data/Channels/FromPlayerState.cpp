@@ -100,4 +100,10 @@ ConversionResult PlayerStateToThriftConverter::To(Corvane::Data::Channels::Playe
     return Success();
 }
 
+ConversionResult PlayerStateToThriftConverter::To(Corvane::Data::Channels::PlayerState&& source,
+                                                  Generated::PlayerState& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Channels

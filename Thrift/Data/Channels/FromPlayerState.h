@@ -32,10 +32,7 @@ public:
                         Generated::PlayerState& destination) const noexcept override;
 
     ConversionResult To(Corvane::Data::Channels::PlayerState&& source,
-                        Generated::PlayerState& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::PlayerState& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Channels

@@ -46,4 +46,10 @@ ConversionResult RecorderStateToThriftConverter::To(Corvane::Data::Channels::Rec
     return Success();
 }
 
+ConversionResult RecorderStateToThriftConverter::To(Corvane::Data::Channels::RecorderState&& source,
+                                                    Generated::RecorderState& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Channels

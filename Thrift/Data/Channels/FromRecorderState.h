@@ -33,10 +33,7 @@ public:
                         Generated::RecorderState& destination) const noexcept override;
 
     ConversionResult To(Corvane::Data::Channels::RecorderState&& source,
-                        Generated::RecorderState& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::RecorderState& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Channels

@@ -46,4 +46,10 @@ ConversionResult ThriftToLoadBoundaryConverter::To(Generated::LoadBoundary const
     return Success();
 }
 
+ConversionResult ThriftToLoadBoundaryConverter::To(Generated::LoadBoundary&& source,
+                                                   Boundary& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Channels

@@ -30,10 +30,7 @@ public:
                         Corvane::Data::Channels::Boundary& destination) const noexcept override;
 
     ConversionResult To(Generated::LoadBoundary&& source,
-                        Corvane::Data::Channels::Boundary& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Corvane::Data::Channels::Boundary& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Channels

@@ -2,6 +2,7 @@
 
 #include "Domain/CorvaneData/Channels/PlayerClipOnAir.h"
 #include "Thrift/Data/Clips/ToClip.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "Thrift/Detail/TimeCodes.h"
 #include "generated/PlayerClipOnAir_types.h"
@@ -12,8 +13,8 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Channels
 using namespace Detail;
 
 ConversionResult
-ThriftToPlayerClipOnAirConverter::To(Generated::PlayerClipOnAir const& source,
-                                     Corvane::Data::Channels::PlayerClipOnAir& destination) const noexcept
+ThriftToPlayerClipOnAirConverter::ToOrThrow(Generated::PlayerClipOnAir const& source,
+                                            Corvane::Data::Channels::PlayerClipOnAir& destination) const
 {
     Clips::ThriftToClipConverter const toClip;
     auto const& isset = source.__isset;
@@ -21,15 +22,32 @@ ThriftToPlayerClipOnAirConverter::To(Generated::PlayerClipOnAir const& source,
     if (isset.clipOnAir)
     {
         Corvane::Data::Clips::Clip clip;
-        if (auto const result = toClip.To(source.clipOnAir, clip); !result.success) return Nested(result);
+        if (auto const result = Read("clipOnAir", toClip, source.clipOnAir, clip); !result.success)
+            return Nested(result);
         destination.clipOnAir = clip;
         destination.hasClipOnAir = true;
     }
     if (isset.curTimePointOnAir) destination.curTimePointOnAir = {source.curTimePointOnAir};
     // Both read unguarded, unlike the time codes of the player state around this record.
-    if (isset.todCurTimecodeOnAir) destination.todCurTimecodeOnAir = ParseTimeCode(source.todCurTimecodeOnAir);
-    if (isset.userCurTimecodeOnAir) destination.userCurTimecodeOnAir = ParseTimeCode(source.userCurTimecodeOnAir);
+    if (isset.todCurTimecodeOnAir)
+        destination.todCurTimecodeOnAir = ParseTimeCode("todCurTimecodeOnAir", source.todCurTimecodeOnAir);
+    if (isset.userCurTimecodeOnAir)
+        destination.userCurTimecodeOnAir = ParseTimeCode("userCurTimecodeOnAir", source.userCurTimecodeOnAir);
     return Success();
+}
+
+ConversionResult
+ThriftToPlayerClipOnAirConverter::To(Generated::PlayerClipOnAir const& source,
+                                     Corvane::Data::Channels::PlayerClipOnAir& destination) const noexcept
+{
+    return ToOrTerminate(*this, source, destination);
+}
+
+ConversionResult
+ThriftToPlayerClipOnAirConverter::To(Generated::PlayerClipOnAir&& source,
+                                     Corvane::Data::Channels::PlayerClipOnAir& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Channels

@@ -32,14 +32,15 @@ class ThriftToPlayerClipOnAirConverter
 public:
     ~ThriftToPlayerClipOnAirConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::PlayerClipOnAir const& source,
+                               Corvane::Data::Channels::PlayerClipOnAir& destination) const;
+
     ConversionResult To(Generated::PlayerClipOnAir const& source,
                         Corvane::Data::Channels::PlayerClipOnAir& destination) const noexcept override;
 
     ConversionResult To(Generated::PlayerClipOnAir&& source,
-                        Corvane::Data::Channels::PlayerClipOnAir& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Corvane::Data::Channels::PlayerClipOnAir& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Channels

@@ -4,6 +4,7 @@
 #include "Thrift/Data/Channels/EnumConverter.h"
 #include "Thrift/Data/Channels/ToPlayerClipOnAir.h"
 #include "Thrift/Detail/Boundaries.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "Thrift/Detail/SeenFields.h"
 #include "Thrift/Detail/Texts.h"
@@ -55,8 +56,8 @@ void ReadInfoOnAir(Generated::PlayerInfoOnAir const& source, Corvane::Data::Chan
 
 } // namespace
 
-ConversionResult ThriftToPlayerStateConverter::To(Generated::PlayerState const& source,
-                                                  Corvane::Data::Channels::PlayerState& destination) const noexcept
+ConversionResult ThriftToPlayerStateConverter::ToOrThrow(Generated::PlayerState const& source,
+                                                         Corvane::Data::Channels::PlayerState& destination) const
 {
     ThriftToPlayerClipOnAirConverter const toClipOnAir;
     auto const& isset = source.__isset;
@@ -70,12 +71,13 @@ ConversionResult ThriftToPlayerStateConverter::To(Generated::PlayerState const& 
     if (seen(isset.infoOnAir)) ReadInfoOnAir(source.infoOnAir, destination);
     if (seen(isset.pgmOnAir))
     {
-        if (auto const result = toClipOnAir.To(source.pgmOnAir, destination.pgmOnAir); !result.success)
+        if (auto const result = Read("pgmOnAir", toClipOnAir, source.pgmOnAir, destination.pgmOnAir); !result.success)
             return Nested(result);
     }
     if (seen(isset.previewOnAir))
     {
-        if (auto const result = toClipOnAir.To(source.previewOnAir, destination.previewOnAir); !result.success)
+        if (auto const result = Read("previewOnAir", toClipOnAir, source.previewOnAir, destination.previewOnAir);
+            !result.success)
             return Nested(result);
     }
     if (seen(isset.pgmInTimePointOnAir)) destination.pgmInTimePointOnAir = {source.pgmInTimePointOnAir};
@@ -106,6 +108,18 @@ ConversionResult ThriftToPlayerStateConverter::To(Generated::PlayerState const& 
     if (isset.outBoundary) destination.outBoundary = ReadBoundary(source.outBoundary);
 
     return seen.None() ? Failure("PlayerState is empty") : Success();
+}
+
+ConversionResult ThriftToPlayerStateConverter::To(Generated::PlayerState const& source,
+                                                  Corvane::Data::Channels::PlayerState& destination) const noexcept
+{
+    return ToOrTerminate(*this, source, destination);
+}
+
+ConversionResult ThriftToPlayerStateConverter::To(Generated::PlayerState&& source,
+                                                  Corvane::Data::Channels::PlayerState& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Channels

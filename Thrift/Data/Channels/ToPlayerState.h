@@ -36,14 +36,15 @@ class ThriftToPlayerStateConverter : public Converter<Generated::PlayerState, Co
 public:
     ~ThriftToPlayerStateConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::PlayerState const& source,
+                               Corvane::Data::Channels::PlayerState& destination) const;
+
     ConversionResult To(Generated::PlayerState const& source,
                         Corvane::Data::Channels::PlayerState& destination) const noexcept override;
 
     ConversionResult To(Generated::PlayerState&& source,
-                        Corvane::Data::Channels::PlayerState& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Corvane::Data::Channels::PlayerState& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Channels

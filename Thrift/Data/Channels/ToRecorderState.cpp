@@ -4,6 +4,7 @@
 #include "Thrift/Data/Channels/EnumConverter.h"
 #include "Thrift/Data/Clips/EnumConverter.h"
 #include "Thrift/Data/Clips/ToClip.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "Thrift/Detail/SeenFields.h"
 #include "Thrift/Detail/Texts.h"
@@ -18,8 +19,8 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Channels
 
 using namespace Detail;
 
-ConversionResult ThriftToRecorderStateConverter::To(Generated::RecorderState const& source,
-                                                    Corvane::Data::Channels::RecorderState& destination) const noexcept
+ConversionResult ThriftToRecorderStateConverter::ToOrThrow(Generated::RecorderState const& source,
+                                                           Corvane::Data::Channels::RecorderState& destination) const
 {
     Clips::ThriftToClipConverter const toClip;
     auto const& isset = source.__isset;
@@ -50,11 +51,24 @@ ConversionResult ThriftToRecorderStateConverter::To(Generated::RecorderState con
     if (seen(isset.recorderTrain))
     {
         Corvane::Data::Clips::Clip clip;
-        if (auto const result = toClip.To(source.recorderTrain, clip); !result.success) return Nested(result);
+        if (auto const result = Read("recorderTrain", toClip, source.recorderTrain, clip); !result.success)
+            return Nested(result);
         destination.recorderTrain = clip;
         destination.hasRecorderTrain = true;
     }
     return seen.None() ? Failure("RecorderState is empty") : Success();
+}
+
+ConversionResult ThriftToRecorderStateConverter::To(Generated::RecorderState const& source,
+                                                    Corvane::Data::Channels::RecorderState& destination) const noexcept
+{
+    return ToOrTerminate(*this, source, destination);
+}
+
+ConversionResult ThriftToRecorderStateConverter::To(Generated::RecorderState&& source,
+                                                    Corvane::Data::Channels::RecorderState& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Channels

@@ -34,14 +34,15 @@ class ThriftToRecorderStateConverter
 public:
     ~ThriftToRecorderStateConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::RecorderState const& source,
+                               Corvane::Data::Channels::RecorderState& destination) const;
+
     ConversionResult To(Generated::RecorderState const& source,
                         Corvane::Data::Channels::RecorderState& destination) const noexcept override;
 
     ConversionResult To(Generated::RecorderState&& source,
-                        Corvane::Data::Channels::RecorderState& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Corvane::Data::Channels::RecorderState& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Channels

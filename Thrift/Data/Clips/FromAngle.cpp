@@ -17,4 +17,10 @@ ConversionResult AngleToThriftConverter::To(Corvane::Data::Clips::Groups::Angle 
     return guidConverter.To(source.clipGuid, destination.clipId);
 }
 
+ConversionResult AngleToThriftConverter::To(Corvane::Data::Clips::Groups::Angle&& source,
+                                            Corvane::Data::Clips::Groups::Generated::Angle& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips

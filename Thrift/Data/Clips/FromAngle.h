@@ -26,10 +26,7 @@ public:
                         Corvane::Data::Clips::Groups::Generated::Angle& destination) const noexcept override;
 
     ConversionResult To(Corvane::Data::Clips::Groups::Angle&& source,
-                        Corvane::Data::Clips::Groups::Generated::Angle& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Corvane::Data::Clips::Groups::Generated::Angle& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips

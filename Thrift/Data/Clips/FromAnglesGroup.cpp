@@ -41,4 +41,11 @@ AnglesGroupToThriftConverter::To(Corvane::Data::Clips::Groups::AnglesGroup const
     return Success();
 }
 
+ConversionResult
+AnglesGroupToThriftConverter::To(Corvane::Data::Clips::Groups::AnglesGroup&& source,
+                                 Corvane::Data::Clips::Groups::Generated::AnglesGroup& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips

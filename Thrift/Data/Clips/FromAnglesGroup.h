@@ -29,10 +29,7 @@ public:
                         Corvane::Data::Clips::Groups::Generated::AnglesGroup& destination) const noexcept override;
 
     ConversionResult To(Corvane::Data::Clips::Groups::AnglesGroup&& source,
-                        Corvane::Data::Clips::Groups::Generated::AnglesGroup& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Corvane::Data::Clips::Groups::Generated::AnglesGroup& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips

@@ -116,4 +116,10 @@ ConversionResult ClipToThriftConverter::To(Corvane::Data::Clips::Clip const& sou
     return Success();
 }
 
+ConversionResult ClipToThriftConverter::To(Corvane::Data::Clips::Clip&& source,
+                                           Generated::Clip& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips

@@ -36,10 +36,7 @@ public:
 
     ConversionResult To(Corvane::Data::Clips::Clip const& source, Generated::Clip& destination) const noexcept override;
 
-    ConversionResult To(Corvane::Data::Clips::Clip&& source, Generated::Clip& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+    ConversionResult To(Corvane::Data::Clips::Clip&& source, Generated::Clip& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips

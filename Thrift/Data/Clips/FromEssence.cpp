@@ -30,4 +30,10 @@ ConversionResult EssenceToThriftConverter::To(Corvane::Data::Clips::Clip::Essenc
     return Success();
 }
 
+ConversionResult EssenceToThriftConverter::To(Corvane::Data::Clips::Clip::Essence&& source,
+                                              Generated::Essence& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips

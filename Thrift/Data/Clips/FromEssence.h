@@ -22,10 +22,7 @@ public:
                         Generated::Essence& destination) const noexcept override;
 
     ConversionResult To(Corvane::Data::Clips::Clip::Essence&& source,
-                        Generated::Essence& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::Essence& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips

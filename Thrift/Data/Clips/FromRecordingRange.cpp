@@ -22,4 +22,10 @@ ConversionResult RecordingRangeToThriftConverter::To(Corvane::Data::Clips::Recor
     return Success();
 }
 
+ConversionResult RecordingRangeToThriftConverter::To(Corvane::Data::Clips::RecordingRange&& source,
+                                                     Generated::RecordingRange& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips

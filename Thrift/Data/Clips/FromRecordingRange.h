@@ -30,10 +30,7 @@ public:
                         Generated::RecordingRange& destination) const noexcept override;
 
     ConversionResult To(Corvane::Data::Clips::RecordingRange&& source,
-                        Generated::RecordingRange& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::RecordingRange& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips

@@ -28,7 +28,7 @@ ConversionResult TrainToThriftConverter::To(Corvane::Data::Clips::Train const& s
     destination.__isset.trainData = source.trainClip != nullptr;
 
     // Appended: a destination that holds ranges already keeps them in front. What a range reports is not looked at.
-    AppendAll(fromRange, source.trainRanges, destination.recordingRanges);
+    AppendAll("recordingRanges", fromRange, source.trainRanges, destination.recordingRanges);
     destination.__isset.recordingRanges = !destination.recordingRanges.empty();
 
     TALVO_FLAGGED(destination, isInMoving) = source.isInMoving;
@@ -36,6 +36,12 @@ ConversionResult TrainToThriftConverter::To(Corvane::Data::Clips::Train const& s
     if (IsPresent(source.lastKnownTimeCode))
         WriteTimeCode(source.lastKnownTimeCode, TALVO_FLAGGED(destination, lastKnownTimeCode));
     return Success();
+}
+
+ConversionResult TrainToThriftConverter::To(Corvane::Data::Clips::Train&& source,
+                                            Generated::Train& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips

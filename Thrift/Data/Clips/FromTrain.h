@@ -30,10 +30,7 @@ public:
     ConversionResult To(Corvane::Data::Clips::Train const& source,
                         Generated::Train& destination) const noexcept override;
 
-    ConversionResult To(Corvane::Data::Clips::Train&& source, Generated::Train& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+    ConversionResult To(Corvane::Data::Clips::Train&& source, Generated::Train& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips

@@ -3,6 +3,7 @@
 #include "Domain/CorvaneData/Clips/Groups/Angle.h"
 #include "Thrift/Data/Clips/EnumConverter.h"
 #include "Thrift/Data/ToGuid.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/Angle_types.h"
 
@@ -17,10 +18,17 @@ ConversionResult ThriftToAngleConverter::To(Corvane::Data::Clips::Groups::Genera
     static ThriftToGuidConverter const guidConverter;
 
     Corvane::Data::Clips::Guid clipGuid;
-    if (auto const result = guidConverter.To(source.clipId, clipGuid); !result.success) return Nested(result);
+    if (auto const result = Read("clipId", guidConverter, source.clipId, clipGuid); !result.success)
+        return Nested(result);
 
     destination = {EnumConverter::FromGeneratedEnum(source.camera), clipGuid};
     return Success();
+}
+
+ConversionResult ThriftToAngleConverter::To(Corvane::Data::Clips::Groups::Generated::Angle&& source,
+                                            Corvane::Data::Clips::Groups::Angle& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips

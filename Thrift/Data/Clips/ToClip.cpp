@@ -3,6 +3,7 @@
 #include "Domain/CorvaneData/Clips/Clip.h"
 #include "Thrift/Data/Clips/EnumConverter.h"
 #include "Thrift/Data/Clips/ToEssence.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "Thrift/Detail/SeenFields.h"
 #include "Thrift/Detail/Texts.h"
@@ -43,8 +44,8 @@ void ReadUserBits(std::vector<std::int16_t> const& source, std::array<unsigned c
 
 } // namespace
 
-ConversionResult ThriftToClipConverter::To(Generated::Clip const& source,
-                                           Corvane::Data::Clips::Clip& destination) const noexcept
+ConversionResult ThriftToClipConverter::ToOrThrow(Generated::Clip const& source,
+                                                  Corvane::Data::Clips::Clip& destination) const
 {
     ThriftToEssenceConverter const toEssence;
     auto const& isset = source.__isset;
@@ -98,29 +99,44 @@ ConversionResult ThriftToClipConverter::To(Generated::Clip const& source,
 
     // Both read unguarded: a text that is no time code ends the process.
     if (seen(isset.inBoundTodTimecode) &&
-        !destination.TrySetInBoundTodTimecode(ParseTimeCode(source.inBoundTodTimecode)))
+        !destination.TrySetInBoundTodTimecode(ParseTimeCode("inBoundTodTimecode", source.inBoundTodTimecode)))
         return Failure("In Bound TOD Timecode Rate inconsistent with Clip Rate");
     if (seen(isset.inBoundUserTimecode) &&
-        !destination.TrySetInBoundUserTimecode(ParseTimeCode(source.inBoundUserTimecode)))
+        !destination.TrySetInBoundUserTimecode(ParseTimeCode("inBoundUserTimecode", source.inBoundUserTimecode)))
         return Failure("In Bound User Timecode Rate inconsistent with Clip Rate");
     if (seen(isset.inBoundTimepoint)) destination.inBoundTimepoint = {source.inBoundTimepoint};
 
     if (seen(isset.intraEssence))
     {
-        if (auto const result = toEssence.To(source.intraEssence, destination.intraEssence); !result.success)
+        if (auto const result = Read("intraEssence", toEssence, source.intraEssence, destination.intraEssence);
+            !result.success)
             return Nested(result);
     }
     if (seen(isset.longGopEssence))
     {
-        if (auto const result = toEssence.To(source.longGopEssence, destination.longGopEssence); !result.success)
+        if (auto const result = Read("longGopEssence", toEssence, source.longGopEssence, destination.longGopEssence);
+            !result.success)
             return Nested(result);
     }
     if (seen(isset.lowResEssence))
     {
-        if (auto const result = toEssence.To(source.lowResEssence, destination.lowResEssence); !result.success)
+        if (auto const result = Read("lowResEssence", toEssence, source.lowResEssence, destination.lowResEssence);
+            !result.success)
             return Nested(result);
     }
     return seen.None() ? Failure("Clip is empty") : Success();
+}
+
+ConversionResult ThriftToClipConverter::To(Generated::Clip const& source,
+                                           Corvane::Data::Clips::Clip& destination) const noexcept
+{
+    return ToOrTerminate(*this, source, destination);
+}
+
+ConversionResult ThriftToClipConverter::To(Generated::Clip&& source,
+                                           Corvane::Data::Clips::Clip& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips

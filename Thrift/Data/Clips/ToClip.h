@@ -35,12 +35,12 @@ class ThriftToClipConverter : public Converter<Generated::Clip, Corvane::Data::C
 public:
     ~ThriftToClipConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::Clip const& source, Corvane::Data::Clips::Clip& destination) const;
+
     ConversionResult To(Generated::Clip const& source, Corvane::Data::Clips::Clip& destination) const noexcept override;
 
-    ConversionResult To(Generated::Clip&& source, Corvane::Data::Clips::Clip& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+    ConversionResult To(Generated::Clip&& source, Corvane::Data::Clips::Clip& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips

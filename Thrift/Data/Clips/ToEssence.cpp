@@ -38,4 +38,10 @@ ConversionResult ThriftToEssenceConverter::To(Generated::Essence const& source,
     return seen.None() ? Failure("Essence is empty") : Success();
 }
 
+ConversionResult ThriftToEssenceConverter::To(Generated::Essence&& source,
+                                              Corvane::Data::Clips::Clip::Essence& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips

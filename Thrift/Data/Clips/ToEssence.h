@@ -26,10 +26,7 @@ public:
                         Corvane::Data::Clips::Clip::Essence& destination) const noexcept override;
 
     ConversionResult To(Generated::Essence&& source,
-                        Corvane::Data::Clips::Clip::Essence& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Corvane::Data::Clips::Clip::Essence& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips

@@ -28,4 +28,10 @@ ConversionResult ThriftToRecordingRangeConverter::To(Generated::RecordingRange c
     return Success();
 }
 
+ConversionResult ThriftToRecordingRangeConverter::To(Generated::RecordingRange&& source,
+                                                     Corvane::Data::Clips::RecordingRange& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips

@@ -30,10 +30,7 @@ public:
                         Corvane::Data::Clips::RecordingRange& destination) const noexcept override;
 
     ConversionResult To(Generated::RecordingRange&& source,
-                        Corvane::Data::Clips::RecordingRange& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Corvane::Data::Clips::RecordingRange& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips

@@ -4,6 +4,7 @@
 #include "Thrift/Data/Clips/ToClip.h"
 #include "Thrift/Data/Clips/ToRecordingRange.h"
 #include "Thrift/Detail/Lists.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "Thrift/Detail/SeenFields.h"
 #include "Thrift/Detail/TimeCodes.h"
@@ -21,8 +22,8 @@ using Corvane::Data::Clips::Clip;
 using Corvane::Data::Clips::RecordingRange;
 using TimePoints::TimeCode;
 
-ConversionResult ThriftToTrainConverter::To(Generated::Train const& source,
-                                            Corvane::Data::Clips::Train& destination) const noexcept
+ConversionResult ThriftToTrainConverter::ToOrThrow(Generated::Train const& source,
+                                                   Corvane::Data::Clips::Train& destination) const
 {
     ThriftToClipConverter const toClip;
     ThriftToRecordingRangeConverter const toRange;
@@ -33,14 +34,15 @@ ConversionResult ThriftToTrainConverter::To(Generated::Train const& source,
     if (seen(isset.trainData))
     {
         trainClip = std::make_unique<Clip>();
-        if (auto const result = toClip.To(source.trainData, *trainClip); !result.success) return Nested(result);
+        if (auto const result = Read("trainData", toClip, source.trainData, *trainClip); !result.success)
+            return Nested(result);
     }
 
     std::vector<RecordingRange> trainRanges;
     if (seen(isset.recordingRanges))
     {
         // A range that fails stays in the list as an empty one, so that both sides count the same number of ranges.
-        AppendAll(toRange, source.recordingRanges, trainRanges);
+        AppendAll("recordingRanges", toRange, source.recordingRanges, trainRanges);
     }
 
     bool const isInMoving = seen(isset.isInMoving) && source.isInMoving;
@@ -53,6 +55,18 @@ ConversionResult ThriftToTrainConverter::To(Generated::Train const& source,
     destination = Corvane::Data::Clips::Train(std::move(trainClip), std::move(trainRanges), isInMoving, isOutMoving,
                                               TimeCode(lastKnownTimeCode));
     return seen.None() ? Failure("Train is empty") : Success();
+}
+
+ConversionResult ThriftToTrainConverter::To(Generated::Train const& source,
+                                            Corvane::Data::Clips::Train& destination) const noexcept
+{
+    return ToOrTerminate(*this, source, destination);
+}
+
+ConversionResult ThriftToTrainConverter::To(Generated::Train&& source,
+                                            Corvane::Data::Clips::Train& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips

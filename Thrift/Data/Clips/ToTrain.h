@@ -31,13 +31,13 @@ class ThriftToTrainConverter : public Converter<Generated::Train, Corvane::Data:
 public:
     ~ThriftToTrainConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::Train const& source, Corvane::Data::Clips::Train& destination) const;
+
     ConversionResult To(Generated::Train const& source,
                         Corvane::Data::Clips::Train& destination) const noexcept override;
 
-    ConversionResult To(Generated::Train&& source, Corvane::Data::Clips::Train& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+    ConversionResult To(Generated::Train&& source, Corvane::Data::Clips::Train& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips

@@ -36,4 +36,10 @@ ConversionResult AudioVideoElementToThriftConverter::To(Corvane::Data::Sequences
     return Success();
 }
 
+ConversionResult AudioVideoElementToThriftConverter::To(Corvane::Data::Sequences::AudioVideoElement&& source,
+                                                        Generated::AudioVideoElement& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

@@ -29,10 +29,7 @@ public:
                         Generated::AudioVideoElement& destination) const noexcept override;
 
     ConversionResult To(Corvane::Data::Sequences::AudioVideoElement&& source,
-                        Generated::AudioVideoElement& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::AudioVideoElement& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

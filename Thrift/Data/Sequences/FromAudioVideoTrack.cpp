@@ -23,11 +23,18 @@ ConversionResult AudioVideoTrackToThriftConverter::To(Track<AudioVideoElement> c
     bool const isNumberOnly = source.elements.empty() && source.numberOfElements != 0;
     if (isNumberOnly)
         destination.numberOfElements = source.numberOfElements;
-    else if (auto const result = AppendEach(fromElement, source.elements, destination.elements); !result.success)
+    else if (auto const result = AppendEach("elements", fromElement, source.elements, destination.elements);
+             !result.success)
         return Nested(result);
     destination.__isset.elements = !isNumberOnly;
     destination.__isset.numberOfElements = isNumberOnly;
     return Success();
+}
+
+ConversionResult AudioVideoTrackToThriftConverter::To(Track<AudioVideoElement>&& source,
+                                                      Generated::AudioVideoTrack& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

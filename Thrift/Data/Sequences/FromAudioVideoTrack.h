@@ -32,10 +32,7 @@ public:
                         Generated::AudioVideoTrack& destination) const noexcept override;
 
     ConversionResult To(Corvane::Data::Sequences::Track<Corvane::Data::Sequences::AudioVideoElement>&& source,
-                        Generated::AudioVideoTrack& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::AudioVideoTrack& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

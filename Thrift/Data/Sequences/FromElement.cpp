@@ -33,7 +33,8 @@ ConversionResult ElementToThriftConverter::To(Corvane::Data::Sequences::Element 
     TALVO_FLAGGED(destination, stillMode) = ToGeneratedEnum(source.stillMode);
     TALVO_FLAGGED(destination, transitionTimer) = source.transitionTimer;
     // Appended: a destination that holds tags already keeps them in front.
-    if (auto const result = AppendEach(fromTag, source.tags, destination.tags); !result.success) return Nested(result);
+    if (auto const result = AppendEach("tags", fromTag, source.tags, destination.tags); !result.success)
+        return Nested(result);
     destination.__isset.tags = true;
     TALVO_FLAGGED(destination, internalLoopId) = source.internalLoopId;
     TALVO_FLAGGED(destination, internalLoopRunNb) = source.internalLoopRunNb;
@@ -41,6 +42,12 @@ ConversionResult ElementToThriftConverter::To(Corvane::Data::Sequences::Element 
     TALVO_FLAGGED(destination, speed).numerator = source.speed.numerator;
     destination.speed.denominator = source.speed.denominator;
     return Success();
+}
+
+ConversionResult ElementToThriftConverter::To(Corvane::Data::Sequences::Element&& source,
+                                              Generated::Element& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

@@ -28,10 +28,7 @@ public:
                         Generated::Element& destination) const noexcept override;
 
     ConversionResult To(Corvane::Data::Sequences::Element&& source,
-                        Generated::Element& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::Element& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

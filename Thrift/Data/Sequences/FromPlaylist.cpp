@@ -30,4 +30,10 @@ ConversionResult PlaylistToThriftConverter::To(Corvane::Data::Sequences::Playlis
     return Success();
 }
 
+ConversionResult PlaylistToThriftConverter::To(Corvane::Data::Sequences::Playlist&& source,
+                                               Generated::Playlist& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

@@ -29,10 +29,7 @@ public:
                         Generated::Playlist& destination) const noexcept override;
 
     ConversionResult To(Corvane::Data::Sequences::Playlist&& source,
-                        Generated::Playlist& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::Playlist& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

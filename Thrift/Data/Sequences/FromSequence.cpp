@@ -41,4 +41,10 @@ ConversionResult SequenceToThriftConverter::To(Corvane::Data::Sequences::Sequenc
     return Success();
 }
 
+ConversionResult SequenceToThriftConverter::To(Corvane::Data::Sequences::Sequence&& source,
+                                               Generated::Sequence& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

@@ -31,10 +31,7 @@ public:
                         Generated::Sequence& destination) const noexcept override;
 
     ConversionResult To(Corvane::Data::Sequences::Sequence&& source,
-                        Generated::Sequence& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::Sequence& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

@@ -20,4 +20,10 @@ ConversionResult SequenceIdToThriftConverter::To(Corvane::Data::Sequences::Seque
     return Success();
 }
 
+ConversionResult SequenceIdToThriftConverter::To(Corvane::Data::Sequences::SequenceId&& source,
+                                                 Generated::SequenceId& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

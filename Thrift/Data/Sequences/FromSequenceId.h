@@ -25,10 +25,7 @@ public:
                         Generated::SequenceId& destination) const noexcept override;
 
     ConversionResult To(Corvane::Data::Sequences::SequenceId&& source,
-                        Generated::SequenceId& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::SequenceId& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

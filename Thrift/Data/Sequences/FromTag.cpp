@@ -55,4 +55,10 @@ ConversionResult TagToThriftConverter::To(Corvane::Data::Sequences::Tag const& s
     return Success();
 }
 
+ConversionResult TagToThriftConverter::To(Corvane::Data::Sequences::Tag&& source,
+                                          Generated::Tag& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

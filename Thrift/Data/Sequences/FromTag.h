@@ -28,10 +28,7 @@ public:
     ConversionResult To(Corvane::Data::Sequences::Tag const& source,
                         Generated::Tag& destination) const noexcept override;
 
-    ConversionResult To(Corvane::Data::Sequences::Tag&& source, Generated::Tag& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+    ConversionResult To(Corvane::Data::Sequences::Tag&& source, Generated::Tag& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

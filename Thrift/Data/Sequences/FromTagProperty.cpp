@@ -21,4 +21,10 @@ ConversionResult TagPropertyToThriftConverter::To(Corvane::Data::Sequences::TagP
     return Success();
 }
 
+ConversionResult TagPropertyToThriftConverter::To(Corvane::Data::Sequences::TagProperty&& source,
+                                                  Generated::TagProperty& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

@@ -26,10 +26,7 @@ public:
                         Generated::TagProperty& destination) const noexcept override;
 
     ConversionResult To(Corvane::Data::Sequences::TagProperty&& source,
-                        Generated::TagProperty& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::TagProperty& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

@@ -29,14 +29,15 @@ class ThriftToAudioVideoElementConverter
 public:
     ~ThriftToAudioVideoElementConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::AudioVideoElement const& source,
+                               Corvane::Data::Sequences::AudioVideoElement& destination) const;
+
     ConversionResult To(Generated::AudioVideoElement const& source,
                         Corvane::Data::Sequences::AudioVideoElement& destination) const noexcept override;
 
     ConversionResult To(Generated::AudioVideoElement&& source,
-                        Corvane::Data::Sequences::AudioVideoElement& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Corvane::Data::Sequences::AudioVideoElement& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

@@ -34,16 +34,18 @@ class ThriftToAudioVideoTrackConverter
 public:
     ~ThriftToAudioVideoTrackConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult
+    ToOrThrow(Generated::AudioVideoTrack const& source,
+              Corvane::Data::Sequences::Track<Corvane::Data::Sequences::AudioVideoElement>& destination) const;
+
     ConversionResult To(Generated::AudioVideoTrack const& source,
                         Corvane::Data::Sequences::Track<Corvane::Data::Sequences::AudioVideoElement>& destination)
         const noexcept override;
 
     ConversionResult To(Generated::AudioVideoTrack&& source,
                         Corvane::Data::Sequences::Track<Corvane::Data::Sequences::AudioVideoElement>& destination)
-        const noexcept override
-    {
-        return To(source, destination);
-    }
+        const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

@@ -5,10 +5,12 @@
 #include "Thrift/Data/Sequences/ToSequenceId.h"
 #include "Thrift/Data/Sequences/ToTag.h"
 #include "Thrift/Detail/Lists.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "Thrift/Detail/SeenFields.h"
 #include "generated/Element_types.h"
 
+#include <cstddef>
 #include <vector>
 
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences
@@ -28,11 +30,11 @@ ConversionResult ReadTags(std::vector<Generated::Tag> const& source, std::vector
     ThriftToTagConverter const toTag;
 
     ReserveMore(destination, source.size());
-    for (auto const& wireTag : source)
+    for (std::size_t i = 0; i < source.size(); ++i)
     {
         // The type is taken whatever its flag says.
-        auto& tag = destination.emplace_back(FromGeneratedEnum(wireTag.commandType));
-        if (auto const result = toTag.To(wireTag, tag); !result.success)
+        auto& tag = destination.emplace_back(FromGeneratedEnum(source[i].commandType));
+        if (auto const result = Read({"tags", i}, toTag, source[i], tag); !result.success)
         {
             destination.pop_back();
             return Nested(result);
@@ -43,8 +45,8 @@ ConversionResult ReadTags(std::vector<Generated::Tag> const& source, std::vector
 
 } // namespace
 
-ConversionResult ThriftToElementConverter::To(Generated::Element const& source,
-                                              Corvane::Data::Sequences::Element& destination) const noexcept
+ConversionResult ThriftToElementConverter::ToOrThrow(Generated::Element const& source,
+                                                     Corvane::Data::Sequences::Element& destination) const
 {
     ThriftToSequenceIdConverter const toSequenceId;
     auto const& isset = source.__isset;
@@ -54,7 +56,8 @@ ConversionResult ThriftToElementConverter::To(Generated::Element const& source,
     if (seen(isset.sequenceId))
     {
         SequenceId sequenceId;
-        if (auto const result = toSequenceId.To(source.sequenceId, sequenceId); !result.success) return Nested(result);
+        if (auto const result = Read("sequenceId", toSequenceId, source.sequenceId, sequenceId); !result.success)
+            return Nested(result);
         destination.sequenceId = sequenceId;
     }
     if (seen(isset.position)) destination.position = source.position;
@@ -72,6 +75,18 @@ ConversionResult ThriftToElementConverter::To(Generated::Element const& source,
     if (seen(isset.internalLoopRunNb)) destination.internalLoopRunNb = source.internalLoopRunNb;
     if (seen(isset.speed)) destination.speed = {source.speed.numerator, source.speed.denominator};
     return seen.None() ? Failure("Element is empty") : Success();
+}
+
+ConversionResult ThriftToElementConverter::To(Generated::Element const& source,
+                                              Corvane::Data::Sequences::Element& destination) const noexcept
+{
+    return ToOrTerminate(*this, source, destination);
+}
+
+ConversionResult ThriftToElementConverter::To(Generated::Element&& source,
+                                              Corvane::Data::Sequences::Element& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

@@ -31,14 +31,14 @@ class ThriftToElementConverter : public Converter<Generated::Element, Corvane::D
 public:
     ~ThriftToElementConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::Element const& source, Corvane::Data::Sequences::Element& destination) const;
+
     ConversionResult To(Generated::Element const& source,
                         Corvane::Data::Sequences::Element& destination) const noexcept override;
 
     ConversionResult To(Generated::Element&& source,
-                        Corvane::Data::Sequences::Element& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Corvane::Data::Sequences::Element& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

@@ -30,14 +30,15 @@ class ThriftToPlaylistConverter : public Converter<Generated::Playlist, Corvane:
 public:
     ~ThriftToPlaylistConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::Playlist const& source,
+                               Corvane::Data::Sequences::Playlist& destination) const;
+
     ConversionResult To(Generated::Playlist const& source,
                         Corvane::Data::Sequences::Playlist& destination) const noexcept override;
 
     ConversionResult To(Generated::Playlist&& source,
-                        Corvane::Data::Sequences::Playlist& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Corvane::Data::Sequences::Playlist& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

@@ -3,10 +3,11 @@
 #include "Domain/CorvaneData/Sequences/Sequence.h"
 #include "Thrift/Data/Clips/EnumConverter.h"
 #include "Thrift/Data/Sequences/EnumConverter.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "Thrift/Detail/SeenFields.h"
 #include "Thrift/Detail/Texts.h"
-#include "Thrift/Detail/TimeCodes.h"
+#include "TimePoints/TalvoTimeCodeParser.h"
 #include "TimePoints/VideoRates.h"
 #include "generated/Sequence_types.h"
 
@@ -22,6 +23,7 @@ using namespace Detail;
 using Corvane::Data::Sequences::SequenceId;
 using Corvane::Data::Servers::ServerId;
 using EnumConverter::FromGeneratedEnum;
+using TimePoints::TalvoTimeCodeParser;
 using TimePoints::VideoRate;
 using TimePoints::VideoRates;
 
@@ -42,15 +44,17 @@ std::optional<VideoRate> PlayRate(std::int64_t const numerator, std::int64_t con
 
 } // namespace
 
-ConversionResult ThriftToSequenceConverter::To(Generated::Sequence const& source,
-                                               Corvane::Data::Sequences::Sequence& destination) const noexcept
+ConversionResult ThriftToSequenceConverter::ToOrThrow(Generated::Sequence const& source,
+                                                      Corvane::Data::Sequences::Sequence& destination) const
 {
     auto const& isset = source.__isset;
     SeenFields seen;
 
-    // The flags inside the identifier are not looked at. A bad location throws, which ends the process.
+    // The flags inside the identifier are not read, and a bad location is never a result.
     if (seen(isset.id))
-        destination.id = SequenceId(ServerId(source.id.serverId), static_cast<std::uint32_t>(source.id.location));
+        destination.id = OrBadValue(
+            "id.location",
+            [&] { return SequenceId(ServerId(source.id.serverId), static_cast<std::uint32_t>(source.id.location)); });
     if (seen(isset.umId)) destination.umId.SetUmId(source.umId.c_str());
     if (seen(isset.varId)) ReadSlot(source.varId, destination.varId);
     if (seen(isset.name)) ReadSlot(source.name, destination.name);
@@ -58,14 +62,18 @@ ConversionResult ThriftToSequenceConverter::To(Generated::Sequence const& source
     if (isset.isTimeCodeRegen) destination.isTimeCodeRegen = source.isTimeCodeRegen;
     if (seen(isset.timeCodeRegenReference))
     {
-        // Only a text that has the form of no time code is a failure. One that names none ends the process.
+        // Only a text that has not the form of a time code is a failure. An invalid value ends the process.
         try
         {
-            destination.timeCodeRegenReference = ParseTimeCode(source.timeCodeRegenReference);
+            destination.timeCodeRegenReference = TalvoTimeCodeParser().Parse(source.timeCodeRegenReference);
         }
         catch (std::invalid_argument const& error)
         {
             return Failure(std::string("Invalid TimeCode format (") + error.what() + ")");
+        }
+        catch (std::out_of_range const& error)
+        {
+            throw BadValue("timeCodeRegenReference", error.what());
         }
     }
     if (isset.timeCodeRegenBase) destination.timeCodeRegenBase = FromGeneratedEnum(source.timeCodeRegenBase);
@@ -86,6 +94,18 @@ ConversionResult ThriftToSequenceConverter::To(Generated::Sequence const& source
     if (seen(isset.archiveStatus))
         destination.archiveStatus = Clips::EnumConverter::FromGeneratedEnum(source.archiveStatus);
     return seen.None() ? Failure("Sequence is empty") : Success();
+}
+
+ConversionResult ThriftToSequenceConverter::To(Generated::Sequence const& source,
+                                               Corvane::Data::Sequences::Sequence& destination) const noexcept
+{
+    return ToOrTerminate(*this, source, destination);
+}
+
+ConversionResult ThriftToSequenceConverter::To(Generated::Sequence&& source,
+                                               Corvane::Data::Sequences::Sequence& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

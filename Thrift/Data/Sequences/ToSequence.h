@@ -37,14 +37,15 @@ class ThriftToSequenceConverter : public Converter<Generated::Sequence, Corvane:
 public:
     ~ThriftToSequenceConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::Sequence const& source,
+                               Corvane::Data::Sequences::Sequence& destination) const;
+
     ConversionResult To(Generated::Sequence const& source,
                         Corvane::Data::Sequences::Sequence& destination) const noexcept override;
 
     ConversionResult To(Generated::Sequence&& source,
-                        Corvane::Data::Sequences::Sequence& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Corvane::Data::Sequences::Sequence& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

@@ -1,6 +1,7 @@
 #include "Thrift/Data/Sequences/ToSequenceId.h"
 
 #include "Domain/CorvaneData/Sequences/SequenceId.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "Thrift/Detail/SeenFields.h"
 #include "generated/SequenceId_types.h"
@@ -14,17 +15,29 @@ using namespace Detail;
 using Corvane::Data::Sequences::SequenceId;
 using Corvane::Data::Servers::ServerId;
 
-ConversionResult ThriftToSequenceIdConverter::To(Generated::SequenceId const& source,
-                                                 SequenceId& destination) const noexcept
+ConversionResult ThriftToSequenceIdConverter::ToOrThrow(Generated::SequenceId const& source,
+                                                        SequenceId& destination) const
 {
     auto const& isset = source.__isset;
     SeenFields seen;
 
     if (seen(isset.serverId)) destination.serverId = ServerId(source.serverId);
-    // A bad location throws, which ends the process: it is never a result.
+    // A bad location is never a result.
     if (seen(isset.location))
-        destination = SequenceId(destination.serverId, static_cast<std::uint32_t>(source.location));
+        destination = OrBadValue(
+            "location", [&] { return SequenceId(destination.serverId, static_cast<std::uint32_t>(source.location)); });
     return seen.None() ? Failure("SequenceId is empty") : Success();
+}
+
+ConversionResult ThriftToSequenceIdConverter::To(Generated::SequenceId const& source,
+                                                 SequenceId& destination) const noexcept
+{
+    return ToOrTerminate(*this, source, destination);
+}
+
+ConversionResult ThriftToSequenceIdConverter::To(Generated::SequenceId&& source, SequenceId& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

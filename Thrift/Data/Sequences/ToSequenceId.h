@@ -25,14 +25,15 @@ class ThriftToSequenceIdConverter : public Converter<Generated::SequenceId, Corv
 public:
     ~ThriftToSequenceIdConverter() override = default;
 
+    /// As To(), but throws BadValue for what ends the process there.
+    ConversionResult ToOrThrow(Generated::SequenceId const& source,
+                               Corvane::Data::Sequences::SequenceId& destination) const;
+
     ConversionResult To(Generated::SequenceId const& source,
                         Corvane::Data::Sequences::SequenceId& destination) const noexcept override;
 
     ConversionResult To(Generated::SequenceId&& source,
-                        Corvane::Data::Sequences::SequenceId& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Corvane::Data::Sequences::SequenceId& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

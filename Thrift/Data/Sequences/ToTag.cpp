@@ -3,6 +3,7 @@
 #include "Domain/CorvaneData/Sequences/Tag.h"
 #include "Thrift/Data/Sequences/EnumConverter.h"
 #include "Thrift/Data/Sequences/ToTagProperty.h"
+#include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "Thrift/Detail/SeenFields.h"
 #include "generated/Tag_types.h"
@@ -46,12 +47,18 @@ ConversionResult ThriftToTagConverter::To(Generated::Tag const& source, Tag& des
         for (auto const& [key, wireProperty] : source.properties)
         {
             TagProperty property;
-            if (auto const result = toProperty.To(wireProperty, property); !result.success) return Nested(result);
+            if (auto const result = Read("properties", toProperty, wireProperty, property); !result.success)
+                return Nested(result);
             // A key that is there already keeps its value.
             destination.properties.try_emplace(FromGeneratedEnum(key), std::move(property));
         }
     }
     return seen.None() ? Failure("Tag is empty") : Success();
+}
+
+ConversionResult ThriftToTagConverter::To(Generated::Tag&& source, Tag& destination) const noexcept
+{
+    return To(source, destination);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

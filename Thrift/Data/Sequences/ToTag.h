@@ -36,10 +36,7 @@ public:
     ConversionResult To(Generated::Tag const& source,
                         Corvane::Data::Sequences::Tag& destination) const noexcept override;
 
-    ConversionResult To(Generated::Tag&& source, Corvane::Data::Sequences::Tag& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+    ConversionResult To(Generated::Tag&& source, Corvane::Data::Sequences::Tag& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

@@ -20,4 +20,10 @@ ConversionResult ThriftToTagPropertyConverter::To(Generated::TagProperty const& 
     return Success();
 }
 
+ConversionResult ThriftToTagPropertyConverter::To(Generated::TagProperty&& source,
+                                                  Corvane::Data::Sequences::TagProperty& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

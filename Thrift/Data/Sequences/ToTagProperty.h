@@ -29,10 +29,7 @@ public:
                         Corvane::Data::Sequences::TagProperty& destination) const noexcept override;
 
     ConversionResult To(Generated::TagProperty&& source,
-                        Corvane::Data::Sequences::TagProperty& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Corvane::Data::Sequences::TagProperty& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences

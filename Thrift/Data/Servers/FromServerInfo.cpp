@@ -55,4 +55,10 @@ ConversionResult ServerInfoToThriftConverter::To(Corvane::Data::Servers::ServerI
     return Success();
 }
 
+ConversionResult ServerInfoToThriftConverter::To(Corvane::Data::Servers::ServerInfo&& source,
+                                                 Generated::ServerInfo& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Servers

@@ -29,10 +29,7 @@ public:
                         Generated::ServerInfo& destination) const noexcept override;
 
     ConversionResult To(Corvane::Data::Servers::ServerInfo&& source,
-                        Generated::ServerInfo& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Generated::ServerInfo& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Servers

@@ -58,4 +58,10 @@ ConversionResult ThriftToServerInfoConverter::To(Generated::ServerInfo const& so
     return seen.None() ? Failure("ServerInfo is empty") : Success();
 }
 
+ConversionResult ThriftToServerInfoConverter::To(Generated::ServerInfo&& source,
+                                                 Corvane::Data::Servers::ServerInfo& destination) const noexcept
+{
+    return To(source, destination);
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Servers

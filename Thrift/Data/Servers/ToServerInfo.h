@@ -34,10 +34,7 @@ public:
                         Corvane::Data::Servers::ServerInfo& destination) const noexcept override;
 
     ConversionResult To(Generated::ServerInfo&& source,
-                        Corvane::Data::Servers::ServerInfo& destination) const noexcept override
-    {
-        return To(source, destination);
-    }
+                        Corvane::Data::Servers::ServerInfo& destination) const noexcept override;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Servers

@@ -197,19 +197,6 @@ TEST(ClipResultsItemConversion, ReceivedClipIsKeptByAnItemThatHasSucceededByThen
               Shown(SomeItem<ClipResultsItem>(Succeeded, Clip::Empty())));
 }
 
-TEST(ClipResultsItemConversionDeathTest, BadTimeCodeOfAClipThatWouldBeDroppedEndsTheProcess)
-{
-    Generated::ClipResultsItem wire;
-    wire.operationStatus = WireStatus(WireStatusOf::Failed);
-    wire.clip.inBoundTodTimecode = "noon";
-    wire.clip.__isset.inBoundTodTimecode = true;
-    wire.__isset.operationStatus = wire.__isset.clip = true;
-    ClipResultsItem item;
-    EXPECT_DEATH(std::ignore = ThriftToClipResultsItemConverter().To(wire, item), "terminate");
-    wire.__isset.clip = false;
-    EXPECT_EQ(Item::Told(wire, item), "");
-}
-
 /// An item each: one that succeeded with its clip, one that failed, one that waits.
 ClipCommandReply FullReply(char const id)
 {

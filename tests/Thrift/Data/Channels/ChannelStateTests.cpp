@@ -100,20 +100,6 @@ TEST(PlayerClipOnAirConversion, ClipReplacesAndABadOneLeavesTheDestination)
     EXPECT_EQ(clip, expected);
 }
 
-TEST(PlayerClipOnAirConversionDeathTest, TimeCodeTextsAreReadUnguarded)
-{
-    Generated::PlayerState tod, user;
-    tod.__isset.pgmOnAir = user.__isset.previewOnAir = true;
-    tod.pgmOnAir.__set_todCurTimecodeOnAir("2023-02-29T00:00:00:00@50");
-    user.previewOnAir.__set_userCurTimecodeOnAir("00:00:00:00@99999999999");
-    PlayerClipOnAir clip;
-    EXPECT_DEATH(std::ignore = ThriftToPlayerClipOnAirConverter().To(tod.pgmOnAir, clip), "terminate");
-    EXPECT_DEATH(std::ignore = ThriftToPlayerClipOnAirConverter().To(user.previewOnAir, clip), "terminate");
-    PlayerState state; // nor is there a guard around it
-    EXPECT_DEATH(std::ignore = ThriftToPlayerStateConverter().To(tod, state), "terminate");
-    EXPECT_DEATH(std::ignore = ThriftToPlayerStateConverter().To(user, state), "terminate");
-}
-
 TEST(PlayerStateConversion, RoundTrip)
 {
     ExpectRoundTrip<Player>(FullPlayerState());

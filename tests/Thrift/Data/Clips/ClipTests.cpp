@@ -324,24 +324,5 @@ TEST(ClipConversion, EmptyEssenceStopsTheConversion)
     EXPECT_EQ(OfClip::Told(only, fresh), "Essence is empty");
 }
 
-TEST(ClipConversionDeathTest, TimeCodeTextsAreReadUnguarded)
-{
-    Generated::Clip wire;
-    wire.__set_inBoundTodTimecode("noon");
-    Clip clip;
-    EXPECT_DEATH(std::ignore = ThriftToClipConverter().To(wire, clip), "terminate");
-    wire.__set_inBoundTodTimecode("2024-01-01T00:00:00:00@50");
-    wire.__set_inBoundUserTimecode("2024-01-01T00:00:00:00@99999999999");
-    EXPECT_DEATH(std::ignore = ThriftToClipConverter().To(wire, clip), "terminate");
-    wire.__set_inBoundUserTimecode("2023-02-29T00:00:00:00@50");
-    EXPECT_DEATH(std::ignore = ThriftToClipConverter().To(wire, clip), "terminate");
-
-    // An undated time code is read, but what it is sent as is not.
-    wire.__set_inBoundUserTimecode("01:02:03:04@25");
-    wire = OfClip::Sent(OfClip::Received(wire));
-    EXPECT_EQ(wire.inBoundUserTimecode, "-1-0-1-0-1T01:02:03:04@25");
-    EXPECT_DEATH(std::ignore = ThriftToClipConverter().To(wire, clip), "terminate");
-}
-
 } // namespace
 } // namespace Talvo::Tests

@@ -55,34 +55,6 @@ TEST(SequenceIdConversion, RoundTripAndPatch)
     EXPECT_EQ(OfSequenceId::Received(wire, full), SequenceId(ServerId(5), SequenceId::MaxLocation));
 }
 
-TEST(SequenceIdConversionDeathTest, LocationOutOfRangeEndsTheProcess)
-{
-    for (auto const location : {110, -1, std::numeric_limits<std::int32_t>::min()})
-    {
-        Generated::SequenceId wireId;
-        wireId.location = location;
-        wireId.__isset.location = true;
-        Generated::Element wireElement;
-        wireElement.sequenceId = wireId;
-        wireElement.__isset.sequenceId = true;
-        Generated::Sequence wireSequence;
-        wireSequence.id.location = location; // its flag is clear, and not looked at
-        wireSequence.__isset.id = true;
-        Generated::Playlist wirePlaylist; // looks at no failure of its header
-        wirePlaylist.sequence = wireSequence;
-        wirePlaylist.__isset.sequence = true;
-
-        SequenceId id;
-        Sequence sequence;
-        Element element;
-        Playlist playlist;
-        EXPECT_DEATH(std::ignore = ThriftToSequenceIdConverter().To(wireId, id), "terminate");
-        EXPECT_DEATH(std::ignore = ThriftToSequenceConverter().To(wireSequence, sequence), "terminate");
-        EXPECT_DEATH(std::ignore = ThriftToElementConverter().To(wireElement, element), "terminate");
-        EXPECT_DEATH(std::ignore = ThriftToPlaylistConverter().To(wirePlaylist, playlist), "terminate");
-    }
-}
-
 TEST(SequenceConversion, RoundTrip)
 {
     ExpectRoundTrip<OfSequence>(FullSequence());
@@ -196,18 +168,6 @@ TEST(SequenceConversion, TextThatIsNoTimeCodeStopsTheConversion)
         "Invalid TimeCode format (TalvoTimeCodeParser the string '-1-0-1-0-1T10:11:12:13@25' has not the expected "
         "format.)");
     EXPECT_EQ(sequence, expected);
-}
-
-TEST(SequenceConversionDeathTest, TimeCodeWithABadValueEndsTheProcess)
-{
-    for (auto const* const text : {"2023-02-29T00:00:00:00@50", "24:00:00:00@25", "00:00:00:25@25", "00:00:00:00@0",
-                                   "00:01:00;00@30", "00:00:00;00@25", "2024-01-01T00:00:00:00@99999999999"})
-    {
-        auto wire = OfSequence::Sent(FullSequence());
-        wire.timeCodeRegenReference = text;
-        Sequence sequence;
-        EXPECT_DEATH(std::ignore = ThriftToSequenceConverter().To(wire, sequence), "terminate") << text;
-    }
 }
 
 TEST(SequenceConversion, ArchiveStatusComesBeforeTheEmptyTest)
