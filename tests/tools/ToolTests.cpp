@@ -383,12 +383,12 @@ TEST(Tool, CompletesWordsInBash)
               "complete -o default -F _talvo_wire talvo-wire\n");
 }
 
-TEST(Tool, DoesNotConvertWhatWouldEndTheProcess)
+TEST(Tool, ReportsABadValueAsAFailure)
 {
     // A SequenceId whose location is 110, and a Clip whose inBoundTodTimecode is "noon".
     auto const location = RunTool({"convert", "SequenceId"}, "\x08\0\1\0\0\0\x6e\0"s);
     EXPECT_EQ(location.status, 1);
-    EXPECT_THAT(location.output, IsEmpty());
+    EXPECT_EQ(location.output, "wire to domain: failure\n");
     EXPECT_THAT(location.errors, OneLine("wire to domain failed: location: SequenceId.Location : invalid location"));
     auto const timeCode = RunTool({"convert", "Clip"}, "\x0b\0\x2a\0\0\0\4noon\0"s);
     EXPECT_EQ(timeCode.status, 1);
