@@ -100,7 +100,8 @@ bool Clip::TrySetInBoundUserTimecode(TimePoints::TimeCode const& timecode) noexc
 
 bool Clip::TrySet(TimePoints::TimeCode& destination, TimePoints::TimeCode const& timecode) const noexcept
 {
-    if (!Agree(videoStandard_, timecode) && timecode != DefaultTimecode()) return false;
+    if (!Agree(videoStandard_, timecode) && timecode != TimePoints::TimeCode::Empty() && timecode != DefaultTimecode())
+        return false;
     destination = timecode;
     return true;
 }

@@ -103,8 +103,8 @@ public:
 
     /// Stores the time code and returns true, or stores nothing and returns false if its rate does not agree with the
     /// video standard: Pal agrees with the nominal rates 25, 50 and 100, Ntsc with 24, 30, 48, 60 and 120.
-    /// DefaultTimecode() is taken under either standard, so that a clip whose time codes were never set can be copied
-    /// field by field.
+    /// Two values are accepted under any standard: DefaultTimecode(), so that a clip whose time codes were never set can
+    /// be copied field by field, and TimeCode::Empty(), which makes the time code absent.
     bool TrySetInBoundTodTimecode(TimePoints::TimeCode const& timecode) noexcept;
 
     /// As TrySetInBoundTodTimecode().

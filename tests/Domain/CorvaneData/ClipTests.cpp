@@ -128,6 +128,20 @@ TEST(Clip, TakesTheDefaultTimecodeUnderEitherStandardAndKeepsItWhenTheStandardCh
     EXPECT_FALSE(clip.TrySetInBoundTodTimecode(oneSampleLater));
 }
 
+TEST(Clip, EmptyTimecodeMakesTheTimecodeAbsentUnderAnyStandard)
+{
+    for (auto const standard : {VideoStandard::Pal, VideoStandard::Ntsc, static_cast<VideoStandard>(7)})
+    {
+        Clip clip;
+        clip.VideoStandard(standard);
+        EXPECT_TRUE(clip.TrySetInBoundTodTimecode(TimeCode::Empty()));
+        EXPECT_EQ(clip.InBoundTodTimecode(), TimeCode::Empty());
+        EXPECT_EQ(clip.InBoundUserTimecode(), Clip::DefaultTimecode());
+        EXPECT_TRUE(clip.TrySetInBoundUserTimecode(TimeCode::Empty()));
+        EXPECT_EQ(clip.InBoundUserTimecode(), TimeCode::Empty());
+    }
+}
+
 TEST(ClipEssence, ClearSetsEveryFieldToTheNeutralOnesOfTheType)
 {
     using namespace Essences;
