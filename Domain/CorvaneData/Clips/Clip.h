@@ -7,12 +7,18 @@
 
 #include <array>
 #include <cstdint>
+#include <string_view>
 
 namespace Talvo::Corvane::Data::Clips
 {
 
 /// Identifier text inside a clip: up to eight characters, then zero.
 using UmIdText = std::array<char, 9>;
+
+/// Replaces the identifier text: of a longer text the first eight characters are kept, a shorter one is padded with
+/// zeros. A zero inside the text ends it for every reader.
+/// @return whether the whole text fitted
+bool SetUmId(UmIdText& destination, std::string_view text) noexcept;
 
 /// A recorded clip: a plain record that owns no memory and is copied as bytes.
 ///
