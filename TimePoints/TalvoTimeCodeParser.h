@@ -34,7 +34,8 @@ public:
     /// Whether Parse() would succeed; throws only for a rate that is too large for an `int`.
     bool IsStringFormatValid(std::string const& text) const override;
 
-    /// Never throws: whatever Parse() throws gives false and TimeCode::Empty().
+    /// True and what Parse() returns, or, whatever Parse() throws, false and TimeCode::Empty(). Never throws. A derived
+    /// class that overrides Parse() decides this as well. In this class a bad text costs no exception.
     std::pair<bool, TimeCode> TryParse(std::string const& text) const override;
 };
 

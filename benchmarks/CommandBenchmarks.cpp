@@ -56,7 +56,7 @@ void ToWire(GetClipsCommandReply const reply, Generated::GetClipsCommandReply& w
 GetClipsCommandReply ToDomain(Generated::GetClipsCommandReply const& wire)
 {
     GetClipsCommandReply reply(Corvane::Data::Guid::Empty(), 0, {});
-    std::ignore = TryTo(ThriftToGetClipsCommandReplyConverter(), wire, reply);
+    std::ignore = Corvane::Zelmar::Serialization::Thrift::TryTo(ThriftToGetClipsCommandReplyConverter(), wire, reply);
     return reply;
 }
 

@@ -11,7 +11,7 @@ using Corvane::Data::OperationResult;
 namespace
 {
 
-constinit EnumAssociation<OperationResult, Generated::OperationResult::type> const operationResult{
+constexpr EnumAssociation<OperationResult, Generated::OperationResult::type> operationResult{
     {OperationResult::Success, Generated::OperationResult::Success},
     {OperationResult::InvalidParameter, Generated::OperationResult::InvalidParameter},
     {OperationResult::InvalidBound, Generated::OperationResult::InvalidBound},

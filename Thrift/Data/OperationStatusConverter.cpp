@@ -11,7 +11,7 @@ using Corvane::Data::OperationStatus;
 namespace
 {
 
-constinit EnumAssociation<OperationStatus::Status, Generated::OperationStatusStatus::type> const operationResult{
+constexpr EnumAssociation<OperationStatus::Status, Generated::OperationStatusStatus::type> operationResult{
     {OperationStatus::Status::NotStarted, Generated::OperationStatusStatus::NotStarted},
     {OperationStatus::Status::Pending, Generated::OperationStatusStatus::Pending},
     {OperationStatus::Status::Succeeded, Generated::OperationStatusStatus::Succeeded},

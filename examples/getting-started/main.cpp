@@ -11,11 +11,9 @@
 #include <thrift/protocol/TBinaryProtocol.h>
 #include <thrift/transport/TBufferTransports.h>
 
-#include <algorithm>
 #include <fstream>
 #include <iostream>
 #include <memory>
-#include <string_view>
 
 namespace Domain = Talvo::Corvane::Data::Clips;
 namespace Wire = Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips;
@@ -28,7 +26,7 @@ using Protocol = apache::thrift::protocol::TBinaryProtocolT<TMemoryBuffer>;
 int main()
 {
     Domain::Clip clip;
-    std::ranges::copy(std::string_view("Goal 2:1"), clip.name.payload.begin());
+    if (!clip.name.Set("Goal 2:1")) std::cerr << "The name was cut after 24 bytes\n";
     clip.camera = Domain::Camera::B;
     clip.inBoundField = 0;
     clip.outBoundField = 1500;

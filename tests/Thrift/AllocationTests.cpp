@@ -100,6 +100,11 @@ TEST(Allocations, OfATimeCodeAreTheResultOnly)
                   }),
               0);
 
+    // An exception would allocate its text.
+    for (std::string const& wrong : {bad, std::string("2024-02-29T23:58:57;28"), text + "000000000"})
+        EXPECT_EQ(Allocations([&] { ASSERT_FALSE(TimePoints::TalvoTimeCodeParser().TryParse(wrong).first); }), 0)
+            << wrong;
+
     std::string formatted;
     EXPECT_EQ(Allocations([&] { formatted = TimePoints::TalvoTimeCodeFormatter().Format(timeCode); }), 1);
     EXPECT_EQ(formatted, text);

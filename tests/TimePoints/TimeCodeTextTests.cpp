@@ -150,6 +150,24 @@ TEST(TimeCodeText, ReadsMutatedTextsAsItsDefinitionSays)
     for (char const kind : {'o', 's', 'i'}) EXPECT_GT(kinds[kind], 10'000) << kind;
 }
 
+TEST(TimeCodeText, ParseOfADerivedClassDecidesTryParse)
+{
+    struct OfFilm : TalvoTimeCodeParser
+    {
+        TimeCode Parse(std::string const& text) const override
+        {
+            if (text == "bad") throw 7; // anything at all
+            return text == "good" ? TimeCodeBuilder{.numerator = 24}.Build() : TalvoTimeCodeParser::Parse(text);
+        }
+    };
+    OfFilm const ofFilm;
+    TimeCodeParser const& parser = ofFilm;
+    EXPECT_EQ(parser.TryParse("good"), std::pair(true, TimeCodeBuilder{.numerator = 24}.Build()));
+    EXPECT_EQ(parser.TryParse("00:00:00:00@25"), std::pair(true, parser.Parse("00:00:00:00@25")));
+    for (auto const* const text : {"bad", "neither", "24:00:00:00@25", "00:00:00:00@2147483648"})
+        EXPECT_EQ(parser.TryParse(text), std::pair(false, TimeCode::Empty())) << text;
+}
+
 /// Run on a small stack, which a matcher that recurses once a character would overrun.
 void* ReadLongTexts(void*)
 {

@@ -2,6 +2,7 @@
 
 #include "TimePoints/TimeCodeBuilder.h"
 
+#include <algorithm>
 #include <type_traits>
 
 namespace Talvo::Corvane::Data::Clips
@@ -28,6 +29,13 @@ bool Agree(VideoStandard standard, TimePoints::TimeCode const& timecode) noexcep
 }
 
 } // namespace
+
+bool SetUmId(UmIdText& destination, std::string_view const text) noexcept
+{
+    auto const count = std::min(text.size(), destination.size() - 1);
+    std::fill(std::copy_n(text.data(), count, destination.begin()), destination.end(), '\0');
+    return count == text.size();
+}
 
 void Clip::Essence::Clear(Essences::Type type) noexcept
 {
@@ -100,7 +108,8 @@ bool Clip::TrySetInBoundUserTimecode(TimePoints::TimeCode const& timecode) noexc
 
 bool Clip::TrySet(TimePoints::TimeCode& destination, TimePoints::TimeCode const& timecode) const noexcept
 {
-    if (!Agree(videoStandard_, timecode) && timecode != DefaultTimecode()) return false;
+    if (!Agree(videoStandard_, timecode) && timecode != TimePoints::TimeCode::Empty() && timecode != DefaultTimecode())
+        return false;
     destination = timecode;
     return true;
 }

@@ -7,12 +7,18 @@
 
 #include <array>
 #include <cstdint>
+#include <string_view>
 
 namespace Talvo::Corvane::Data::Clips
 {
 
 /// Identifier text inside a clip: up to eight characters, then zero.
 using UmIdText = std::array<char, 9>;
+
+/// Replaces the identifier text: of a longer text the first eight characters are kept, a shorter one is padded with
+/// zeros. A zero inside the text ends it for every reader.
+/// @return whether the whole text fitted
+bool SetUmId(UmIdText& destination, std::string_view text) noexcept;
 
 /// A recorded clip: a plain record that owns no memory and is copied as bytes.
 ///
@@ -103,8 +109,8 @@ public:
 
     /// Stores the time code and returns true, or stores nothing and returns false if its rate does not agree with the
     /// video standard: Pal agrees with the nominal rates 25, 50 and 100, Ntsc with 24, 30, 48, 60 and 120.
-    /// DefaultTimecode() is taken under either standard, so that a clip whose time codes were never set can be copied
-    /// field by field.
+    /// Two values are accepted under any standard: DefaultTimecode(), so that a clip whose time codes were never set can
+    /// be copied field by field, and TimeCode::Empty(), which makes the time code absent.
     bool TrySetInBoundTodTimecode(TimePoints::TimeCode const& timecode) noexcept;
 
     /// As TrySetInBoundTodTimecode().

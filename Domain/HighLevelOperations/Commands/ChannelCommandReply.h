@@ -23,7 +23,10 @@ struct ChannelCommandReply : CommandReply
 
     ReplyType GetType() const noexcept override { return ReplyType::Channel; }
 
-    bool operator==(ChannelCommandReply const&) const = default;
+    bool operator==(ChannelCommandReply const& other) const
+    {
+        return commandGuid == other.commandGuid && results == other.results && resultCount == other.resultCount;
+    }
 
     std::array<ChannelResult, MaxResults> results;
     std::int32_t resultCount = 0; ///< how many of `results` count

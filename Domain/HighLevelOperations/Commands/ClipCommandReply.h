@@ -19,6 +19,10 @@ struct ClipCommandReply : CommandReply
     {
     }
 
+    // A vector claims to be copyable, whatever it holds.
+    ClipCommandReply(ClipCommandReply&&) = default;
+    ClipCommandReply& operator=(ClipCommandReply&&) = default;
+
     ReplyType GetType() const noexcept override { return ReplyType::Clip; }
 
     std::vector<ClipResultsItem> results;

@@ -27,6 +27,9 @@ enum class ReplyType : std::int32_t
 };
 
 /// What the server answers to a command.
+///
+/// It has no comparison: a derived class that inherited one would be compared without its own fields. A derived class has
+/// a comparison of all its fields, or none.
 struct CommandReply
 {
     /// Answers Guid::Empty().
@@ -46,8 +49,6 @@ struct CommandReply
 
     /// The kind of the reply, fixed for each class.
     virtual ReplyType GetType() const noexcept = 0;
-
-    bool operator==(CommandReply const&) const = default;
 
     Corvane::Data::Guid commandGuid; ///< the command that is answered
 };

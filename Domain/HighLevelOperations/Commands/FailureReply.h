@@ -20,7 +20,10 @@ struct FailureReply : CommandReply
 
     ReplyType GetType() const noexcept override { return ReplyType::Failure; }
 
-    bool operator==(FailureReply const&) const = default;
+    bool operator==(FailureReply const& other) const
+    {
+        return commandGuid == other.commandGuid && error == other.error;
+    }
 
     std::string error; ///< why
 };

@@ -15,7 +15,10 @@ struct GetChannelsCommandReply : CommandReply
 {
     ReplyType GetType() const noexcept override { return ReplyType::GetChannels; }
 
-    bool operator==(GetChannelsCommandReply const&) const = default;
+    bool operator==(GetChannelsCommandReply const& other) const
+    {
+        return commandGuid == other.commandGuid && players == other.players && recorders == other.recorders;
+    }
 
     std::map<Corvane::Data::Channels::Guid, Corvane::Data::Channels::PlayerState> players;
     std::map<Corvane::Data::Channels::Guid, Corvane::Data::Channels::RecorderState> recorders;

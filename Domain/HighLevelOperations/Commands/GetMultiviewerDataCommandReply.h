@@ -15,7 +15,11 @@ struct GetMultiviewerDataCommandReply : CommandReply
 {
     ReplyType GetType() const noexcept override { return ReplyType::GetMultiviewerData; }
 
-    bool operator==(GetMultiviewerDataCommandReply const&) const = default;
+    bool operator==(GetMultiviewerDataCommandReply const& other) const
+    {
+        return commandGuid == other.commandGuid && playersDataOverrides == other.playersDataOverrides &&
+               operationStatus == other.operationStatus;
+    }
 
     std::map<Corvane::Data::Channels::Guid, Multiviewer::PlayerDataOverrides> playersDataOverrides;
     Corvane::Data::OperationStatus operationStatus;

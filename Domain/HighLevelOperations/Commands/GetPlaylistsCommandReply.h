@@ -24,7 +24,10 @@ struct GetPlaylistsCommandReply : CommandReply
 
     ReplyType GetType() const noexcept override { return ReplyType::GetPlaylists; }
 
-    bool operator==(GetPlaylistsCommandReply const&) const = default;
+    bool operator==(GetPlaylistsCommandReply const& other) const
+    {
+        return commandGuid == other.commandGuid && revision == other.revision && playlists == other.playlists;
+    }
 
     std::int64_t revision; ///< of the server's database
     std::vector<Corvane::Data::Sequences::Playlist> playlists;

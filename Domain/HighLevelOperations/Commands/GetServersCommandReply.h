@@ -13,7 +13,10 @@ struct GetServersCommandReply : CommandReply
 {
     ReplyType GetType() const noexcept override { return ReplyType::GetServers; }
 
-    bool operator==(GetServersCommandReply const&) const = default;
+    bool operator==(GetServersCommandReply const& other) const
+    {
+        return commandGuid == other.commandGuid && servers == other.servers;
+    }
 
     std::vector<Corvane::Data::Servers::ServerInfo> servers;
 };

@@ -12,6 +12,11 @@ namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 /// All trains. Can be moved, not copied.
 struct GetTrainsCommandReply : CommandReply
 {
+    GetTrainsCommandReply() = default;
+    // A vector claims to be copyable, whatever it holds.
+    GetTrainsCommandReply(GetTrainsCommandReply&&) = default;
+    GetTrainsCommandReply& operator=(GetTrainsCommandReply&&) = default;
+
     ReplyType GetType() const noexcept override { return ReplyType::GetTrains; }
 
     std::int64_t dbRevision = 0; ///< of the server's database

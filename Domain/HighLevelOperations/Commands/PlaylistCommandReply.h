@@ -20,6 +20,10 @@ struct PlaylistCommandReply : CommandReply
     {
     }
 
+    // A vector claims to be copyable, whatever it holds.
+    PlaylistCommandReply(PlaylistCommandReply&&) = default;
+    PlaylistCommandReply& operator=(PlaylistCommandReply&&) = default;
+
     ReplyType GetType() const noexcept override { return ReplyType::Playlist; }
 
     std::vector<PlaylistResultsItem> results;

@@ -10,7 +10,7 @@ struct SuccessReply : CommandReply
 {
     ReplyType GetType() const noexcept override { return ReplyType::Success; }
 
-    bool operator==(SuccessReply const&) const = default;
+    bool operator==(SuccessReply const& other) const { return commandGuid == other.commandGuid; }
 };
 
 } // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands

@@ -20,7 +20,10 @@ struct UnknownCommandReply : CommandReply
 
     ReplyType GetType() const noexcept override { return ReplyType::Unknown; }
 
-    bool operator==(UnknownCommandReply const&) const = default;
+    bool operator==(UnknownCommandReply const& other) const
+    {
+        return commandGuid == other.commandGuid && commandType == other.commandType;
+    }
 
     std::string commandType; ///< as the server received it
 };

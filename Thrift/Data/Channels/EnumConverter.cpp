@@ -10,7 +10,7 @@ namespace Domain = Corvane::Data::Channels;
 namespace
 {
 
-constinit EnumAssociation<Domain::PlayerModeStatus, Generated::PlayerModeStatus::type> const playerModeStatus{
+constexpr EnumAssociation<Domain::PlayerModeStatus, Generated::PlayerModeStatus::type> playerModeStatus{
     {Domain::PlayerModeStatus::Idle, Generated::PlayerModeStatus::Idle},
     {Domain::PlayerModeStatus::Live, Generated::PlayerModeStatus::Live},
     {Domain::PlayerModeStatus::Empty, Generated::PlayerModeStatus::Empty},
@@ -19,7 +19,7 @@ constinit EnumAssociation<Domain::PlayerModeStatus, Generated::PlayerModeStatus:
     {Domain::PlayerModeStatus::Playing, Generated::PlayerModeStatus::Playing},
 };
 
-constinit EnumAssociation<Domain::PlayerModeType, Generated::PlayerModeType::type> const playerModeType{
+constexpr EnumAssociation<Domain::PlayerModeType, Generated::PlayerModeType::type> playerModeType{
     {Domain::PlayerModeType::Undefined, Generated::PlayerModeType::Undefined},
     {Domain::PlayerModeType::Idle, Generated::PlayerModeType::Idle},
     {Domain::PlayerModeType::ClipEdit, Generated::PlayerModeType::ClipEdit},
@@ -36,14 +36,14 @@ constinit EnumAssociation<Domain::PlayerModeType, Generated::PlayerModeType::typ
     {Domain::PlayerModeType::PlaylistDiffusionNoSplit, Generated::PlayerModeType::PlaylistDiffusionNoSplit},
 };
 
-constinit EnumAssociation<Domain::PlayingLoopMode, Generated::PlayingLoopMode::type> const playingLoopMode{
+constexpr EnumAssociation<Domain::PlayingLoopMode, Generated::PlayingLoopMode::type> playingLoopMode{
     {Domain::PlayingLoopMode::Unknown, Generated::PlayingLoopMode::Unknown},
     {Domain::PlayingLoopMode::None, Generated::PlayingLoopMode::None},
     {Domain::PlayingLoopMode::Loop, Generated::PlayingLoopMode::Loop},
     {Domain::PlayingLoopMode::Bounce, Generated::PlayingLoopMode::Bounce},
 };
 
-constinit EnumAssociation<Domain::PlayoutConfig, Generated::PlayoutConfig::type> const playoutConfig{
+constexpr EnumAssociation<Domain::PlayoutConfig, Generated::PlayoutConfig::type> playoutConfig{
     {Domain::PlayoutConfig::Undefined, Generated::PlayoutConfig::Undefined},
     {Domain::PlayoutConfig::None, Generated::PlayoutConfig::None},
     {Domain::PlayoutConfig::Mix, Generated::PlayoutConfig::Mix},
@@ -54,7 +54,7 @@ constinit EnumAssociation<Domain::PlayoutConfig, Generated::PlayoutConfig::type>
     {Domain::PlayoutConfig::TimelineDiffusionCut, Generated::PlayoutConfig::TimelineDiffusionCut},
 };
 
-constinit EnumAssociation<Domain::RecorderModeStatus, Generated::RecorderModeStatus::type> const recorderModeStatus{
+constexpr EnumAssociation<Domain::RecorderModeStatus, Generated::RecorderModeStatus::type> recorderModeStatus{
     {Domain::RecorderModeStatus::Idle, Generated::RecorderModeStatus::Idle},
     {Domain::RecorderModeStatus::Recording, Generated::RecorderModeStatus::Recording},
     {Domain::RecorderModeStatus::Pause, Generated::RecorderModeStatus::Pause},

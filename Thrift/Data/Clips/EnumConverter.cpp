@@ -10,26 +10,26 @@ namespace Domain = Corvane::Data::Clips;
 namespace
 {
 
-constinit EnumAssociation<Domain::TrainStatus, Generated::TrainStatus::type> const trainStatus{
+constexpr EnumAssociation<Domain::TrainStatus, Generated::TrainStatus::type> trainStatus{
     {Domain::TrainStatus::NotATrain, Generated::TrainStatus::NotATrain},
     {Domain::TrainStatus::InactiveTrain, Generated::TrainStatus::InactiveTrain},
     {Domain::TrainStatus::ActiveTrain, Generated::TrainStatus::ActiveTrain},
 };
 
-constinit EnumAssociation<Domain::SourceEngine, Generated::SourceEngine::type> const sourceEngine{
+constexpr EnumAssociation<Domain::SourceEngine, Generated::SourceEngine::type> sourceEngine{
     {Domain::SourceEngine::None, Generated::SourceEngine::None},
     {Domain::SourceEngine::EditRec, Generated::SourceEngine::EditRec},
     {Domain::SourceEngine::Timeline, Generated::SourceEngine::Timeline},
     {Domain::SourceEngine::Derush, Generated::SourceEngine::Derush},
 };
 
-constinit EnumAssociation<Domain::UhdDivisionMode, Generated::UhdDivisionMode::type> const uhdDivisionMode{
+constexpr EnumAssociation<Domain::UhdDivisionMode, Generated::UhdDivisionMode::type> uhdDivisionMode{
     {Domain::UhdDivisionMode::None, Generated::UhdDivisionMode::None},
     {Domain::UhdDivisionMode::Square, Generated::UhdDivisionMode::Square},
     {Domain::UhdDivisionMode::SampleInterleave, Generated::UhdDivisionMode::SampleInterleave},
 };
 
-constinit EnumAssociation<Domain::HdrProfile, Generated::HdrProfile::type> const hdrProfile{
+constexpr EnumAssociation<Domain::HdrProfile, Generated::HdrProfile::type> hdrProfile{
     {Domain::HdrProfile::Unknown, Generated::HdrProfile::Unknown},
     {Domain::HdrProfile::Sdr, Generated::HdrProfile::Sdr},
     {Domain::HdrProfile::Pq, Generated::HdrProfile::Pq},
@@ -38,25 +38,25 @@ constinit EnumAssociation<Domain::HdrProfile, Generated::HdrProfile::type> const
     {Domain::HdrProfile::VLog, Generated::HdrProfile::VLog},
 };
 
-constinit EnumAssociation<Domain::AlphaArchiveStatus, Generated::AlphaArchiveStatus::type> const alphaArchiveStatus{
+constexpr EnumAssociation<Domain::AlphaArchiveStatus, Generated::AlphaArchiveStatus::type> alphaArchiveStatus{
     {Domain::AlphaArchiveStatus::None, Generated::AlphaArchiveStatus::None},
     {Domain::AlphaArchiveStatus::Important, Generated::AlphaArchiveStatus::Important},
     {Domain::AlphaArchiveStatus::ImportantAndStored, Generated::AlphaArchiveStatus::ImportantAndStored},
 };
 
-constinit EnumAssociation<Domain::ArchiveStatus, Generated::ArchiveStatus::type> const archiveStatus{
+constexpr EnumAssociation<Domain::ArchiveStatus, Generated::ArchiveStatus::type> archiveStatus{
     {Domain::ArchiveStatus::NoStore, Generated::ArchiveStatus::NoStore},
     {Domain::ArchiveStatus::ToStore, Generated::ArchiveStatus::ToStore},
     {Domain::ArchiveStatus::Stored, Generated::ArchiveStatus::Stored},
 };
 
-constinit EnumAssociation<Domain::FillAndKeyStatus, Generated::FillAndKeyStatus::type> const fillAndKeyStatus{
+constexpr EnumAssociation<Domain::FillAndKeyStatus, Generated::FillAndKeyStatus::type> fillAndKeyStatus{
     {Domain::FillAndKeyStatus::None, Generated::FillAndKeyStatus::None},
     {Domain::FillAndKeyStatus::Fill, Generated::FillAndKeyStatus::Fill},
     {Domain::FillAndKeyStatus::Key, Generated::FillAndKeyStatus::Key},
 };
 
-constinit EnumAssociation<Domain::Camera, Generated::Camera::type> const camera{
+constexpr EnumAssociation<Domain::Camera, Generated::Camera::type> camera{
     {Domain::Camera::NotSet, Generated::Camera::NotSet}, {Domain::Camera::A, Generated::Camera::A},
     {Domain::Camera::B, Generated::Camera::B},           {Domain::Camera::C, Generated::Camera::C},
     {Domain::Camera::D, Generated::Camera::D},           {Domain::Camera::E, Generated::Camera::E},
@@ -67,21 +67,20 @@ constinit EnumAssociation<Domain::Camera, Generated::Camera::type> const camera{
     {Domain::Camera::Y, Generated::Camera::Y},           {Domain::Camera::Z, Generated::Camera::Z},
 };
 
-constinit EnumAssociation<Domain::AfdAspectRatio, Generated::AfdAspectRatio::type> const afdAspectRatio{
+constexpr EnumAssociation<Domain::AfdAspectRatio, Generated::AfdAspectRatio::type> afdAspectRatio{
     {Domain::AfdAspectRatio::Unknown, Generated::AfdAspectRatio::Unknown},
     {Domain::AfdAspectRatio::FullFrame, Generated::AfdAspectRatio::FullFrame},
     {Domain::AfdAspectRatio::PillarBox, Generated::AfdAspectRatio::PillarBox},
     {Domain::AfdAspectRatio::LetterBox, Generated::AfdAspectRatio::LetterBox},
 };
 
-constinit EnumAssociation<Domain::CodedFrameAspectRatio, Generated::CodedFrameAspectRatio::type> const
-    codedFrameAspectRatio{
-        {Domain::CodedFrameAspectRatio::Unknown, Generated::CodedFrameAspectRatio::Unknown},
-        {Domain::CodedFrameAspectRatio::FourThirds, Generated::CodedFrameAspectRatio::FourThirds},
-        {Domain::CodedFrameAspectRatio::SixteenNinths, Generated::CodedFrameAspectRatio::SixteenNinths},
-    };
+constexpr EnumAssociation<Domain::CodedFrameAspectRatio, Generated::CodedFrameAspectRatio::type> codedFrameAspectRatio{
+    {Domain::CodedFrameAspectRatio::Unknown, Generated::CodedFrameAspectRatio::Unknown},
+    {Domain::CodedFrameAspectRatio::FourThirds, Generated::CodedFrameAspectRatio::FourThirds},
+    {Domain::CodedFrameAspectRatio::SixteenNinths, Generated::CodedFrameAspectRatio::SixteenNinths},
+};
 
-constinit EnumAssociation<Domain::VideoFormat, Generated::VideoFormat::type> const videoFormat{
+constexpr EnumAssociation<Domain::VideoFormat, Generated::VideoFormat::type> videoFormat{
     {Domain::VideoFormat::Sd, Generated::VideoFormat::Sd},
     {Domain::VideoFormat::Hd720p, Generated::VideoFormat::Hd720p},
     {Domain::VideoFormat::Hd1080i, Generated::VideoFormat::Hd1080i},
@@ -90,43 +89,43 @@ constinit EnumAssociation<Domain::VideoFormat, Generated::VideoFormat::type> con
     {Domain::VideoFormat::Shv8k, Generated::VideoFormat::Shv8k},
 };
 
-constinit EnumAssociation<Domain::VideoStandard, Generated::VideoStandard::type> const videoStandard{
+constexpr EnumAssociation<Domain::VideoStandard, Generated::VideoStandard::type> videoStandard{
     {Domain::VideoStandard::Pal, Generated::VideoStandard::Pal},
     {Domain::VideoStandard::Ntsc, Generated::VideoStandard::Ntsc},
 };
 
-constinit EnumAssociation<Domain::TimecodeType, Generated::TimecodeType::type> const timecodeType{
+constexpr EnumAssociation<Domain::TimecodeType, Generated::TimecodeType::type> timecodeType{
     {Domain::TimecodeType::AnalogLtc, Generated::TimecodeType::AnalogLtc},
     {Domain::TimecodeType::AtcLtc, Generated::TimecodeType::AtcLtc},
     {Domain::TimecodeType::AtcVitc, Generated::TimecodeType::AtcVitc},
 };
 
-constinit EnumAssociation<Domain::PrimaryTimecode, Generated::PrimaryTimecode::type> const primaryTimecode{
+constexpr EnumAssociation<Domain::PrimaryTimecode, Generated::PrimaryTimecode::type> primaryTimecode{
     {Domain::PrimaryTimecode::NotSet, Generated::PrimaryTimecode::NotSet},
     {Domain::PrimaryTimecode::Tod, Generated::PrimaryTimecode::Tod},
     {Domain::PrimaryTimecode::User, Generated::PrimaryTimecode::User},
 };
 
-constinit EnumAssociation<Domain::Rating, Generated::Rating::type> const rating{
+constexpr EnumAssociation<Domain::Rating, Generated::Rating::type> rating{
     {Domain::Rating::None, Generated::Rating::None},
     {Domain::Rating::Poor, Generated::Rating::Poor},
     {Domain::Rating::Good, Generated::Rating::Good},
     {Domain::Rating::Best, Generated::Rating::Best},
 };
 
-constinit EnumAssociation<Domain::PreferentialCamera, Generated::PreferentialCamera::type> const preferentialCamera{
+constexpr EnumAssociation<Domain::PreferentialCamera, Generated::PreferentialCamera::type> preferentialCamera{
     {Domain::PreferentialCamera::None, Generated::PreferentialCamera::None},
     {Domain::PreferentialCamera::Primary, Generated::PreferentialCamera::Primary},
     {Domain::PreferentialCamera::Secondary, Generated::PreferentialCamera::Secondary},
 };
 
-constinit EnumAssociation<Domain::Essences::Type, Generated::Type::type> const essType{
+constexpr EnumAssociation<Domain::Essences::Type, Generated::Type::type> essType{
     {Domain::Essences::Type::Intra, Generated::Type::Intra},
     {Domain::Essences::Type::LongGop, Generated::Type::LongGop},
     {Domain::Essences::Type::LowRes, Generated::Type::LowRes},
 };
 
-constinit EnumAssociation<Domain::Essences::RecordingStatus, Generated::RecordingStatus::type> const recordingStatus{
+constexpr EnumAssociation<Domain::Essences::RecordingStatus, Generated::RecordingStatus::type> recordingStatus{
     {Domain::Essences::RecordingStatus::NotPresent, Generated::RecordingStatus::NotPresent},
     {Domain::Essences::RecordingStatus::Reserved, Generated::RecordingStatus::Reserved},
     {Domain::Essences::RecordingStatus::InCreation, Generated::RecordingStatus::InCreation},
@@ -134,13 +133,12 @@ constinit EnumAssociation<Domain::Essences::RecordingStatus, Generated::Recordin
     {Domain::Essences::RecordingStatus::OnDisk, Generated::RecordingStatus::OnDisk},
 };
 
-constinit EnumAssociation<Domain::Essences::ArchiveStatus, Generated::EssenceArchiveStatus::type> const
-    essenceArchiveStatus{
-        {Domain::Essences::ArchiveStatus::NoStore, Generated::EssenceArchiveStatus::NoStore},
-        {Domain::Essences::ArchiveStatus::Stored, Generated::EssenceArchiveStatus::Stored},
-    };
+constexpr EnumAssociation<Domain::Essences::ArchiveStatus, Generated::EssenceArchiveStatus::type> essenceArchiveStatus{
+    {Domain::Essences::ArchiveStatus::NoStore, Generated::EssenceArchiveStatus::NoStore},
+    {Domain::Essences::ArchiveStatus::Stored, Generated::EssenceArchiveStatus::Stored},
+};
 
-constinit EnumAssociation<Domain::Essences::Metadata, Generated::Metadata::type> const metadata{
+constexpr EnumAssociation<Domain::Essences::Metadata, Generated::Metadata::type> metadata{
     {Domain::Essences::Metadata::IntraEncodingBitLengthUnknown, Generated::Metadata::IntraEncodingBitLengthUnknown},
     {Domain::Essences::Metadata::IntraEncodingBitLength8, Generated::Metadata::IntraEncodingBitLength8},
     {Domain::Essences::Metadata::IntraEncodingBitLength10, Generated::Metadata::IntraEncodingBitLength10},
@@ -148,87 +146,92 @@ constinit EnumAssociation<Domain::Essences::Metadata, Generated::Metadata::type>
     {Domain::Essences::Metadata::LowResNone, Generated::Metadata::LowResNone},
 };
 
-constinit EnumAssociation<Domain::Essences::BlockSize, Generated::BlockSize::type> const blockSize{
+constexpr EnumAssociation<Domain::Essences::BlockSize, Generated::BlockSize::type> blockSize{
     {Domain::Essences::BlockSize::Unknown, Generated::BlockSize::Unknown},
     {Domain::Essences::BlockSize::MB2, Generated::BlockSize::MB2},
     {Domain::Essences::BlockSize::MB8, Generated::BlockSize::MB8},
     {Domain::Essences::BlockSize::MB16, Generated::BlockSize::MB16},
 };
 
-constinit EnumAssociation<Domain::Essences::VideoCompressionType,
-                          Generated::VideoCompressionType::type> const videoCompressionType{
-    {Domain::Essences::VideoCompressionType::IntraMjpegRegular, Generated::VideoCompressionType::IntraMjpegRegular},
-    {Domain::Essences::VideoCompressionType::IntraMjpegInverted, Generated::VideoCompressionType::IntraMjpegInverted},
-    {Domain::Essences::VideoCompressionType::IntraMpegIField, Generated::VideoCompressionType::IntraMpegIField},
-    {Domain::Essences::VideoCompressionType::IntraMpegIFrame, Generated::VideoCompressionType::IntraMpegIFrame},
-    {Domain::Essences::VideoCompressionType::IntraDnxHd, Generated::VideoCompressionType::IntraDnxHd},
-    {Domain::Essences::VideoCompressionType::IntraProRes, Generated::VideoCompressionType::IntraProRes},
-    {Domain::Essences::VideoCompressionType::IntraDvcPro100IField,
-     Generated::VideoCompressionType::IntraDvcPro100IField},
-    {Domain::Essences::VideoCompressionType::IntraDvcPro100IFrame,
-     Generated::VideoCompressionType::IntraDvcPro100IFrame},
-    {Domain::Essences::VideoCompressionType::IntraDvcPro50, Generated::VideoCompressionType::IntraDvcPro50},
-    {Domain::Essences::VideoCompressionType::IntraAvc100IntraIField,
-     Generated::VideoCompressionType::IntraAvc100IntraIField},
-    {Domain::Essences::VideoCompressionType::IntraAvc100IntraIFrame,
-     Generated::VideoCompressionType::IntraAvc100IntraIFrame},
-    {Domain::Essences::VideoCompressionType::IntraAvc50IntraIField,
-     Generated::VideoCompressionType::IntraAvc50IntraIField},
-    {Domain::Essences::VideoCompressionType::IntraAvc50IntraIFrame,
-     Generated::VideoCompressionType::IntraAvc50IntraIFrame},
-    {Domain::Essences::VideoCompressionType::IntraXAvc100IField, Generated::VideoCompressionType::IntraXAvc100IField},
-    {Domain::Essences::VideoCompressionType::IntraXAvc100IFrame, Generated::VideoCompressionType::IntraXAvc100IFrame},
-    {Domain::Essences::VideoCompressionType::IntraXAvc50IField, Generated::VideoCompressionType::IntraXAvc50IField},
-    {Domain::Essences::VideoCompressionType::IntraXAvc50IFrame, Generated::VideoCompressionType::IntraXAvc50IFrame},
-    {Domain::Essences::VideoCompressionType::IntraXAvc300, Generated::VideoCompressionType::IntraXAvc300},
-    {Domain::Essences::VideoCompressionType::IntraAvc200IField, Generated::VideoCompressionType::IntraAvc200IField},
-    {Domain::Essences::VideoCompressionType::IntraAvc200IFrame, Generated::VideoCompressionType::IntraAvc200IFrame},
-    {Domain::Essences::VideoCompressionType::IntraXAvc200IField, Generated::VideoCompressionType::IntraXAvc200IField},
-    {Domain::Essences::VideoCompressionType::IntraXAvc200IFrame, Generated::VideoCompressionType::IntraXAvc200IFrame},
-    {Domain::Essences::VideoCompressionType::IntraAvc4K, Generated::VideoCompressionType::IntraAvc4K},
-    {Domain::Essences::VideoCompressionType::IntraXAvc480, Generated::VideoCompressionType::IntraXAvc480},
-    {Domain::Essences::VideoCompressionType::LongGopXdCam, Generated::VideoCompressionType::LongGopXdCam},
-    {Domain::Essences::VideoCompressionType::LowResMjpeg, Generated::VideoCompressionType::LowResMjpeg},
-};
+constexpr EnumAssociation<Domain::Essences::VideoCompressionType, Generated::VideoCompressionType::type>
+    videoCompressionType{
+        {Domain::Essences::VideoCompressionType::IntraMjpegRegular, Generated::VideoCompressionType::IntraMjpegRegular},
+        {Domain::Essences::VideoCompressionType::IntraMjpegInverted,
+         Generated::VideoCompressionType::IntraMjpegInverted},
+        {Domain::Essences::VideoCompressionType::IntraMpegIField, Generated::VideoCompressionType::IntraMpegIField},
+        {Domain::Essences::VideoCompressionType::IntraMpegIFrame, Generated::VideoCompressionType::IntraMpegIFrame},
+        {Domain::Essences::VideoCompressionType::IntraDnxHd, Generated::VideoCompressionType::IntraDnxHd},
+        {Domain::Essences::VideoCompressionType::IntraProRes, Generated::VideoCompressionType::IntraProRes},
+        {Domain::Essences::VideoCompressionType::IntraDvcPro100IField,
+         Generated::VideoCompressionType::IntraDvcPro100IField},
+        {Domain::Essences::VideoCompressionType::IntraDvcPro100IFrame,
+         Generated::VideoCompressionType::IntraDvcPro100IFrame},
+        {Domain::Essences::VideoCompressionType::IntraDvcPro50, Generated::VideoCompressionType::IntraDvcPro50},
+        {Domain::Essences::VideoCompressionType::IntraAvc100IntraIField,
+         Generated::VideoCompressionType::IntraAvc100IntraIField},
+        {Domain::Essences::VideoCompressionType::IntraAvc100IntraIFrame,
+         Generated::VideoCompressionType::IntraAvc100IntraIFrame},
+        {Domain::Essences::VideoCompressionType::IntraAvc50IntraIField,
+         Generated::VideoCompressionType::IntraAvc50IntraIField},
+        {Domain::Essences::VideoCompressionType::IntraAvc50IntraIFrame,
+         Generated::VideoCompressionType::IntraAvc50IntraIFrame},
+        {Domain::Essences::VideoCompressionType::IntraXAvc100IField,
+         Generated::VideoCompressionType::IntraXAvc100IField},
+        {Domain::Essences::VideoCompressionType::IntraXAvc100IFrame,
+         Generated::VideoCompressionType::IntraXAvc100IFrame},
+        {Domain::Essences::VideoCompressionType::IntraXAvc50IField, Generated::VideoCompressionType::IntraXAvc50IField},
+        {Domain::Essences::VideoCompressionType::IntraXAvc50IFrame, Generated::VideoCompressionType::IntraXAvc50IFrame},
+        {Domain::Essences::VideoCompressionType::IntraXAvc300, Generated::VideoCompressionType::IntraXAvc300},
+        {Domain::Essences::VideoCompressionType::IntraAvc200IField, Generated::VideoCompressionType::IntraAvc200IField},
+        {Domain::Essences::VideoCompressionType::IntraAvc200IFrame, Generated::VideoCompressionType::IntraAvc200IFrame},
+        {Domain::Essences::VideoCompressionType::IntraXAvc200IField,
+         Generated::VideoCompressionType::IntraXAvc200IField},
+        {Domain::Essences::VideoCompressionType::IntraXAvc200IFrame,
+         Generated::VideoCompressionType::IntraXAvc200IFrame},
+        {Domain::Essences::VideoCompressionType::IntraAvc4K, Generated::VideoCompressionType::IntraAvc4K},
+        {Domain::Essences::VideoCompressionType::IntraXAvc480, Generated::VideoCompressionType::IntraXAvc480},
+        {Domain::Essences::VideoCompressionType::LongGopXdCam, Generated::VideoCompressionType::LongGopXdCam},
+        {Domain::Essences::VideoCompressionType::LowResMjpeg, Generated::VideoCompressionType::LowResMjpeg},
+    };
 
-constinit EnumAssociation<Domain::Essences::AudioCompressionType, Generated::AudioCompressionType::type> const
+constexpr EnumAssociation<Domain::Essences::AudioCompressionType, Generated::AudioCompressionType::type>
     audioCompressionType{
         {Domain::Essences::AudioCompressionType::IntraNone, Generated::AudioCompressionType::IntraNone},
         {Domain::Essences::AudioCompressionType::LongGopNone, Generated::AudioCompressionType::LongGopNone},
         {Domain::Essences::AudioCompressionType::LowResMpeg1Layer2, Generated::AudioCompressionType::LowResMpeg1Layer2},
     };
 
-constinit EnumAssociation<Domain::Essences::VideoCompressionInfo,
-                          Generated::VideoCompressionInfo::type> const videoCompressionInfo{
-    {Domain::Essences::VideoCompressionInfo::IntraNone, Generated::VideoCompressionInfo::IntraNone},
-    {Domain::Essences::VideoCompressionInfo::IntraDnxHdUnknown, Generated::VideoCompressionInfo::IntraDnxHdUnknown},
-    {Domain::Essences::VideoCompressionInfo::IntraDnxHdLowBitrate,
-     Generated::VideoCompressionInfo::IntraDnxHdLowBitrate},
-    {Domain::Essences::VideoCompressionInfo::IntraDnxHdHighBitrate,
-     Generated::VideoCompressionInfo::IntraDnxHdHighBitrate},
-    {Domain::Essences::VideoCompressionInfo::IntraDnxHdHighBitrate10b,
-     Generated::VideoCompressionInfo::IntraDnxHdHighBitrate10b},
-    {Domain::Essences::VideoCompressionInfo::IntraProResUnknown, Generated::VideoCompressionInfo::IntraProResUnknown},
-    {Domain::Essences::VideoCompressionInfo::IntraProResStandardQuality,
-     Generated::VideoCompressionInfo::IntraProResStandardQuality},
-    {Domain::Essences::VideoCompressionInfo::IntraProResHighQuality,
-     Generated::VideoCompressionInfo::IntraProResHighQuality},
-    {Domain::Essences::VideoCompressionInfo::IntraProResLt, Generated::VideoCompressionInfo::IntraProResLt},
-    {Domain::Essences::VideoCompressionInfo::LongGopNone, Generated::VideoCompressionInfo::LongGopNone},
-    {Domain::Essences::VideoCompressionInfo::LowResNone, Generated::VideoCompressionInfo::LowResNone},
-};
-
-constinit EnumAssociation<Domain::Essences::AudioConfiguration, Generated::AudioConfiguration::type> const
-    audioConfiguration{
-        {Domain::Essences::AudioConfiguration::NoAudio, Generated::AudioConfiguration::NoAudio},
-        {Domain::Essences::AudioConfiguration::Mono, Generated::AudioConfiguration::Mono},
-        {Domain::Essences::AudioConfiguration::Stereo, Generated::AudioConfiguration::Stereo},
-        {Domain::Essences::AudioConfiguration::DualStereo, Generated::AudioConfiguration::DualStereo},
-        {Domain::Essences::AudioConfiguration::EightMonos, Generated::AudioConfiguration::EightMonos},
-        {Domain::Essences::AudioConfiguration::SixteenMonos, Generated::AudioConfiguration::SixteenMonos},
-        {Domain::Essences::AudioConfiguration::TwentyFourMonos, Generated::AudioConfiguration::TwentyFourMonos},
-        {Domain::Essences::AudioConfiguration::ThirtyTwoMonos, Generated::AudioConfiguration::ThirtyTwoMonos},
+constexpr EnumAssociation<Domain::Essences::VideoCompressionInfo, Generated::VideoCompressionInfo::type>
+    videoCompressionInfo{
+        {Domain::Essences::VideoCompressionInfo::IntraNone, Generated::VideoCompressionInfo::IntraNone},
+        {Domain::Essences::VideoCompressionInfo::IntraDnxHdUnknown, Generated::VideoCompressionInfo::IntraDnxHdUnknown},
+        {Domain::Essences::VideoCompressionInfo::IntraDnxHdLowBitrate,
+         Generated::VideoCompressionInfo::IntraDnxHdLowBitrate},
+        {Domain::Essences::VideoCompressionInfo::IntraDnxHdHighBitrate,
+         Generated::VideoCompressionInfo::IntraDnxHdHighBitrate},
+        {Domain::Essences::VideoCompressionInfo::IntraDnxHdHighBitrate10b,
+         Generated::VideoCompressionInfo::IntraDnxHdHighBitrate10b},
+        {Domain::Essences::VideoCompressionInfo::IntraProResUnknown,
+         Generated::VideoCompressionInfo::IntraProResUnknown},
+        {Domain::Essences::VideoCompressionInfo::IntraProResStandardQuality,
+         Generated::VideoCompressionInfo::IntraProResStandardQuality},
+        {Domain::Essences::VideoCompressionInfo::IntraProResHighQuality,
+         Generated::VideoCompressionInfo::IntraProResHighQuality},
+        {Domain::Essences::VideoCompressionInfo::IntraProResLt, Generated::VideoCompressionInfo::IntraProResLt},
+        {Domain::Essences::VideoCompressionInfo::LongGopNone, Generated::VideoCompressionInfo::LongGopNone},
+        {Domain::Essences::VideoCompressionInfo::LowResNone, Generated::VideoCompressionInfo::LowResNone},
     };
+
+constexpr EnumAssociation<Domain::Essences::AudioConfiguration, Generated::AudioConfiguration::type> audioConfiguration{
+    {Domain::Essences::AudioConfiguration::NoAudio, Generated::AudioConfiguration::NoAudio},
+    {Domain::Essences::AudioConfiguration::Mono, Generated::AudioConfiguration::Mono},
+    {Domain::Essences::AudioConfiguration::Stereo, Generated::AudioConfiguration::Stereo},
+    {Domain::Essences::AudioConfiguration::DualStereo, Generated::AudioConfiguration::DualStereo},
+    {Domain::Essences::AudioConfiguration::EightMonos, Generated::AudioConfiguration::EightMonos},
+    {Domain::Essences::AudioConfiguration::SixteenMonos, Generated::AudioConfiguration::SixteenMonos},
+    {Domain::Essences::AudioConfiguration::TwentyFourMonos, Generated::AudioConfiguration::TwentyFourMonos},
+    {Domain::Essences::AudioConfiguration::ThirtyTwoMonos, Generated::AudioConfiguration::ThirtyTwoMonos},
+};
 } // namespace
 
 Generated::TrainStatus::type ToGeneratedEnum(Domain::TrainStatus const value) noexcept

@@ -10,14 +10,14 @@ namespace Domain = Corvane::Data::Sequences;
 namespace
 {
 
-constinit EnumAssociation<Domain::TagProperty::Type, Generated::TagPropertyType::type> const tagPropertyType{
+constexpr EnumAssociation<Domain::TagProperty::Type, Generated::TagPropertyType::type> tagPropertyType{
     {Domain::TagProperty::Type::Boolean, Generated::TagPropertyType::Boolean},
     {Domain::TagProperty::Type::Integer, Generated::TagPropertyType::Integer},
     {Domain::TagProperty::Type::String, Generated::TagPropertyType::String},
     {Domain::TagProperty::Type::Vector, Generated::TagPropertyType::Vector},
 };
 
-constinit EnumAssociation<Domain::TagProperty::Key, Generated::TagPropertyKey::type> const tagPropertyKey{
+constexpr EnumAssociation<Domain::TagProperty::Key, Generated::TagPropertyKey::type> tagPropertyKey{
     {Domain::TagProperty::Key::Value, Generated::TagPropertyKey::Value},
     {Domain::TagProperty::Key::Status, Generated::TagPropertyKey::Status},
     {Domain::TagProperty::Key::Type, Generated::TagPropertyKey::Type},
@@ -38,7 +38,7 @@ constinit EnumAssociation<Domain::TagProperty::Key, Generated::TagPropertyKey::t
     {Domain::TagProperty::Key::TriggerType, Generated::TagPropertyKey::TriggerType},
 };
 
-constinit EnumAssociation<Domain::Tag::CommandType, Generated::CommandType::type> const commandType{
+constexpr EnumAssociation<Domain::Tag::CommandType, Generated::CommandType::type> commandType{
     {Domain::Tag::CommandType::Custom, Generated::CommandType::Custom},
     {Domain::Tag::CommandType::GpiOut, Generated::CommandType::GpiOut},
     {Domain::Tag::CommandType::GpiOutOnEffect, Generated::CommandType::GpiOutOnEffect},
@@ -56,21 +56,21 @@ constinit EnumAssociation<Domain::Tag::CommandType, Generated::CommandType::type
     {Domain::Tag::CommandType::VirtualElementName, Generated::CommandType::VirtualElementName},
 };
 
-constinit EnumAssociation<Domain::BoundaryType, Generated::BoundaryType::type> const boundaryType{
+constexpr EnumAssociation<Domain::BoundaryType, Generated::BoundaryType::type> boundaryType{
     {Domain::BoundaryType::Absolute, Generated::BoundaryType::Absolute},
     {Domain::BoundaryType::RelativeClipCorresponding, Generated::BoundaryType::RelativeClipCorresponding},
     {Domain::BoundaryType::RelativeClipOpposite, Generated::BoundaryType::RelativeClipOpposite},
     {Domain::BoundaryType::RelativeSelfOpposite, Generated::BoundaryType::RelativeSelfOpposite},
 };
 
-constinit EnumAssociation<Domain::EffectPosition, Generated::EffectPosition::type> const effectPosition{
+constexpr EnumAssociation<Domain::EffectPosition, Generated::EffectPosition::type> effectPosition{
     {Domain::EffectPosition::None, Generated::EffectPosition::None},
     {Domain::EffectPosition::Before, Generated::EffectPosition::Before},
     {Domain::EffectPosition::After, Generated::EffectPosition::After},
     {Domain::EffectPosition::Center, Generated::EffectPosition::Center},
 };
 
-constinit EnumAssociation<Domain::StillMode, Generated::StillMode::type> const stillMode{
+constexpr EnumAssociation<Domain::StillMode, Generated::StillMode::type> stillMode{
     {Domain::StillMode::None, Generated::StillMode::None},
     {Domain::StillMode::StopOnLastFrameOfPrevious, Generated::StillMode::StopOnLastFrameOfPrevious},
     {Domain::StillMode::StopOnFirstFrame, Generated::StillMode::StopOnFirstFrame},
@@ -78,7 +78,7 @@ constinit EnumAssociation<Domain::StillMode, Generated::StillMode::type> const s
     {Domain::StillMode::PauseWithTransitionTimer, Generated::StillMode::PauseWithTransitionTimer},
 };
 
-constinit EnumAssociation<Domain::VideoEffectType, Generated::VideoEffectType::type> const videoEffectType{
+constexpr EnumAssociation<Domain::VideoEffectType, Generated::VideoEffectType::type> videoEffectType{
     {Domain::VideoEffectType::None, Generated::VideoEffectType::None},
     {Domain::VideoEffectType::Cut, Generated::VideoEffectType::Cut},
     {Domain::VideoEffectType::Mix, Generated::VideoEffectType::Mix},
@@ -102,7 +102,7 @@ constinit EnumAssociation<Domain::VideoEffectType, Generated::VideoEffectType::t
     {Domain::VideoEffectType::FadeToFromColor, Generated::VideoEffectType::FadeToFromColor},
 };
 
-constinit EnumAssociation<Domain::AudioEffectType, Generated::AudioEffectType::type> const audioEffectType{
+constexpr EnumAssociation<Domain::AudioEffectType, Generated::AudioEffectType::type> audioEffectType{
     {Domain::AudioEffectType::None, Generated::AudioEffectType::None},
     {Domain::AudioEffectType::Cut, Generated::AudioEffectType::Cut},
     {Domain::AudioEffectType::HardCut, Generated::AudioEffectType::HardCut},
@@ -114,12 +114,12 @@ constinit EnumAssociation<Domain::AudioEffectType, Generated::AudioEffectType::t
     {Domain::AudioEffectType::FadeToFromMute, Generated::AudioEffectType::FadeToFromMute},
 };
 
-constinit EnumAssociation<Domain::TimeCodeRegenBase, Generated::TimeCodeRegenBase::type> const timeCodeRegenBase{
+constexpr EnumAssociation<Domain::TimeCodeRegenBase, Generated::TimeCodeRegenBase::type> timeCodeRegenBase{
     {Domain::TimeCodeRegenBase::Irq, Generated::TimeCodeRegenBase::Irq},
     {Domain::TimeCodeRegenBase::Field, Generated::TimeCodeRegenBase::Field},
 };
 
-constinit EnumAssociation<Domain::TimeCodeRegenSource, Generated::TimeCodeRegenSource::type> const timeCodeRegenSource{
+constexpr EnumAssociation<Domain::TimeCodeRegenSource, Generated::TimeCodeRegenSource::type> timeCodeRegenSource{
     {Domain::TimeCodeRegenSource::PlaylistRefTimecode, Generated::TimeCodeRegenSource::PlaylistRefTimecode},
     {Domain::TimeCodeRegenSource::ElementTodTimecode, Generated::TimeCodeRegenSource::ElementTodTimecode},
     {Domain::TimeCodeRegenSource::ElementUserTimecode, Generated::TimeCodeRegenSource::ElementUserTimecode},
@@ -127,14 +127,14 @@ constinit EnumAssociation<Domain::TimeCodeRegenSource, Generated::TimeCodeRegenS
      Generated::TimeCodeRegenSource::UserBitsAndTimecodeOfFirstAudioTrack},
 };
 
-constinit EnumAssociation<Domain::TimeCodeRegenOutput, Generated::TimeCodeRegenOutput::type> const timeCodeRegenOutput{
+constexpr EnumAssociation<Domain::TimeCodeRegenOutput, Generated::TimeCodeRegenOutput::type> timeCodeRegenOutput{
     {Domain::TimeCodeRegenOutput::None, Generated::TimeCodeRegenOutput::None},
     {Domain::TimeCodeRegenOutput::HangVitc, Generated::TimeCodeRegenOutput::HangVitc},
     {Domain::TimeCodeRegenOutput::HangLtc, Generated::TimeCodeRegenOutput::HangLtc},
     {Domain::TimeCodeRegenOutput::All, Generated::TimeCodeRegenOutput::All},
 };
 
-constinit EnumAssociation<Domain::TimeCodeRegenType, Generated::TimeCodeRegenType::type> const timeCodeRegenType{
+constexpr EnumAssociation<Domain::TimeCodeRegenType, Generated::TimeCodeRegenType::type> timeCodeRegenType{
     {Domain::TimeCodeRegenType::FullPlaylist, Generated::TimeCodeRegenType::FullPlaylist},
     {Domain::TimeCodeRegenType::ByElement, Generated::TimeCodeRegenType::ByElement},
 };

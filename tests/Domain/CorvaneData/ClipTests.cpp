@@ -8,6 +8,7 @@
 #include <memory>
 #include <set>
 #include <string_view>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -16,6 +17,7 @@ namespace Talvo::Corvane::Data::Clips
 namespace
 {
 
+using namespace std::string_view_literals;
 using TimePoints::TimeCode;
 using TimePoints::TimeCodeBuilder;
 using TimePoints::TimePoint;
@@ -126,6 +128,33 @@ TEST(Clip, TakesTheDefaultTimecodeUnderEitherStandardAndKeepsItWhenTheStandardCh
 
     auto const oneSampleLater = TimeCodeBuilder{.sample = 1}.Build();
     EXPECT_FALSE(clip.TrySetInBoundTodTimecode(oneSampleLater));
+}
+
+TEST(Clip, EmptyTimecodeMakesTheTimecodeAbsentUnderAnyStandard)
+{
+    for (auto const standard : {VideoStandard::Pal, VideoStandard::Ntsc, static_cast<VideoStandard>(7)})
+    {
+        Clip clip;
+        clip.VideoStandard(standard);
+        EXPECT_TRUE(clip.TrySetInBoundTodTimecode(TimeCode::Empty()));
+        EXPECT_EQ(clip.InBoundTodTimecode(), TimeCode::Empty());
+        EXPECT_EQ(clip.InBoundUserTimecode(), Clip::DefaultTimecode());
+        EXPECT_TRUE(clip.TrySetInBoundUserTimecode(TimeCode::Empty()));
+        EXPECT_EQ(clip.InBoundUserTimecode(), TimeCode::Empty());
+    }
+}
+
+TEST(Clip, IdentifierTextsAreCutAfterEightCharacters)
+{
+    for (auto const& [text, stored, isWhole] :
+         {std::tuple("", "\0\0\0\0\0\0\0\0\0"sv, true), std::tuple("A1", "A1\0\0\0\0\0\0\0"sv, true),
+          std::tuple("A1B2C3D4", "A1B2C3D4\0"sv, true), std::tuple("A1B2C3D4E", "A1B2C3D4\0"sv, false)})
+    {
+        UmIdText umId;
+        umId.fill('x');
+        EXPECT_EQ(SetUmId(umId, text), isWhole) << text;
+        EXPECT_EQ(std::string_view(umId.data(), umId.size()), stored) << text;
+    }
 }
 
 TEST(ClipEssence, ClearSetsEveryFieldToTheNeutralOnesOfTheType)

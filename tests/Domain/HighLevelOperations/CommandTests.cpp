@@ -16,6 +16,7 @@
 
 #include <gtest/gtest.h>
 
+#include <concepts>
 #include <list>
 #include <memory>
 #include <type_traits>
@@ -35,6 +36,7 @@ using Corvane::Data::Clips::Groups::AnglesGroup;
 using Corvane::Data::Sequences::Playlist;
 using Status = OperationStatus::Status;
 
+using ChannelGuid = Corvane::Data::Channels::Guid;
 using GroupGuid = Corvane::Data::Clips::Groups::Guid;
 
 TEST(CommandParams, NewOnesHaveNewIdentifiers)
@@ -68,6 +70,56 @@ TEST(CommandReply, KindsAreNumbered)
     EXPECT_EQ(kind(GetPlaylistsCommandReply(guid, 0, {})), 11);
     EXPECT_EQ(kind(GetServersCommandReply()), 12);
     EXPECT_EQ(kind(GetMultiviewerDataCommandReply()), 13);
+}
+
+template<typename TReply>
+constexpr bool IsMovableOnly = std::is_nothrow_move_constructible_v<TReply>&& std::is_move_assignable_v<TReply> &&
+                               !std::is_copy_constructible_v<TReply> && !std::is_copy_assignable_v<TReply>;
+
+static_assert(IsMovableOnly<ClipCommandReply> && IsMovableOnly<AnglesGroupCommandReply> &&
+              IsMovableOnly<PlaylistCommandReply> && IsMovableOnly<GetTrainsCommandReply>);
+
+// What these hold can't be compared: an inherited comparison of the identifiers would call replies equal that are not.
+static_assert(!std::equality_comparable<CommandReply> && !std::equality_comparable<ClipCommandReply> &&
+              !std::equality_comparable<AnglesGroupCommandReply> && !std::equality_comparable<PlaylistCommandReply> &&
+              !std::equality_comparable<GetClipsCommandReply> && !std::equality_comparable<GetTrainsCommandReply> &&
+              !std::equality_comparable<GetAnglesGroupsCommandReply>);
+
+/// A reply differs from `base` when any of its fields does.
+template<typename TReply>
+void ExpectDifferent(TReply const& base, auto const... changes)
+{
+    EXPECT_EQ(TReply(base), base);
+    auto const expectDifferent = [&](auto const& change)
+    {
+        auto reply = base;
+        change(reply);
+        EXPECT_NE(reply, base);
+    };
+    expectDifferent([](TReply& reply) { reply.commandGuid = Guid::Generate(); });
+    (expectDifferent(changes), ...);
+}
+
+TEST(CommandReply, ComparisonCoversEveryField)
+{
+    Guid const guid;
+    ChannelGuid const channel(ChannelGuid::Type::ChannelGuidTypePlayer, 1, 2);
+    ExpectDifferent(SuccessReply());
+    ExpectDifferent(FailureReply(guid, ""), [](auto& reply) { reply.error = "x"; });
+    ExpectDifferent(UnknownCommandReply(guid, ""), [](auto& reply) { reply.commandType = "x"; });
+    ExpectDifferent(
+        ChannelCommandReply(guid), [](auto& reply) { reply.resultCount = 1; },
+        [](auto& reply) { reply.results.back().operationStatus.status = Status::Failed; });
+    ExpectDifferent(
+        GetChannelsCommandReply(), [&](auto& reply) { reply.players[channel]; },
+        [&](auto& reply) { reply.recorders[channel]; });
+    ExpectDifferent(GetServersCommandReply(), [](auto& reply) { reply.servers.emplace_back(); });
+    ExpectDifferent(
+        GetPlaylistsCommandReply(guid, 0, {}), [](auto& reply) { reply.revision = 1; },
+        [](auto& reply) { reply.playlists.push_back(Playlist::Empty()); });
+    ExpectDifferent(
+        GetMultiviewerDataCommandReply(), [&](auto& reply) { reply.playersDataOverrides[channel]; },
+        [](auto& reply) { reply.operationStatus.status = Status::Failed; });
 }
 
 /// Items that hold something while they have succeeded.

@@ -7,11 +7,15 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cstdint>
 #include <functional>
+#include <initializer_list>
 #include <limits>
-#include <stdexcept>
+#include <map>
+#include <set>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -167,27 +171,74 @@ TEST(EnumTables, AllOutputsAreAMaskInTheDomain)
         EXPECT_EQ(ToGeneratedEnum(static_cast<TimeCodeRegenOutput>(number)), WireSequences::TimeCodeRegenOutput::None);
 }
 
-// In constant data, as all tables are, these don't compile.
-TEST(EnumTables, PairsThatWouldNotBeFoundBothWaysAreRefused)
+enum class Left : std::int32_t
 {
-    enum class Left
-    {
-        Zero,
-        One,
-        SharesTheSlotOfOne = 33
-    };
-    enum class Right
-    {
-        Zero,
-        One,
-        Two
-    };
-    using Association = Thrift::EnumAssociation<Left, Right>;
-    EXPECT_THROW((Association{{Left::Zero, Right::Zero}, {Left::Zero, Right::One}}), std::logic_error);
-    EXPECT_THROW((Association{{Left::Zero, Right::Zero}, {Left::One, Right::Zero}}), std::logic_error);
-    EXPECT_THROW((Association{{Left::Zero, Right::One}, {Left::One, Right::One}}), std::logic_error);
-    EXPECT_THROW((Association{{Left::One, Right::One}, {Left::SharesTheSlotOfOne, Right::Two}}), std::logic_error);
+};
+enum class Right : std::int32_t
+{
+};
+using Pair = std::pair<Left const, Right const>;
+using Association = Thrift::EnumAssociation<Left, Right>;
+
+constexpr Pair Numbers(std::int32_t const left, std::int32_t const right)
+{
+    return {static_cast<Left>(left), static_cast<Right>(right)};
 }
+
+/// Both directions are maps into which the pairs went in their order.
+void ExpectAsMaps(std::initializer_list<Pair> const pairs)
+{
+    Association const association(pairs);
+    std::map<Left, Right> forward;
+    std::map<Right, Left> backward;
+    std::set<std::int32_t> asked{0, 1, -1, 31, 32};
+    for (auto const& [left, right] : pairs)
+    {
+        forward.emplace(left, right);
+        backward.emplace(right, left);
+        for (auto const number : {static_cast<std::int32_t>(left), static_cast<std::int32_t>(right)})
+            for (auto const distance : {-64, -32, -1, 0, 1, 32, 64})
+                asked.insert(static_cast<std::int32_t>(std::int64_t{number} + distance));
+    }
+    for (auto const number : asked)
+    {
+        auto const left = static_cast<Left>(number);
+        auto const right = static_cast<Right>(number);
+        EXPECT_EQ(association.ToGeneratedEnum(left), forward.contains(left) ? forward.at(left) : Right{}) << number;
+        EXPECT_EQ(association.FromGeneratedEnum(right), backward.contains(right) ? backward.at(right) : Left{})
+            << number;
+    }
+}
+
+TEST(EnumTables, AnyListOfPairsMakesATable)
+{
+    constexpr auto Least = std::numeric_limits<std::int32_t>::min();
+    constexpr auto Most = std::numeric_limits<std::int32_t>::max();
+    ExpectAsMaps({});
+    ExpectAsMaps({Numbers(1, 0)});
+    ExpectAsMaps({Numbers(0, 7), Numbers(7, 0)});
+    ExpectAsMaps({Numbers(-1, -32), Numbers(Least, Most), Numbers(Most, -1), Numbers(-32, Least)});
+    // The first pair of a value stays, on either side and both, in its slot and in the memory of the others.
+    ExpectAsMaps({Numbers(0, 0), Numbers(0, 1)});
+    ExpectAsMaps({Numbers(0, 1), Numbers(1, 1), Numbers(0, 1)});
+    ExpectAsMaps({Numbers(1, 2), Numbers(33, 34), Numbers(33, 66), Numbers(65, 34), Numbers(1, 3), Numbers(4, 2)});
+    // Low five bits that are equal: with 0 last, which is also what a free slot holds, and with 1 in its place.
+    ExpectAsMaps({Numbers(32, 33), Numbers(64, 1), Numbers(0, 65), Numbers(1, 0)});
+    ExpectAsMaps({Numbers(33, 64), Numbers(1, 32), Numbers(65, 0)});
+
+    static constexpr auto all = []<std::int32_t... number>(std::integer_sequence<std::int32_t, number...>)
+    {
+        return std::array{Numbers(number * 5 - 100, 7 - number)...};
+    }
+    (std::make_integer_sequence<std::int32_t, 100>());
+    std::apply([](auto const&... pairs) { ExpectAsMaps({pairs...}); }, all); // more than there are slots
+}
+
+// As the tables are: nothing runs when the library is loaded, so other static initialisers may convert.
+constexpr Association constant{Numbers(0, 0), Numbers(1, 33), Numbers(2, -1)};
+static_assert(constant.ToGeneratedEnum(static_cast<Left>(2)) == static_cast<Right>(-1));
+static_assert(constant.FromGeneratedEnum(static_cast<Right>(33)) == static_cast<Left>(1));
+static_assert(constant.ToGeneratedEnum(static_cast<Left>(34)) == static_cast<Right>(0));
 
 } // namespace
 } // namespace Talvo::Tests
