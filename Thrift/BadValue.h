@@ -20,7 +20,8 @@ public:
     ~BadValue() override;
 
     /// The field, from the record on: `clips[3].clip.inBoundTodTimecode`. An entry of a map is given by its key, in which
-    /// a byte that can't be printed is `\x1f`: `players["\x00A..."].pgmOnAir.todCurTimecodeOnAir`.
+    /// quotes, backslashes and bytes that can't be printed are written as `\x1f`:
+    /// `players["\x00A..."].pgmOnAir.todCurTimecodeOnAir`.
     [[nodiscard]] std::string_view Path() const noexcept;
 
     /// Why the value is invalid. It may repeat the peer's text, unescaped.

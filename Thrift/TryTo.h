@@ -13,8 +13,9 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift
 ///
 /// Works with every converter to the domain, and costs what `To` costs. The converter is given as its own class: through
 /// the frame `Converter<...>` a bad value would still end the process, so that does not compile. As after every failure,
-/// the destination holds what was converted before it. An allocation that fails throws std::bad_alloc or, in a converter
-/// in which no value ends the process, ends the process.
+/// the destination holds what was converted before it; the element of a list that holds the bad value may be there, half
+/// converted. A class derived from a converter converts with the `ToOrThrow` that it inherits, where there is one. An
+/// allocation that fails throws std::bad_alloc or, in a converter in which no value ends the process, ends the process.
 ///
 ///     Domain::Clip clip;
 ///     auto const result = TryTo(ThriftToClipConverter(), record, clip);

@@ -11,9 +11,9 @@ namespace Talvo::TimePoints
 
 /// Makes a TimeCode from calendar and clock fields and refuses what can't exist.
 ///
-///     TimeCodeBuilder{.year = 2000, .month = 1, .day = 1, .minute = 1, .sample = 2, .numerator = 30, .dropFrame =
-///     true}
-///         .Build(); // 2000-01-01T00:01:00;02@30
+///     TimeCodeBuilder const fields{
+///         .year = 2000, .month = 1, .day = 1, .minute = 1, .sample = 2, .numerator = 30, .dropFrame = true};
+///     auto const timeCode = fields.Build(); // 2000-01-01T00:01:00;02@30
 struct TimeCodeBuilder
 {
     /// Calendar year, 1900 to 2261.

@@ -18,6 +18,7 @@ endif()
 install(DIRECTORY ${headerFolders} DESTINATION ${includeRoot}
     FILES_MATCHING PATTERN "*.h"
     PATTERN Thrift/Detail EXCLUDE
+    REGEX "Thrift/(Data/(Boundaries|Identifiers)|Commands/(ByChannel|PlayersDataOverrides|Results)|Notifier/(ClipEvents|CreationTexts))\\.h$" EXCLUDE
     REGEX "TimePoints/(SampleCounting|TimeCodeBreakdown|TimeCodeText)\\.h$" EXCLUDE)
 get_target_property(generatedHeaders WireRecords TALVO_GENERATED_HEADERS)
 install(FILES ${generatedHeaders} DESTINATION ${includeRoot}/generated)

@@ -3,8 +3,8 @@
 #include "Domain/HighLevelOperations/Commands/AnglesGroupCommandReply.h"
 #include "Thrift/Commands/FromClipCommandReply.h"
 #include "Thrift/Data/FromOperationStatus.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Flagged.h"
-#include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/AnglesGroupCommandReply_types.h"
 

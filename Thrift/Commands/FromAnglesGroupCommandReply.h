@@ -22,8 +22,6 @@ class AnglesGroupCommandReplyToThriftConverter
     : public Converter<HighLevelOperations::Commands::AnglesGroupCommandReply, Generated::AnglesGroupCommandReply>
 {
 public:
-    ~AnglesGroupCommandReplyToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::AnglesGroupCommandReply const& source,
                         Generated::AnglesGroupCommandReply& destination) const noexcept override;
 

@@ -23,8 +23,6 @@ class ChainCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::ChainCommandParams, Generated::ChainCommandParams>
 {
 public:
-    ~ChainCommandParamsToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::ChainCommandParams const& source,
                         Generated::ChainCommandParams& destination) const noexcept override;
 

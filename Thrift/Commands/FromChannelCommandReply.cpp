@@ -2,8 +2,8 @@
 
 #include "Domain/HighLevelOperations/Commands/ChannelCommandReply.h"
 #include "Thrift/Data/FromOperationStatus.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Flagged.h"
-#include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/ChannelCommandReply_types.h"
 

@@ -23,8 +23,6 @@ class ChannelCommandReplyToThriftConverter
     : public Converter<HighLevelOperations::Commands::ChannelCommandReply, Generated::ChannelCommandReply>
 {
 public:
-    ~ChannelCommandReplyToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::ChannelCommandReply const& source,
                         Generated::ChannelCommandReply& destination) const noexcept override;
 

@@ -2,8 +2,8 @@
 
 #include "Domain/HighLevelOperations/Commands/ClipCommandReply.h"
 #include "Thrift/Commands/FromClipResultsItem.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Flagged.h"
-#include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Lists.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/ClipCommandReply_types.h"

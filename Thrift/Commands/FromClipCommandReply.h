@@ -22,8 +22,6 @@ class ClipCommandReplyToThriftConverter
     : public Converter<HighLevelOperations::Commands::ClipCommandReply, Generated::ClipCommandReply>
 {
 public:
-    ~ClipCommandReplyToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::ClipCommandReply const& source,
                         Generated::ClipCommandReply& destination) const noexcept override;
 

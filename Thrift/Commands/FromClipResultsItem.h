@@ -23,8 +23,6 @@ class ClipResultsItemToThriftConverter
     : public Converter<HighLevelOperations::Commands::ClipResultsItem, Generated::ClipResultsItem>
 {
 public:
-    ~ClipResultsItemToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::ClipResultsItem const& source,
                         Generated::ClipResultsItem& destination) const noexcept override;
 

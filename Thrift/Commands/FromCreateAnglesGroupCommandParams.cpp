@@ -2,8 +2,8 @@
 
 #include "Domain/HighLevelOperations/Commands/CreateAnglesGroupCommandParams.h"
 #include "Thrift/Commands/FromCreateClipsCommandParams.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Flagged.h"
-#include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/CreateAnglesGroupCommandParams_types.h"
 

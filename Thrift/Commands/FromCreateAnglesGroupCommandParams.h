@@ -22,8 +22,6 @@ class CreateAnglesGroupCommandParamsToThriftConverter
                        Generated::CreateAnglesGroupCommandParams>
 {
 public:
-    ~CreateAnglesGroupCommandParamsToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::CreateAnglesGroupCommandParams const& source,
                         Generated::CreateAnglesGroupCommandParams& destination) const noexcept override;
 

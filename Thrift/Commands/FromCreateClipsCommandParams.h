@@ -23,8 +23,6 @@ class CreateClipsCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::CreateClipsCommandParams, Generated::CreateClipsCommandParams>
 {
 public:
-    ~CreateClipsCommandParamsToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::CreateClipsCommandParams const& source,
                         Generated::CreateClipsCommandParams& destination) const noexcept override;
 

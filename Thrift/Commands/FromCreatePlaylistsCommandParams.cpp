@@ -1,9 +1,9 @@
 #include "Thrift/Commands/FromCreatePlaylistsCommandParams.h"
 
 #include "Domain/HighLevelOperations/Commands/CreatePlaylistsCommandParams.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Data/Sequences/FromPlaylist.h"
 #include "Thrift/Detail/Flagged.h"
-#include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Lists.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/CreatePlaylistsCommandParams_types.h"

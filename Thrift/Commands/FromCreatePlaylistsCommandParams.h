@@ -24,8 +24,6 @@ class CreatePlaylistsCommandParamsToThriftConverter
                        Generated::CreatePlaylistsCommandParams>
 {
 public:
-    ~CreatePlaylistsCommandParamsToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::CreatePlaylistsCommandParams const& source,
                         Generated::CreatePlaylistsCommandParams& destination) const noexcept override;
 

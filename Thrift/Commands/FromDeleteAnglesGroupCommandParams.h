@@ -22,8 +22,6 @@ class DeleteAnglesGroupCommandParamsToThriftConverter
                        Generated::DeleteAnglesGroupCommandParams>
 {
 public:
-    ~DeleteAnglesGroupCommandParamsToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::DeleteAnglesGroupCommandParams const& source,
                         Generated::DeleteAnglesGroupCommandParams& destination) const noexcept override;
 

@@ -22,8 +22,6 @@ class DeleteClipsCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::DeleteClipsCommandParams, Generated::DeleteClipsCommandParams>
 {
 public:
-    ~DeleteClipsCommandParamsToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::DeleteClipsCommandParams const& source,
                         Generated::DeleteClipsCommandParams& destination) const noexcept override;
 

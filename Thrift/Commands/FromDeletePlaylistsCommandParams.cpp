@@ -2,8 +2,8 @@
 
 #include "Domain/HighLevelOperations/Commands/DeletePlaylistsCommandParams.h"
 #include "Thrift/Data/FromGuid.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Flagged.h"
-#include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Lists.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/DeletePlaylistsCommandParams_types.h"

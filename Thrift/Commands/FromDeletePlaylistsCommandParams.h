@@ -23,8 +23,6 @@ class DeletePlaylistsCommandParamsToThriftConverter
                        Generated::DeletePlaylistsCommandParams>
 {
 public:
-    ~DeletePlaylistsCommandParamsToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::DeletePlaylistsCommandParams const& source,
                         Generated::DeletePlaylistsCommandParams& destination) const noexcept override;
 

@@ -23,8 +23,6 @@ class DialCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::DialCommandParams, Generated::DialCommandParams>
 {
 public:
-    ~DialCommandParamsToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::DialCommandParams const& source,
                         Generated::DialCommandParams& destination) const noexcept override;
 

@@ -1,8 +1,8 @@
 #include "Thrift/Commands/FromFailureReply.h"
 
 #include "Domain/HighLevelOperations/Commands/FailureReply.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Flagged.h"
-#include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/FailureReply_types.h"
 

@@ -21,8 +21,6 @@ class FailureReplyToThriftConverter
     : public Converter<HighLevelOperations::Commands::FailureReply, Generated::FailureReply>
 {
 public:
-    ~FailureReplyToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::FailureReply const& source,
                         Generated::FailureReply& destination) const noexcept override;
 

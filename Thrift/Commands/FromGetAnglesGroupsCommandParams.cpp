@@ -1,8 +1,8 @@
 #include "Thrift/Commands/FromGetAnglesGroupsCommandParams.h"
 
 #include "Domain/HighLevelOperations/Commands/GetAnglesGroupsCommandParams.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Flagged.h"
-#include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/GetAnglesGroupsCommandParams_types.h"
 

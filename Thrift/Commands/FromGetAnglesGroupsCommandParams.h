@@ -22,8 +22,6 @@ class GetAnglesGroupsCommandParamsToThriftConverter
                        Generated::GetAnglesGroupsCommandParams>
 {
 public:
-    ~GetAnglesGroupsCommandParamsToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::GetAnglesGroupsCommandParams const& source,
                         Generated::GetAnglesGroupsCommandParams& destination) const noexcept override;
 

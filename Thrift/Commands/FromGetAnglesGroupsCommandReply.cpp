@@ -2,8 +2,8 @@
 
 #include "Domain/HighLevelOperations/Commands/GetAnglesGroupsCommandReply.h"
 #include "Thrift/Data/Clips/FromAnglesGroup.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Flagged.h"
-#include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Lists.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/GetAnglesGroupsCommandReply_types.h"

@@ -25,8 +25,6 @@ class GetAnglesGroupsCommandReplyToThriftConverter
                        Generated::GetAnglesGroupsCommandReply>
 {
 public:
-    ~GetAnglesGroupsCommandReplyToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::GetAnglesGroupsCommandReply const& source,
                         Generated::GetAnglesGroupsCommandReply& destination) const noexcept override;
 

@@ -1,8 +1,8 @@
 #include "Thrift/Commands/FromGetChannelsCommandParams.h"
 
 #include "Domain/HighLevelOperations/Commands/GetChannelsCommandParams.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Flagged.h"
-#include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/GetChannelsCommandParams_types.h"
 

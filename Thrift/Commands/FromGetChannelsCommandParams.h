@@ -21,8 +21,6 @@ class GetChannelsCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::GetChannelsCommandParams, Generated::GetChannelsCommandParams>
 {
 public:
-    ~GetChannelsCommandParamsToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::GetChannelsCommandParams const& source,
                         Generated::GetChannelsCommandParams& destination) const noexcept override;
 

@@ -3,8 +3,8 @@
 #include "Domain/HighLevelOperations/Commands/GetChannelsCommandReply.h"
 #include "Thrift/Data/Channels/FromPlayerState.h"
 #include "Thrift/Data/Channels/FromRecorderState.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Flagged.h"
-#include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/GetChannelsCommandReply_types.h"
 

@@ -24,8 +24,6 @@ class GetChannelsCommandReplyToThriftConverter
     : public Converter<HighLevelOperations::Commands::GetChannelsCommandReply, Generated::GetChannelsCommandReply>
 {
 public:
-    ~GetChannelsCommandReplyToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::GetChannelsCommandReply const& source,
                         Generated::GetChannelsCommandReply& destination) const noexcept override;
 

@@ -1,8 +1,8 @@
 #include "Thrift/Commands/FromGetClipsCommandParams.h"
 
 #include "Domain/HighLevelOperations/Commands/GetClipsCommandParams.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Flagged.h"
-#include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/GetClipsCommandParams_types.h"
 

@@ -21,8 +21,6 @@ class GetClipsCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::GetClipsCommandParams, Generated::GetClipsCommandParams>
 {
 public:
-    ~GetClipsCommandParamsToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::GetClipsCommandParams const& source,
                         Generated::GetClipsCommandParams& destination) const noexcept override;
 

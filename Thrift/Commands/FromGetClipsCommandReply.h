@@ -24,8 +24,6 @@ class GetClipsCommandReplyToThriftConverter
     : public Converter<HighLevelOperations::Commands::GetClipsCommandReply, Generated::GetClipsCommandReply>
 {
 public:
-    ~GetClipsCommandReplyToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::GetClipsCommandReply const& source,
                         Generated::GetClipsCommandReply& destination) const noexcept override;
 

@@ -22,8 +22,6 @@ class GetMultiviewerDataCommandParamsToThriftConverter
                        Generated::GetMultiviewerDataCommandParams>
 {
 public:
-    ~GetMultiviewerDataCommandParamsToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::GetMultiviewerDataCommandParams const& source,
                         Generated::GetMultiviewerDataCommandParams& destination) const noexcept override;
 

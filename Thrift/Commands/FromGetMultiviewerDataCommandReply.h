@@ -25,8 +25,6 @@ class GetMultiviewerDataCommandReplyToThriftConverter
                        Generated::GetMultiviewerDataCommandReply>
 {
 public:
-    ~GetMultiviewerDataCommandReplyToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::GetMultiviewerDataCommandReply const& source,
                         Generated::GetMultiviewerDataCommandReply& destination) const noexcept override;
 

@@ -1,8 +1,8 @@
 #include "Thrift/Commands/FromGetPlaylistsCommandParams.h"
 
 #include "Domain/HighLevelOperations/Commands/GetPlaylistsCommandParams.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Flagged.h"
-#include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/GetPlaylistsCommandParams_types.h"
 

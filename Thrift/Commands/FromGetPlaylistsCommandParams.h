@@ -21,8 +21,6 @@ class GetPlaylistsCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::GetPlaylistsCommandParams, Generated::GetPlaylistsCommandParams>
 {
 public:
-    ~GetPlaylistsCommandParamsToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::GetPlaylistsCommandParams const& source,
                         Generated::GetPlaylistsCommandParams& destination) const noexcept override;
 

@@ -25,8 +25,6 @@ class GetPlaylistsCommandReplyToThriftConverter
     : public Converter<HighLevelOperations::Commands::GetPlaylistsCommandReply, Generated::GetPlaylistsCommandReply>
 {
 public:
-    ~GetPlaylistsCommandReplyToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::GetPlaylistsCommandReply const& source,
                         Generated::GetPlaylistsCommandReply& destination) const noexcept override;
 

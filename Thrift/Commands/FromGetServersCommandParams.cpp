@@ -1,8 +1,8 @@
 #include "Thrift/Commands/FromGetServersCommandParams.h"
 
 #include "Domain/HighLevelOperations/Commands/GetServersCommandParams.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Flagged.h"
-#include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/GetServersCommandParams_types.h"
 

@@ -21,8 +21,6 @@ class GetServersCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::GetServersCommandParams, Generated::GetServersCommandParams>
 {
 public:
-    ~GetServersCommandParamsToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::GetServersCommandParams const& source,
                         Generated::GetServersCommandParams& destination) const noexcept override;
 

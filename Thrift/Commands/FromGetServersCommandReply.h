@@ -25,8 +25,6 @@ class GetServersCommandReplyToThriftConverter
     : public Converter<HighLevelOperations::Commands::GetServersCommandReply, Generated::GetServersCommandReply>
 {
 public:
-    ~GetServersCommandReplyToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::GetServersCommandReply const& source,
                         Generated::GetServersCommandReply& destination) const noexcept override;
 

@@ -1,8 +1,8 @@
 #include "Thrift/Commands/FromGetTrainsCommandParams.h"
 
 #include "Domain/HighLevelOperations/Commands/GetTrainsCommandParams.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Flagged.h"
-#include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/GetTrainsCommandParams_types.h"
 

@@ -21,8 +21,6 @@ class GetTrainsCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::GetTrainsCommandParams, Generated::GetTrainsCommandParams>
 {
 public:
-    ~GetTrainsCommandParamsToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::GetTrainsCommandParams const& source,
                         Generated::GetTrainsCommandParams& destination) const noexcept override;
 

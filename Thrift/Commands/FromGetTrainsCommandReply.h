@@ -23,8 +23,6 @@ class GetTrainsCommandReplyToThriftConverter
     : public Converter<HighLevelOperations::Commands::GetTrainsCommandReply, Generated::GetTrainsCommandReply>
 {
 public:
-    ~GetTrainsCommandReplyToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::GetTrainsCommandReply const& source,
                         Generated::GetTrainsCommandReply& destination) const noexcept override;
 

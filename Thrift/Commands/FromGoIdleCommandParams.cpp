@@ -1,9 +1,9 @@
 #include "Thrift/Commands/FromGoIdleCommandParams.h"
 
 #include "Domain/HighLevelOperations/Commands/GoIdleCommandParams.h"
-#include "Thrift/Detail/ByChannel.h"
+#include "Thrift/Commands/ByChannel.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Flagged.h"
-#include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/GoIdleCommandParams_types.h"
 

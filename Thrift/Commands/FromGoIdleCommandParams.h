@@ -23,8 +23,6 @@ class GoIdleCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::GoIdleCommandParams, Generated::GoIdleCommandParams>
 {
 public:
-    ~GoIdleCommandParamsToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::GoIdleCommandParams const& source,
                         Generated::GoIdleCommandParams& destination) const noexcept override;
 

@@ -23,8 +23,6 @@ class LiveCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::LiveCommandParams, Generated::LiveCommandParams>
 {
 public:
-    ~LiveCommandParamsToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::LiveCommandParams const& source,
                         Generated::LiveCommandParams& destination) const noexcept override;
 

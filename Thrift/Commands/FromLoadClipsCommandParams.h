@@ -23,8 +23,6 @@ class LoadClipsCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::LoadClipsCommandParams, Generated::LoadClipsCommandParams>
 {
 public:
-    ~LoadClipsCommandParamsToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::LoadClipsCommandParams const& source,
                         Generated::LoadClipsCommandParams& destination) const noexcept override;
 

@@ -1,9 +1,9 @@
 #include "Thrift/Commands/FromLoadSequencesCommandParams.h"
 
 #include "Domain/HighLevelOperations/Commands/LoadSequencesCommandParams.h"
-#include "Thrift/Detail/ByChannel.h"
+#include "Thrift/Commands/ByChannel.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Flagged.h"
-#include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/LoadSequencesCommandParams_types.h"
 

@@ -23,8 +23,6 @@ class LoadSequencesCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::LoadSequencesCommandParams, Generated::LoadSequencesCommandParams>
 {
 public:
-    ~LoadSequencesCommandParamsToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::LoadSequencesCommandParams const& source,
                         Generated::LoadSequencesCommandParams& destination) const noexcept override;
 

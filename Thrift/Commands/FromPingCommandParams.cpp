@@ -1,8 +1,8 @@
 #include "Thrift/Commands/FromPingCommandParams.h"
 
 #include "Domain/HighLevelOperations/Commands/PingCommandParams.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Flagged.h"
-#include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/PingCommandParams_types.h"
 

@@ -21,8 +21,6 @@ class PingCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::PingCommandParams, Generated::PingCommandParams>
 {
 public:
-    ~PingCommandParamsToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::PingCommandParams const& source,
                         Generated::PingCommandParams& destination) const noexcept override;
 

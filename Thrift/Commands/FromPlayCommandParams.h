@@ -23,8 +23,6 @@ class PlayCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::PlayCommandParams, Generated::PlayCommandParams>
 {
 public:
-    ~PlayCommandParamsToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::PlayCommandParams const& source,
                         Generated::PlayCommandParams& destination) const noexcept override;
 

@@ -22,8 +22,6 @@ class PlaylistCommandReplyToThriftConverter
     : public Converter<HighLevelOperations::Commands::PlaylistCommandReply, Generated::PlaylistCommandReply>
 {
 public:
-    ~PlaylistCommandReplyToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::PlaylistCommandReply const& source,
                         Generated::PlaylistCommandReply& destination) const noexcept override;
 

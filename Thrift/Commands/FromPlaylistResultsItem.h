@@ -22,8 +22,6 @@ class PlaylistResultsItemToThriftConverter
     : public Converter<HighLevelOperations::Commands::PlaylistResultsItem, Generated::PlaylistResultsItem>
 {
 public:
-    ~PlaylistResultsItemToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::PlaylistResultsItem const& source,
                         Generated::PlaylistResultsItem& destination) const noexcept override;
 

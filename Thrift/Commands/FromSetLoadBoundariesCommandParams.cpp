@@ -1,10 +1,10 @@
 #include "Thrift/Commands/FromSetLoadBoundariesCommandParams.h"
 
 #include "Domain/HighLevelOperations/Commands/SetLoadBoundariesCommandParams.h"
-#include "Thrift/Detail/Boundaries.h"
-#include "Thrift/Detail/ByChannel.h"
+#include "Thrift/Commands/ByChannel.h"
+#include "Thrift/Data/Boundaries.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Flagged.h"
-#include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/SetLoadBoundariesCommandParams_types.h"
 

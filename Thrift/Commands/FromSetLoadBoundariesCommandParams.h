@@ -25,8 +25,6 @@ class SetLoadBoundariesCommandParamsToThriftConverter
                        Generated::SetLoadBoundariesCommandParams>
 {
 public:
-    ~SetLoadBoundariesCommandParamsToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::SetLoadBoundariesCommandParams const& source,
                         Generated::SetLoadBoundariesCommandParams& destination) const noexcept override;
 

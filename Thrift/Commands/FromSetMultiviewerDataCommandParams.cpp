@@ -1,9 +1,7 @@
 #include "Thrift/Commands/FromSetMultiviewerDataCommandParams.h"
 
 #include "Domain/HighLevelOperations/Commands/SetMultiviewerDataCommandParams.h"
-#include "Thrift/Data/FromGuid.h"
-#include "Thrift/Data/FromPlayerDataOverrides.h"
-#include "Thrift/Detail/Results.h"
+#include "Thrift/Commands/PlayersDataOverrides.h"
 #include "generated/SetMultiViewerDataCommandParams_types.h"
 
 #include <utility>
@@ -17,20 +15,10 @@ ConversionResult SetMultiviewerDataCommandParamsToThriftConverter::To(
     HighLevelOperations::Commands::SetMultiviewerDataCommandParams const& source,
     Generated::SetMultiviewerDataCommandParams& destination) const noexcept
 {
-    static Data::GuidToThriftConverter const guidConverter;
-    static Data::FromPlayerDataOverrides const fromPlayerDataOverrides;
-
     // The identifier does not travel. Peers rely on it.
-    for (auto const& [channel, overrides] : source.playersDataOverrides)
-    {
-        Corvane::Data::Generated::PlayerDataOverrides wireOverrides;
-        if (auto const result = fromPlayerDataOverrides.To(overrides, wireOverrides); !result.success)
-            return Nested(result);
-        Corvane::Data::Generated::Guid wireChannel;
-        if (auto const result = guidConverter.To(channel, wireChannel); !result.success) return Nested(result);
-        destination.playersDataOverrides.insert_or_assign(std::move(wireChannel), std::move(wireOverrides));
-    }
-    return Success();
+    return SendOverrides(
+        source.playersDataOverrides, [&](auto&& channel, auto&& overrides)
+        { destination.playersDataOverrides.insert_or_assign(std::move(channel), std::move(overrides)); });
 }
 
 ConversionResult SetMultiviewerDataCommandParamsToThriftConverter::To(

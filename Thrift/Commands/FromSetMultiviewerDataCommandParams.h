@@ -27,8 +27,6 @@ class SetMultiviewerDataCommandParamsToThriftConverter
                        Generated::SetMultiviewerDataCommandParams>
 {
 public:
-    ~SetMultiviewerDataCommandParamsToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::SetMultiviewerDataCommandParams const& source,
                         Generated::SetMultiviewerDataCommandParams& destination) const noexcept override;
 

@@ -22,8 +22,6 @@ class StartRecordingCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::StartCommandParams, Generated::StartRecordingCommandParams>
 {
 public:
-    ~StartRecordingCommandParamsToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::StartCommandParams const& source,
                         Generated::StartRecordingCommandParams& destination) const noexcept override;
 

@@ -23,8 +23,6 @@ class StepCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::StepCommandParams, Generated::StepCommandParams>
 {
 public:
-    ~StepCommandParamsToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::StepCommandParams const& source,
                         Generated::StepCommandParams& destination) const noexcept override;
 

@@ -22,8 +22,6 @@ class StopRecordingCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::StopCommandParams, Generated::StopRecordingCommandParams>
 {
 public:
-    ~StopRecordingCommandParamsToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::StopCommandParams const& source,
                         Generated::StopRecordingCommandParams& destination) const noexcept override;
 

@@ -1,8 +1,8 @@
 #include "Thrift/Commands/FromSuccessReply.h"
 
 #include "Domain/HighLevelOperations/Commands/SuccessReply.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Flagged.h"
-#include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/SuccessReply_types.h"
 

@@ -20,8 +20,6 @@ class SuccessReplyToThriftConverter
     : public Converter<HighLevelOperations::Commands::SuccessReply, Generated::SuccessReply>
 {
 public:
-    ~SuccessReplyToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::SuccessReply const& source,
                         Generated::SuccessReply& destination) const noexcept override;
 

@@ -22,8 +22,6 @@ class SyncCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::SyncCommandParams, Generated::SyncCommandParams>
 {
 public:
-    ~SyncCommandParamsToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::SyncCommandParams const& source,
                         Generated::SyncCommandParams& destination) const noexcept override;
 

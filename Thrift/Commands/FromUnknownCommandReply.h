@@ -22,8 +22,6 @@ class UnknownCommandReplyToThriftConverter
     : public Converter<HighLevelOperations::Commands::UnknownCommandReply, Generated::UnknownCommandReply>
 {
 public:
-    ~UnknownCommandReplyToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::UnknownCommandReply const& source,
                         Generated::UnknownCommandReply& destination) const noexcept override;
 

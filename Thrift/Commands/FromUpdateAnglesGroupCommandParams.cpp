@@ -1,8 +1,8 @@
 #include "Thrift/Commands/FromUpdateAnglesGroupCommandParams.h"
 
 #include "Domain/HighLevelOperations/Commands/UpdateAnglesGroupCommandParams.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Flagged.h"
-#include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/UpdateAnglesGroupCommandParams_types.h"
 

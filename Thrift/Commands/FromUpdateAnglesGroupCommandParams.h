@@ -22,8 +22,6 @@ class UpdateAnglesGroupCommandParamsToThriftConverter
                        Generated::UpdateAnglesGroupCommandParams>
 {
 public:
-    ~UpdateAnglesGroupCommandParamsToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::UpdateAnglesGroupCommandParams const& source,
                         Generated::UpdateAnglesGroupCommandParams& destination) const noexcept override;
 

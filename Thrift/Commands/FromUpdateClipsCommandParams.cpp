@@ -2,8 +2,8 @@
 
 #include "Domain/HighLevelOperations/Commands/UpdateClipsCommandParams.h"
 #include "Thrift/Data/Clips/FromClip.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Flagged.h"
-#include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Lists.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/UpdateClipsCommandParams_types.h"

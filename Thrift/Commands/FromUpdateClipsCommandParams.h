@@ -23,8 +23,6 @@ class UpdateClipsCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::UpdateClipsCommandParams, Generated::UpdateClipsCommandParams>
 {
 public:
-    ~UpdateClipsCommandParamsToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::UpdateClipsCommandParams const& source,
                         Generated::UpdateClipsCommandParams& destination) const noexcept override;
 

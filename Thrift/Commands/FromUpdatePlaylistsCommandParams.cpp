@@ -1,9 +1,9 @@
 #include "Thrift/Commands/FromUpdatePlaylistsCommandParams.h"
 
 #include "Domain/HighLevelOperations/Commands/UpdatePlaylistsCommandParams.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Data/Sequences/FromPlaylist.h"
 #include "Thrift/Detail/Flagged.h"
-#include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Lists.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/UpdatePlaylistsCommandParams_types.h"

@@ -24,8 +24,6 @@ class UpdatePlaylistsCommandParamsToThriftConverter
                        Generated::UpdatePlaylistsCommandParams>
 {
 public:
-    ~UpdatePlaylistsCommandParamsToThriftConverter() override = default;
-
     ConversionResult To(HighLevelOperations::Commands::UpdatePlaylistsCommandParams const& source,
                         Generated::UpdatePlaylistsCommandParams& destination) const noexcept override;
 

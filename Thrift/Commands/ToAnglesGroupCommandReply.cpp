@@ -2,8 +2,8 @@
 
 #include "Domain/HighLevelOperations/Commands/AnglesGroupCommandReply.h"
 #include "Thrift/Commands/ToClipCommandReply.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Data/ToOperationStatus.h"
-#include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/AnglesGroupCommandReply_types.h"

@@ -26,8 +26,6 @@ class ThriftToAnglesGroupCommandReplyConverter
     : public Converter<Generated::AnglesGroupCommandReply, HighLevelOperations::Commands::AnglesGroupCommandReply>
 {
 public:
-    ~ThriftToAnglesGroupCommandReplyConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::AnglesGroupCommandReply const& source,
                                HighLevelOperations::Commands::AnglesGroupCommandReply& destination) const;

@@ -24,8 +24,6 @@ class ThriftToChainCommandParamsConverter
     : public Converter<Generated::ChainCommandParams, HighLevelOperations::Commands::ChainCommandParams>
 {
 public:
-    ~ThriftToChainCommandParamsConverter() override = default;
-
     ConversionResult To(Generated::ChainCommandParams const& source,
                         HighLevelOperations::Commands::ChainCommandParams& destination) const noexcept override;
 

@@ -1,8 +1,8 @@
 #include "Thrift/Commands/ToChannelCommandReply.h"
 
 #include "Domain/HighLevelOperations/Commands/ChannelCommandReply.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Data/ToOperationStatus.h"
-#include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/ChannelCommandReply_types.h"

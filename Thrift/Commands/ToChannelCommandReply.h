@@ -28,8 +28,6 @@ class ThriftToChannelCommandReplyConverter
     : public Converter<Generated::ChannelCommandReply, HighLevelOperations::Commands::ChannelCommandReply>
 {
 public:
-    ~ThriftToChannelCommandReplyConverter() override = default;
-
     ConversionResult To(Generated::ChannelCommandReply const& source,
                         HighLevelOperations::Commands::ChannelCommandReply& destination) const noexcept override;
 

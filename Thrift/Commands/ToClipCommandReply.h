@@ -25,8 +25,6 @@ class ThriftToClipCommandReplyConverter
     : public Converter<Generated::ClipCommandReply, HighLevelOperations::Commands::ClipCommandReply>
 {
 public:
-    ~ThriftToClipCommandReplyConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::ClipCommandReply const& source,
                                HighLevelOperations::Commands::ClipCommandReply& destination) const;

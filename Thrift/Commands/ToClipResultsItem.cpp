@@ -1,8 +1,8 @@
 #include "Thrift/Commands/ToClipResultsItem.h"
 
 #include "Domain/HighLevelOperations/Commands/ClipResultsItem.h"
+#include "Thrift/Commands/Results.h"
 #include "Thrift/Data/Clips/ToClip.h"
-#include "Thrift/Data/ToOperationStatus.h"
 #include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "Thrift/Detail/SeenFields.h"
@@ -16,24 +16,17 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
 {
 
 using namespace Detail;
-using Corvane::Data::OperationResult;
 using Corvane::Data::OperationStatus;
 
 ConversionResult
 ThriftToClipResultsItemConverter::ToOrThrow(Generated::ClipResultsItem const& source,
                                             HighLevelOperations::Commands::ClipResultsItem& destination) const
 {
-    Data::ThriftToOperationStatusConverter const toStatus;
     Data::Clips::ThriftToClipConverter const toClip;
     auto const& isset = source.__isset;
     SeenFields seen;
 
-    if (seen(isset.operationStatus))
-    {
-        OperationStatus status{OperationStatus::Status::Failed, OperationResult::DefaultError};
-        std::ignore = Read("operationStatus", toStatus, source.operationStatus, status);
-        destination.OperationStatus(status); // destroys the held clip unless it succeeded
-    }
+    if (seen(isset.operationStatus)) ReadStatus(source, destination);
     if (seen(isset.clip))
     {
         // The clip is converted even where it is dropped. What it reports is not looked at.

@@ -27,8 +27,6 @@ class ThriftToClipResultsItemConverter
     : public Converter<Generated::ClipResultsItem, HighLevelOperations::Commands::ClipResultsItem>
 {
 public:
-    ~ThriftToClipResultsItemConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::ClipResultsItem const& source,
                                HighLevelOperations::Commands::ClipResultsItem& destination) const;

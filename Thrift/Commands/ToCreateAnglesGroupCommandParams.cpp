@@ -2,7 +2,7 @@
 
 #include "Domain/HighLevelOperations/Commands/CreateAnglesGroupCommandParams.h"
 #include "Thrift/Commands/ToCreateClipsCommandParams.h"
-#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/CreateAnglesGroupCommandParams_types.h"

@@ -25,8 +25,6 @@ class ThriftToCreateAnglesGroupCommandParamsConverter
                        HighLevelOperations::Commands::CreateAnglesGroupCommandParams>
 {
 public:
-    ~ThriftToCreateAnglesGroupCommandParamsConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::CreateAnglesGroupCommandParams const& source,
                                HighLevelOperations::Commands::CreateAnglesGroupCommandParams& destination) const;

@@ -26,8 +26,6 @@ class ThriftToCreateClipsCommandParamsConverter
     : public Converter<Generated::CreateClipsCommandParams, HighLevelOperations::Commands::CreateClipsCommandParams>
 {
 public:
-    ~ThriftToCreateClipsCommandParamsConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::CreateClipsCommandParams const& source,
                                HighLevelOperations::Commands::CreateClipsCommandParams& destination) const;

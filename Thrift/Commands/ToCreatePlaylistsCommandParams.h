@@ -27,8 +27,6 @@ class ThriftToCreatePlaylistsCommandParamsConverter
                        HighLevelOperations::Commands::CreatePlaylistsCommandParams>
 {
 public:
-    ~ThriftToCreatePlaylistsCommandParamsConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::CreatePlaylistsCommandParams const& source,
                                HighLevelOperations::Commands::CreatePlaylistsCommandParams& destination) const;

@@ -1,7 +1,7 @@
 #include "Thrift/Commands/ToDeleteAnglesGroupCommandParams.h"
 
 #include "Domain/HighLevelOperations/Commands/DeleteAnglesGroupCommandParams.h"
-#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/DeleteAnglesGroupCommandParams_types.h"
 

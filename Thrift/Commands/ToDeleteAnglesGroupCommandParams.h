@@ -22,8 +22,6 @@ class ThriftToDeleteAnglesGroupCommandParamsConverter
                        HighLevelOperations::Commands::DeleteAnglesGroupCommandParams>
 {
 public:
-    ~ThriftToDeleteAnglesGroupCommandParamsConverter() override = default;
-
     ConversionResult
     To(Generated::DeleteAnglesGroupCommandParams const& source,
        HighLevelOperations::Commands::DeleteAnglesGroupCommandParams& destination) const noexcept override;

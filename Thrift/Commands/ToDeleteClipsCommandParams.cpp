@@ -1,8 +1,8 @@
 #include "Thrift/Commands/ToDeleteClipsCommandParams.h"
 
 #include "Domain/HighLevelOperations/Commands/DeleteClipsCommandParams.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Data/ToGuid.h"
-#include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Lists.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/DeleteClipsCommandParams_types.h"

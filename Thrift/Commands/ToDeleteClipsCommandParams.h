@@ -23,8 +23,6 @@ class ThriftToDeleteClipsCommandParamsConverter
     : public Converter<Generated::DeleteClipsCommandParams, HighLevelOperations::Commands::DeleteClipsCommandParams>
 {
 public:
-    ~ThriftToDeleteClipsCommandParamsConverter() override = default;
-
     ConversionResult To(Generated::DeleteClipsCommandParams const& source,
                         HighLevelOperations::Commands::DeleteClipsCommandParams& destination) const noexcept override;
 

@@ -1,8 +1,8 @@
 #include "Thrift/Commands/ToDeletePlaylistsCommandParams.h"
 
 #include "Domain/HighLevelOperations/Commands/DeletePlaylistsCommandParams.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Data/ToGuid.h"
-#include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Lists.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/DeletePlaylistsCommandParams_types.h"

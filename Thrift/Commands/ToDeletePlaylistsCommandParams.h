@@ -24,8 +24,6 @@ class ThriftToDeletePlaylistsCommandParamsConverter
                        HighLevelOperations::Commands::DeletePlaylistsCommandParams>
 {
 public:
-    ~ThriftToDeletePlaylistsCommandParamsConverter() override = default;
-
     ConversionResult
     To(Generated::DeletePlaylistsCommandParams const& source,
        HighLevelOperations::Commands::DeletePlaylistsCommandParams& destination) const noexcept override;

@@ -1,8 +1,8 @@
 #include "Thrift/Commands/ToDialCommandParams.h"
 
 #include "Domain/HighLevelOperations/Commands/DialCommandParams.h"
-#include "Thrift/Detail/ByChannel.h"
-#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Commands/ByChannel.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/DialCommandParams_types.h"
 

@@ -23,8 +23,6 @@ class ThriftToDialCommandParamsConverter
     : public Converter<Generated::DialCommandParams, HighLevelOperations::Commands::DialCommandParams>
 {
 public:
-    ~ThriftToDialCommandParamsConverter() override = default;
-
     ConversionResult To(Generated::DialCommandParams const& source,
                         HighLevelOperations::Commands::DialCommandParams& destination) const noexcept override;
 

@@ -1,7 +1,7 @@
 #include "Thrift/Commands/ToFailureReply.h"
 
 #include "Domain/HighLevelOperations/Commands/FailureReply.h"
-#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Results.h"
 #include "Thrift/Detail/SeenFields.h"
 #include "generated/FailureReply_types.h"

@@ -24,8 +24,6 @@ class ThriftToFailureReplyConverter
     : public Converter<Generated::FailureReply, HighLevelOperations::Commands::FailureReply>
 {
 public:
-    ~ThriftToFailureReplyConverter() override = default;
-
     ConversionResult To(Generated::FailureReply const& source,
                         HighLevelOperations::Commands::FailureReply& destination) const noexcept override;
 

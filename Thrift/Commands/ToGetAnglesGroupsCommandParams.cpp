@@ -1,7 +1,7 @@
 #include "Thrift/Commands/ToGetAnglesGroupsCommandParams.h"
 
 #include "Domain/HighLevelOperations/Commands/GetAnglesGroupsCommandParams.h"
-#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/GetAnglesGroupsCommandParams_types.h"
 

@@ -22,8 +22,6 @@ class ThriftToGetAnglesGroupsCommandParamsConverter
                        HighLevelOperations::Commands::GetAnglesGroupsCommandParams>
 {
 public:
-    ~ThriftToGetAnglesGroupsCommandParamsConverter() override = default;
-
     ConversionResult
     To(Generated::GetAnglesGroupsCommandParams const& source,
        HighLevelOperations::Commands::GetAnglesGroupsCommandParams& destination) const noexcept override;

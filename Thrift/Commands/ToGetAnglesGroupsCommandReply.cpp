@@ -2,7 +2,7 @@
 
 #include "Domain/HighLevelOperations/Commands/GetAnglesGroupsCommandReply.h"
 #include "Thrift/Data/Clips/ToAnglesGroup.h"
-#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/GetAnglesGroupsCommandReply_types.h"

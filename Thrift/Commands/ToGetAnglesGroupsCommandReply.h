@@ -25,8 +25,6 @@ class ThriftToGetAnglesGroupsCommandReplyConverter
                        HighLevelOperations::Commands::GetAnglesGroupsCommandReply>
 {
 public:
-    ~ThriftToGetAnglesGroupsCommandReplyConverter() override = default;
-
     ConversionResult
     To(Generated::GetAnglesGroupsCommandReply const& source,
        HighLevelOperations::Commands::GetAnglesGroupsCommandReply& destination) const noexcept override;

@@ -1,7 +1,7 @@
 #include "Thrift/Commands/ToGetChannelsCommandParams.h"
 
 #include "Domain/HighLevelOperations/Commands/GetChannelsCommandParams.h"
-#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/GetChannelsCommandParams_types.h"
 

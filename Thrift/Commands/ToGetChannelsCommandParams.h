@@ -21,8 +21,6 @@ class ThriftToGetChannelsCommandParamsConverter
     : public Converter<Generated::GetChannelsCommandParams, HighLevelOperations::Commands::GetChannelsCommandParams>
 {
 public:
-    ~ThriftToGetChannelsCommandParamsConverter() override = default;
-
     ConversionResult To(Generated::GetChannelsCommandParams const& source,
                         HighLevelOperations::Commands::GetChannelsCommandParams& destination) const noexcept override;
 

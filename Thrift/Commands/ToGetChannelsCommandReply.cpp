@@ -3,7 +3,7 @@
 #include "Domain/HighLevelOperations/Commands/GetChannelsCommandReply.h"
 #include "Thrift/Data/Channels/ToPlayerState.h"
 #include "Thrift/Data/Channels/ToRecorderState.h"
-#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/GetChannelsCommandReply_types.h"

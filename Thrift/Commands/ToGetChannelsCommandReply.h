@@ -24,8 +24,6 @@ class GetChannelsCommandReplyFromThriftConverter
     : public Converter<Generated::GetChannelsCommandReply, HighLevelOperations::Commands::GetChannelsCommandReply>
 {
 public:
-    ~GetChannelsCommandReplyFromThriftConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::GetChannelsCommandReply const& source,
                                HighLevelOperations::Commands::GetChannelsCommandReply& destination) const;

@@ -1,7 +1,7 @@
 #include "Thrift/Commands/ToGetClipsCommandParams.h"
 
 #include "Domain/HighLevelOperations/Commands/GetClipsCommandParams.h"
-#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/GetClipsCommandParams_types.h"
 

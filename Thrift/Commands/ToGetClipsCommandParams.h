@@ -21,8 +21,6 @@ class ThriftToGetClipsCommandParamsConverter
     : public Converter<Generated::GetClipsCommandParams, HighLevelOperations::Commands::GetClipsCommandParams>
 {
 public:
-    ~ThriftToGetClipsCommandParamsConverter() override = default;
-
     ConversionResult To(Generated::GetClipsCommandParams const& source,
                         HighLevelOperations::Commands::GetClipsCommandParams& destination) const noexcept override;
 

@@ -26,8 +26,6 @@ class ThriftToGetClipsCommandReplyConverter
     : public Converter<Generated::GetClipsCommandReply, HighLevelOperations::Commands::GetClipsCommandReply>
 {
 public:
-    ~ThriftToGetClipsCommandReplyConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::GetClipsCommandReply const& source,
                                HighLevelOperations::Commands::GetClipsCommandReply& destination) const;

@@ -22,8 +22,6 @@ class ThriftToGetMultiviewerDataCommandParamsConverter
                        HighLevelOperations::Commands::GetMultiviewerDataCommandParams>
 {
 public:
-    ~ThriftToGetMultiviewerDataCommandParamsConverter() override = default;
-
     ConversionResult
     To(Generated::GetMultiviewerDataCommandParams const& source,
        HighLevelOperations::Commands::GetMultiviewerDataCommandParams& destination) const noexcept override;

@@ -1,9 +1,9 @@
 #include "Thrift/Commands/ToGetMultiviewerDataCommandReply.h"
 
 #include "Domain/HighLevelOperations/Commands/GetMultiviewerDataCommandReply.h"
+#include "Thrift/Commands/PlayersDataOverrides.h"
 #include "Thrift/Data/ToGuid.h"
 #include "Thrift/Data/ToOperationStatus.h"
-#include "Thrift/Data/ToPlayerDataOverrides.h"
 #include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/GetMultiviewerDataCommandReply_types.h"
@@ -22,7 +22,6 @@ ConversionResult ThriftToGetMultiviewerDataCommandReplyConverter::To(
 {
     static Data::ThriftToGuidConverter const toGuid;
     static Data::ThriftToOperationStatusConverter const toOperationStatus;
-    static Data::ToPlayerDataOverrides const toPlayerDataOverrides;
 
     GetMultiviewerDataCommandReply reply;
     if (auto const result = Read("guid", toGuid, source.guid, reply.commandGuid); !result.success)
@@ -31,19 +30,8 @@ ConversionResult ThriftToGetMultiviewerDataCommandReplyConverter::To(
         return Nested(result);
     // Stored before the entries are read: one that fails leaves the destination with the new status alone.
     destination.operationStatus = reply.operationStatus;
-    for (auto const& [wireChannel, wireOverrides] : source.playersDataOverrides)
-    {
-        Corvane::Data::Channels::Guid channel;
-        if (auto const result = Read({"playersDataOverrides", wireChannel.value}, toGuid, wireChannel, channel);
-            !result.success)
-            return Nested(result);
-        Multiviewer::PlayerDataOverrides overrides;
-        if (auto const result =
-                Read({"playersDataOverrides", wireChannel.value}, toPlayerDataOverrides, wireOverrides, overrides);
-            !result.success)
-            return Nested(result);
-        reply.playersDataOverrides.emplace(channel, std::move(overrides));
-    }
+    if (auto const result = ReadOverrides(source.playersDataOverrides, reply.playersDataOverrides); !result.success)
+        return result;
     destination = std::move(reply);
     return Success();
 }

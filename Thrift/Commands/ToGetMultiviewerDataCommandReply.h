@@ -25,8 +25,6 @@ class ThriftToGetMultiviewerDataCommandReplyConverter
                        HighLevelOperations::Commands::GetMultiviewerDataCommandReply>
 {
 public:
-    ~ThriftToGetMultiviewerDataCommandReplyConverter() override = default;
-
     ConversionResult
     To(Generated::GetMultiviewerDataCommandReply const& source,
        HighLevelOperations::Commands::GetMultiviewerDataCommandReply& destination) const noexcept override;

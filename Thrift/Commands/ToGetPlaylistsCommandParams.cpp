@@ -1,7 +1,7 @@
 #include "Thrift/Commands/ToGetPlaylistsCommandParams.h"
 
 #include "Domain/HighLevelOperations/Commands/GetPlaylistsCommandParams.h"
-#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/GetPlaylistsCommandParams_types.h"
 

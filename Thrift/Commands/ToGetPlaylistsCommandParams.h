@@ -22,8 +22,6 @@ class ThriftToGetPlaylistsCommandParamsConverter
     : public Converter<Generated::GetPlaylistsCommandParams, HighLevelOperations::Commands::GetPlaylistsCommandParams>
 {
 public:
-    ~ThriftToGetPlaylistsCommandParamsConverter() override = default;
-
     ConversionResult To(Generated::GetPlaylistsCommandParams const& source,
                         HighLevelOperations::Commands::GetPlaylistsCommandParams& destination) const noexcept override;
 

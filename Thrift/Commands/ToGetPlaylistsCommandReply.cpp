@@ -1,8 +1,8 @@
 #include "Thrift/Commands/ToGetPlaylistsCommandReply.h"
 
 #include "Domain/HighLevelOperations/Commands/GetPlaylistsCommandReply.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Data/Sequences/ToPlaylist.h"
-#include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Lists.h"
 #include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"

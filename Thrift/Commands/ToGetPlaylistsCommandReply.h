@@ -27,8 +27,6 @@ class ThriftToGetPlaylistsCommandReplyConverter
     : public Converter<Generated::GetPlaylistsCommandReply, HighLevelOperations::Commands::GetPlaylistsCommandReply>
 {
 public:
-    ~ThriftToGetPlaylistsCommandReplyConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::GetPlaylistsCommandReply const& source,
                                HighLevelOperations::Commands::GetPlaylistsCommandReply& destination) const;

@@ -1,7 +1,7 @@
 #include "Thrift/Commands/ToGetServersCommandParams.h"
 
 #include "Domain/HighLevelOperations/Commands/GetServersCommandParams.h"
-#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/GetServersCommandParams_types.h"
 

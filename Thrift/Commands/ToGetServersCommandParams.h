@@ -22,8 +22,6 @@ class ThriftToGetServersCommandParamsConverter
     : public Converter<Generated::GetServersCommandParams, HighLevelOperations::Commands::GetServersCommandParams>
 {
 public:
-    ~ThriftToGetServersCommandParamsConverter() override = default;
-
     ConversionResult To(Generated::GetServersCommandParams const& source,
                         HighLevelOperations::Commands::GetServersCommandParams& destination) const noexcept override;
 

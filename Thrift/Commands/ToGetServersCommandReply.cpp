@@ -1,8 +1,8 @@
 #include "Thrift/Commands/ToGetServersCommandReply.h"
 
 #include "Domain/HighLevelOperations/Commands/GetServersCommandReply.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Data/Servers/ToServerInfo.h"
-#include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Lists.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/GetServersCommandReply_types.h"
@@ -19,13 +19,13 @@ ConversionResult ThriftToGetServersCommandReplyConverter::To(
     Generated::GetServersCommandReply const& source,
     HighLevelOperations::Commands::GetServersCommandReply& destination) const noexcept
 {
-    Data::Servers::ThriftToServerInfoConverter const toServer;
+    Data::Servers::ThriftToServerInfoConverter const toServerInfo;
     auto const& isset = source.__isset;
 
     std::vector<Corvane::Data::Servers::ServerInfo> servers;
     if (isset.servers)
     {
-        if (auto const result = AppendEach("servers", toServer, source.servers, servers); !result.success)
+        if (auto const result = AppendEach("servers", toServerInfo, source.servers, servers); !result.success)
             return Nested(result);
     }
     destination.commandGuid = isset.guid ? ReadGuidAs<Corvane::Data::Guid>(source.guid) : Corvane::Data::Guid::Empty();

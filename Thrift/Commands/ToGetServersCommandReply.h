@@ -24,8 +24,6 @@ class ThriftToGetServersCommandReplyConverter
     : public Converter<Generated::GetServersCommandReply, HighLevelOperations::Commands::GetServersCommandReply>
 {
 public:
-    ~ThriftToGetServersCommandReplyConverter() override = default;
-
     ConversionResult To(Generated::GetServersCommandReply const& source,
                         HighLevelOperations::Commands::GetServersCommandReply& destination) const noexcept override;
 

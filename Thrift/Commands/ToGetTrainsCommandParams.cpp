@@ -1,7 +1,7 @@
 #include "Thrift/Commands/ToGetTrainsCommandParams.h"
 
 #include "Domain/HighLevelOperations/Commands/GetTrainsCommandParams.h"
-#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/GetTrainsCommandParams_types.h"
 

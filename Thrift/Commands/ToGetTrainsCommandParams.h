@@ -21,8 +21,6 @@ class ThriftToGetTrainsCommandParamsConverter
     : public Converter<Generated::GetTrainsCommandParams, HighLevelOperations::Commands::GetTrainsCommandParams>
 {
 public:
-    ~ThriftToGetTrainsCommandParamsConverter() override = default;
-
     ConversionResult To(Generated::GetTrainsCommandParams const& source,
                         HighLevelOperations::Commands::GetTrainsCommandParams& destination) const noexcept override;
 

@@ -2,7 +2,7 @@
 
 #include "Domain/HighLevelOperations/Commands/GetTrainsCommandReply.h"
 #include "Thrift/Data/Clips/ToTrain.h"
-#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/GetTrainsCommandReply_types.h"

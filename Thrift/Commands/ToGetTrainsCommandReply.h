@@ -27,8 +27,6 @@ class ThriftToGetTrainsCommandReplyConverter
     : public Converter<Generated::GetTrainsCommandReply, HighLevelOperations::Commands::GetTrainsCommandReply>
 {
 public:
-    ~ThriftToGetTrainsCommandReplyConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::GetTrainsCommandReply const& source,
                                HighLevelOperations::Commands::GetTrainsCommandReply& destination) const;

@@ -23,8 +23,6 @@ class ThriftToGoIdleCommandParamsConverter
     : public Converter<Generated::GoIdleCommandParams, HighLevelOperations::Commands::GoIdleCommandParams>
 {
 public:
-    ~ThriftToGoIdleCommandParamsConverter() override = default;
-
     ConversionResult To(Generated::GoIdleCommandParams const& source,
                         HighLevelOperations::Commands::GoIdleCommandParams& destination) const noexcept override;
 

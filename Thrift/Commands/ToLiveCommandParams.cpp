@@ -1,8 +1,8 @@
 #include "Thrift/Commands/ToLiveCommandParams.h"
 
 #include "Domain/HighLevelOperations/Commands/LiveCommandParams.h"
-#include "Thrift/Detail/ByChannel.h"
-#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Commands/ByChannel.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/LiveCommandParams_types.h"
 

@@ -25,8 +25,6 @@ class ThriftToLiveCommandParamsConverter
     : public Converter<Generated::LiveCommandParams, HighLevelOperations::Commands::LiveCommandParams>
 {
 public:
-    ~ThriftToLiveCommandParamsConverter() override = default;
-
     ConversionResult To(Generated::LiveCommandParams const& source,
                         HighLevelOperations::Commands::LiveCommandParams& destination) const noexcept override;
 

@@ -1,9 +1,9 @@
 #include "Thrift/Commands/ToLoadClipsCommandParams.h"
 
 #include "Domain/HighLevelOperations/Commands/LoadClipsCommandParams.h"
-#include "Thrift/Detail/Boundaries.h"
-#include "Thrift/Detail/ByChannel.h"
-#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Commands/ByChannel.h"
+#include "Thrift/Data/Boundaries.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/LoadClipsCommandParams_types.h"
 

@@ -25,8 +25,6 @@ class ThriftToLoadClipsCommandParamsConverter
     : public Converter<Generated::LoadClipsCommandParams, HighLevelOperations::Commands::LoadClipsCommandParams>
 {
 public:
-    ~ThriftToLoadClipsCommandParamsConverter() override = default;
-
     ConversionResult To(Generated::LoadClipsCommandParams const& source,
                         HighLevelOperations::Commands::LoadClipsCommandParams& destination) const noexcept override;
 

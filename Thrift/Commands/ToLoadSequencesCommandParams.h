@@ -24,8 +24,6 @@ class ThriftToLoadSequencesCommandParamsConverter
     : public Converter<Generated::LoadSequencesCommandParams, HighLevelOperations::Commands::LoadSequencesCommandParams>
 {
 public:
-    ~ThriftToLoadSequencesCommandParamsConverter() override = default;
-
     ConversionResult To(Generated::LoadSequencesCommandParams const& source,
                         HighLevelOperations::Commands::LoadSequencesCommandParams& destination) const noexcept override;
 

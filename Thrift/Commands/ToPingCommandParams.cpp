@@ -1,7 +1,7 @@
 #include "Thrift/Commands/ToPingCommandParams.h"
 
 #include "Domain/HighLevelOperations/Commands/PingCommandParams.h"
-#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/PingCommandParams_types.h"
 

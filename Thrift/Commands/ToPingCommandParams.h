@@ -21,8 +21,6 @@ class ThriftToPingCommandParamsConverter
     : public Converter<Generated::PingCommandParams, HighLevelOperations::Commands::PingCommandParams>
 {
 public:
-    ~ThriftToPingCommandParamsConverter() override = default;
-
     ConversionResult To(Generated::PingCommandParams const& source,
                         HighLevelOperations::Commands::PingCommandParams& destination) const noexcept override;
 

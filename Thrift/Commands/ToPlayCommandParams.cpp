@@ -1,8 +1,8 @@
 #include "Thrift/Commands/ToPlayCommandParams.h"
 
 #include "Domain/HighLevelOperations/Commands/PlayCommandParams.h"
-#include "Thrift/Detail/ByChannel.h"
-#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Commands/ByChannel.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/PlayCommandParams_types.h"
 

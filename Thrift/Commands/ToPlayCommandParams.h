@@ -25,8 +25,6 @@ class ThriftToPlayCommandParamsConverter
     : public Converter<Generated::PlayCommandParams, HighLevelOperations::Commands::PlayCommandParams>
 {
 public:
-    ~ThriftToPlayCommandParamsConverter() override = default;
-
     ConversionResult To(Generated::PlayCommandParams const& source,
                         HighLevelOperations::Commands::PlayCommandParams& destination) const noexcept override;
 

@@ -25,8 +25,6 @@ class ThriftToPlaylistCommandReplyConverter
     : public Converter<Generated::PlaylistCommandReply, HighLevelOperations::Commands::PlaylistCommandReply>
 {
 public:
-    ~ThriftToPlaylistCommandReplyConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::PlaylistCommandReply const& source,
                                HighLevelOperations::Commands::PlaylistCommandReply& destination) const;

@@ -1,8 +1,8 @@
 #include "Thrift/Commands/ToPlaylistResultsItem.h"
 
 #include "Domain/HighLevelOperations/Commands/PlaylistResultsItem.h"
+#include "Thrift/Commands/Results.h"
 #include "Thrift/Data/Sequences/ToPlaylist.h"
-#include "Thrift/Data/ToOperationStatus.h"
 #include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "Thrift/Detail/SeenFields.h"
@@ -16,24 +16,16 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Commands
 {
 
 using namespace Detail;
-using Corvane::Data::OperationResult;
-using Corvane::Data::OperationStatus;
 
 ConversionResult
 ThriftToPlaylistResultsItemConverter::ToOrThrow(Generated::PlaylistResultsItem const& source,
                                                 HighLevelOperations::Commands::PlaylistResultsItem& destination) const
 {
-    Data::ThriftToOperationStatusConverter const toStatus;
     Data::Sequences::ThriftToPlaylistConverter const toPlaylist;
     auto const& isset = source.__isset;
     SeenFields seen;
 
-    if (seen(isset.operationStatus))
-    {
-        OperationStatus status{OperationStatus::Status::Failed, OperationResult::DefaultError};
-        std::ignore = Read("operationStatus", toStatus, source.operationStatus, status);
-        destination.OperationStatus(status); // destroys the held playlist unless it succeeded
-    }
+    if (seen(isset.operationStatus)) ReadStatus(source, destination);
     if (seen(isset.playlist))
     {
         // Kept whatever the status is, unlike the clip of a clip's item. What the playlist reports is not looked at.

@@ -27,8 +27,6 @@ class ThriftToPlaylistResultsItemConverter
     : public Converter<Generated::PlaylistResultsItem, HighLevelOperations::Commands::PlaylistResultsItem>
 {
 public:
-    ~ThriftToPlaylistResultsItemConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::PlaylistResultsItem const& source,
                                HighLevelOperations::Commands::PlaylistResultsItem& destination) const;

@@ -26,8 +26,6 @@ class ThriftToSetLoadBoundariesCommandParamsConverter
                        HighLevelOperations::Commands::SetLoadBoundariesCommandParams>
 {
 public:
-    ~ThriftToSetLoadBoundariesCommandParamsConverter() override = default;
-
     ConversionResult
     To(Generated::SetLoadBoundariesCommandParams const& source,
        HighLevelOperations::Commands::SetLoadBoundariesCommandParams& destination) const noexcept override;

@@ -27,8 +27,6 @@ class ThriftToSetMultiviewerDataCommandParamsConverter
                        HighLevelOperations::Commands::SetMultiviewerDataCommandParams>
 {
 public:
-    ~ThriftToSetMultiviewerDataCommandParamsConverter() override = default;
-
     ConversionResult
     To(Generated::SetMultiviewerDataCommandParams const& source,
        HighLevelOperations::Commands::SetMultiviewerDataCommandParams& destination) const noexcept override;

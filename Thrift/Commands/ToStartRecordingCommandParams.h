@@ -23,8 +23,6 @@ class ThriftToStartRecordingCommandParamsConverter
     : public Converter<Generated::StartRecordingCommandParams, HighLevelOperations::Commands::StartCommandParams>
 {
 public:
-    ~ThriftToStartRecordingCommandParamsConverter() override = default;
-
     ConversionResult To(Generated::StartRecordingCommandParams const& source,
                         HighLevelOperations::Commands::StartCommandParams& destination) const noexcept override;
 

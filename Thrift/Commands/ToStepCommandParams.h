@@ -23,8 +23,6 @@ class ThriftToStepCommandParamsConverter
     : public Converter<Generated::StepCommandParams, HighLevelOperations::Commands::StepCommandParams>
 {
 public:
-    ~ThriftToStepCommandParamsConverter() override = default;
-
     ConversionResult To(Generated::StepCommandParams const& source,
                         HighLevelOperations::Commands::StepCommandParams& destination) const noexcept override;
 

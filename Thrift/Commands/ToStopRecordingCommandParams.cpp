@@ -1,8 +1,8 @@
 #include "Thrift/Commands/ToStopRecordingCommandParams.h"
 
 #include "Domain/HighLevelOperations/Commands/StopCommandParams.h"
-#include "Thrift/Detail/ByChannel.h"
-#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Commands/ByChannel.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/StopRecordingCommandParams_types.h"
 

@@ -23,8 +23,6 @@ class ThriftToStopRecordingCommandParamsConverter
     : public Converter<Generated::StopRecordingCommandParams, HighLevelOperations::Commands::StopCommandParams>
 {
 public:
-    ~ThriftToStopRecordingCommandParamsConverter() override = default;
-
     ConversionResult To(Generated::StopRecordingCommandParams const& source,
                         HighLevelOperations::Commands::StopCommandParams& destination) const noexcept override;
 

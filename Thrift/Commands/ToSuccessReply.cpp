@@ -1,7 +1,7 @@
 #include "Thrift/Commands/ToSuccessReply.h"
 
 #include "Domain/HighLevelOperations/Commands/SuccessReply.h"
-#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/SuccessReply_types.h"
 

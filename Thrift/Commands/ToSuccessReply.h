@@ -22,8 +22,6 @@ class ThriftToSuccessReplyConverter
     : public Converter<Generated::SuccessReply, HighLevelOperations::Commands::SuccessReply>
 {
 public:
-    ~ThriftToSuccessReplyConverter() override = default;
-
     ConversionResult To(Generated::SuccessReply const& source,
                         HighLevelOperations::Commands::SuccessReply& destination) const noexcept override;
 

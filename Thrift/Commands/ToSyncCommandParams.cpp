@@ -1,9 +1,9 @@
 #include "Thrift/Commands/ToSyncCommandParams.h"
 
 #include "Domain/HighLevelOperations/Commands/SyncCommandParams.h"
+#include "Thrift/Commands/ByChannel.h"
 #include "Thrift/Data/Channels/ToLoadBoundary.h"
-#include "Thrift/Detail/ByChannel.h"
-#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/SyncCommandParams_types.h"

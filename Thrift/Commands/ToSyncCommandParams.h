@@ -24,8 +24,6 @@ class ThriftToSyncCommandParamsConverter
     : public Converter<Generated::SyncCommandParams, HighLevelOperations::Commands::SyncCommandParams>
 {
 public:
-    ~ThriftToSyncCommandParamsConverter() override = default;
-
     ConversionResult To(Generated::SyncCommandParams const& source,
                         HighLevelOperations::Commands::SyncCommandParams& destination) const noexcept override;
 

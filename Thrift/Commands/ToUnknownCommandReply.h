@@ -21,8 +21,6 @@ class ThriftToUnknownCommandReplyConverter
     : public Converter<Generated::UnknownCommandReply, HighLevelOperations::Commands::UnknownCommandReply>
 {
 public:
-    ~ThriftToUnknownCommandReplyConverter() override = default;
-
     ConversionResult To(Generated::UnknownCommandReply const& source,
                         HighLevelOperations::Commands::UnknownCommandReply& destination) const noexcept override;
 

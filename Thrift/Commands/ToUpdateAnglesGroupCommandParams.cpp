@@ -1,7 +1,7 @@
 #include "Thrift/Commands/ToUpdateAnglesGroupCommandParams.h"
 
 #include "Domain/HighLevelOperations/Commands/UpdateAnglesGroupCommandParams.h"
-#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/UpdateAnglesGroupCommandParams_types.h"
 

@@ -22,8 +22,6 @@ class ThriftToUpdateAnglesGroupCommandParamsConverter
                        HighLevelOperations::Commands::UpdateAnglesGroupCommandParams>
 {
 public:
-    ~ThriftToUpdateAnglesGroupCommandParamsConverter() override = default;
-
     ConversionResult
     To(Generated::UpdateAnglesGroupCommandParams const& source,
        HighLevelOperations::Commands::UpdateAnglesGroupCommandParams& destination) const noexcept override;

@@ -2,7 +2,7 @@
 
 #include "Domain/HighLevelOperations/Commands/UpdateClipsCommandParams.h"
 #include "Thrift/Data/Clips/ToClip.h"
-#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Lists.h"
 #include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"

@@ -26,8 +26,6 @@ class ThriftToUpdateClipsCommandParamsConverter
     : public Converter<Generated::UpdateClipsCommandParams, HighLevelOperations::Commands::UpdateClipsCommandParams>
 {
 public:
-    ~ThriftToUpdateClipsCommandParamsConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::UpdateClipsCommandParams const& source,
                                HighLevelOperations::Commands::UpdateClipsCommandParams& destination) const;

@@ -27,8 +27,6 @@ class ThriftToUpdatePlaylistsCommandParamsConverter
                        HighLevelOperations::Commands::UpdatePlaylistsCommandParams>
 {
 public:
-    ~ThriftToUpdatePlaylistsCommandParamsConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::UpdatePlaylistsCommandParams const& source,
                                HighLevelOperations::Commands::UpdatePlaylistsCommandParams& destination) const;

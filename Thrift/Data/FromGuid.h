@@ -20,8 +20,6 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data
 class GuidToThriftConverter : public Converter<Corvane::Data::Guid, Corvane::Data::Generated::Guid>
 {
 public:
-    ~GuidToThriftConverter() override = default;
-
     ConversionResult To(Corvane::Data::Guid const& source,
                         Corvane::Data::Generated::Guid& destination) const noexcept override;
 

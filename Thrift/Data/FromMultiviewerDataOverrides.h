@@ -21,8 +21,6 @@ class FromMultiviewerDataOverrides
     : public Converter<Multiviewer::MultiviewerDataOverrides, Corvane::Data::Generated::MultiviewerDataOverrides>
 {
 public:
-    ~FromMultiviewerDataOverrides() override = default;
-
     ConversionResult To(Multiviewer::MultiviewerDataOverrides const& source,
                         Corvane::Data::Generated::MultiviewerDataOverrides& destination) const noexcept override;
 

@@ -23,8 +23,6 @@ class OperationStatusToThriftConverter
     : public Converter<Corvane::Data::OperationStatus, Corvane::Data::Generated::OperationStatus>
 {
 public:
-    ~OperationStatusToThriftConverter() override = default;
-
     ConversionResult To(Corvane::Data::OperationStatus const& source,
                         Corvane::Data::Generated::OperationStatus& destination) const noexcept override;
 

@@ -35,7 +35,7 @@ void Send(ControlType const mode, Generated::ControlMode::type& destination) noe
     }
 }
 
-/// The same.
+/// An unknown mode leaves the wire's value as it was.
 void Send(ProgramType const mode, Generated::ProgramMode::type& destination) noexcept
 {
     switch (mode)

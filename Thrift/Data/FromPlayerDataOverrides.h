@@ -25,8 +25,6 @@ class FromPlayerDataOverrides
     : public Converter<Multiviewer::PlayerDataOverrides, Corvane::Data::Generated::PlayerDataOverrides>
 {
 public:
-    ~FromPlayerDataOverrides() override = default;
-
     ConversionResult To(Multiviewer::PlayerDataOverrides const& source,
                         Corvane::Data::Generated::PlayerDataOverrides& destination) const noexcept override;
 

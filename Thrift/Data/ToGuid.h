@@ -20,8 +20,6 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data
 class ThriftToGuidConverter : public Converter<Corvane::Data::Generated::Guid, Corvane::Data::Guid>
 {
 public:
-    ~ThriftToGuidConverter() override = default;
-
     ConversionResult To(Corvane::Data::Generated::Guid const& source,
                         Corvane::Data::Guid& destination) const noexcept override;
 

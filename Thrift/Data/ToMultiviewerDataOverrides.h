@@ -23,8 +23,6 @@ class ToMultiviewerDataOverrides
     : public Converter<Corvane::Data::Generated::MultiviewerDataOverrides, Multiviewer::MultiviewerDataOverrides>
 {
 public:
-    ~ToMultiviewerDataOverrides() override = default;
-
     ConversionResult To(Corvane::Data::Generated::MultiviewerDataOverrides const& source,
                         Multiviewer::MultiviewerDataOverrides& destination) const noexcept override;
 

@@ -31,8 +31,6 @@ class ThriftToOperationStatusConverter
     : public Converter<Corvane::Data::Generated::OperationStatus, Corvane::Data::OperationStatus>
 {
 public:
-    ~ThriftToOperationStatusConverter() override = default;
-
     ConversionResult To(Corvane::Data::Generated::OperationStatus const& source,
                         Corvane::Data::OperationStatus& destination) const noexcept override;
 

@@ -35,7 +35,7 @@ void ReadControlMode(Generated::ControlMode::type const mode, Multiviewer::Playe
     }
 }
 
-/// The same.
+/// An unknown mode calls no setter.
 void ReadProgramMode(Generated::ProgramMode::type const mode, Multiviewer::PlayerDataOverrides& destination)
 {
     switch (mode)

@@ -22,8 +22,6 @@ class ToPlayerDataOverrides
     : public Converter<Corvane::Data::Generated::PlayerDataOverrides, Multiviewer::PlayerDataOverrides>
 {
 public:
-    ~ToPlayerDataOverrides() override = default;
-
     ConversionResult To(Corvane::Data::Generated::PlayerDataOverrides const& source,
                         Multiviewer::PlayerDataOverrides& destination) const noexcept override;
 

@@ -75,8 +75,9 @@ private:
     throw BadValue(step.Text().append(".").append(badValue.Path()), badValue.Reason());
 }
 
-/// Converts a nested record of a record that is read: the only way in which one converter to the domain calls another. A
-/// value that ends the process in `To` is thrown on, with the step to the nested record added to its path.
+/// Converts a nested record of a record that is read. Converters to the domain call each other only so, except for
+/// identifiers and load boundaries, in which no value ends the process. A BadValue is thrown on with the step to the
+/// nested record added to its path.
 template<typename TConverter, typename TSource, typename TDestination>
 Common::Serialization::ConversionResult Read(PathStep const& step, TConverter const& converter, TSource const& source,
                                              TDestination& destination)

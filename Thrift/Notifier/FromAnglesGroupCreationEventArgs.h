@@ -20,8 +20,6 @@ class AnglesGroupCreationEventArgsToThriftConverter
     : public Converter<Notification::AnglesGroupCreationEventArgs, Generated::AnglesGroupCreationEventArgs>
 {
 public:
-    ~AnglesGroupCreationEventArgsToThriftConverter() override = default;
-
     ConversionResult To(Notification::AnglesGroupCreationEventArgs const& source,
                         Generated::AnglesGroupCreationEventArgs& destination) const noexcept override;
 

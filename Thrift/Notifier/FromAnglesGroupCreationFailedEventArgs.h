@@ -23,8 +23,6 @@ class AnglesGroupCreationFailedEventArgsToThriftConverter
     : public Converter<Notification::AnglesGroupCreationFailedEventArgs, Generated::AnglesGroupCreationFailedEventArgs>
 {
 public:
-    ~AnglesGroupCreationFailedEventArgsToThriftConverter() override = default;
-
     ConversionResult To(Notification::AnglesGroupCreationFailedEventArgs const& source,
                         Generated::AnglesGroupCreationFailedEventArgs& destination) const noexcept override;
 

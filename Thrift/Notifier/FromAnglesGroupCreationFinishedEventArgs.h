@@ -22,8 +22,6 @@ class AnglesGroupCreationFinishedEventArgsToThriftConverter
                        Generated::AnglesGroupCreationFinishedEventArgs>
 {
 public:
-    ~AnglesGroupCreationFinishedEventArgsToThriftConverter() override = default;
-
     ConversionResult To(Notification::AnglesGroupCreationFinishedEventArgs const& source,
                         Generated::AnglesGroupCreationFinishedEventArgs& destination) const noexcept override;
 

@@ -22,8 +22,6 @@ class AnglesGroupDeletionFinishedEventArgsToThriftConverter
                        Generated::AnglesGroupDeletionFinishedEventArgs>
 {
 public:
-    ~AnglesGroupDeletionFinishedEventArgsToThriftConverter() override = default;
-
     ConversionResult To(Notification::AnglesGroupDeletionFinishedEventArgs const& source,
                         Generated::AnglesGroupDeletionFinishedEventArgs& destination) const noexcept override;
 

@@ -21,8 +21,6 @@ class AnglesGroupUpdateFinishedEventArgsToThriftConverter
     : public Converter<Notification::AnglesGroupUpdateFinishedEventArgs, Generated::AnglesGroupUpdateFinishedEventArgs>
 {
 public:
-    ~AnglesGroupUpdateFinishedEventArgsToThriftConverter() override = default;
-
     ConversionResult To(Notification::AnglesGroupUpdateFinishedEventArgs const& source,
                         Generated::AnglesGroupUpdateFinishedEventArgs& destination) const noexcept override;
 

@@ -23,8 +23,6 @@ class ClipCommandEventArgsToThriftConverter
     : public Converter<Notification::ClipCommandEventArgs, Generated::ClipCommandEventArgs>
 {
 public:
-    ~ClipCommandEventArgsToThriftConverter() override = default;
-
     ConversionResult To(Notification::ClipCommandEventArgs const& source,
                         Generated::ClipCommandEventArgs& destination) const noexcept override;
 

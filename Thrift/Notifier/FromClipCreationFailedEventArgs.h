@@ -24,8 +24,6 @@ class ClipCreationFailedEventArgsToThriftConverter
     : public Converter<Notification::ClipCreationFailedEventArgs, Generated::ClipCreationFailedEventArgs>
 {
 public:
-    ~ClipCreationFailedEventArgsToThriftConverter() override = default;
-
     ConversionResult To(Notification::ClipCreationFailedEventArgs const& source,
                         Generated::ClipCreationFailedEventArgs& destination) const noexcept override;
 

@@ -22,8 +22,6 @@ class ClipCreationFinishedEventArgsToThriftConverter
     : public Converter<Notification::ClipCreationFinishedEventArgs, Generated::ClipCreationFinishedEventArgs>
 {
 public:
-    ~ClipCreationFinishedEventArgsToThriftConverter() override = default;
-
     ConversionResult To(Notification::ClipCreationFinishedEventArgs const& source,
                         Generated::ClipCreationFinishedEventArgs& destination) const noexcept override;
 

@@ -1,10 +1,10 @@
 #include "Thrift/Notifier/FromClipCreationStartedEventArgs.h"
 
 #include "Domain/CorvaneData/Notification/ClipCreationEventArgs.h"
-#include "Thrift/Detail/ClipEvents.h"
-#include "Thrift/Detail/CreationTexts.h"
 #include "Thrift/Detail/Flagged.h"
 #include "Thrift/Detail/Results.h"
+#include "Thrift/Notifier/ClipEvents.h"
+#include "Thrift/Notifier/CreationTexts.h"
 #include "generated/ClipCreationEventArgs_types.h"
 
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -22,8 +22,6 @@ class ClipCreationStartedEventArgsToThriftConverter
     : public Converter<Notification::ClipCreationEventArgs, Generated::ClipCreationStartedEventArgs>
 {
 public:
-    ~ClipCreationStartedEventArgsToThriftConverter() override = default;
-
     ConversionResult To(Notification::ClipCreationEventArgs const& source,
                         Generated::ClipCreationStartedEventArgs& destination) const noexcept override;
 

@@ -23,8 +23,6 @@ class ClipDeletionFailedEventArgsToThriftConverter
     : public Converter<Notification::ClipDeletionFailedEventArgs, Generated::ClipDeletionFailedEventArgs>
 {
 public:
-    ~ClipDeletionFailedEventArgsToThriftConverter() override = default;
-
     ConversionResult To(Notification::ClipDeletionFailedEventArgs const& source,
                         Generated::ClipDeletionFailedEventArgs& destination) const noexcept override;
 

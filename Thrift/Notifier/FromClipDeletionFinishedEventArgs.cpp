@@ -1,9 +1,9 @@
 #include "Thrift/Notifier/FromClipDeletionFinishedEventArgs.h"
 
 #include "Domain/CorvaneData/Notification/ClipDeletionFinishedEventArgs.h"
-#include "Thrift/Detail/ClipEvents.h"
 #include "Thrift/Detail/Flagged.h"
 #include "Thrift/Detail/Results.h"
+#include "Thrift/Notifier/ClipEvents.h"
 #include "generated/ClipDeletionEventArgs_types.h"
 
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

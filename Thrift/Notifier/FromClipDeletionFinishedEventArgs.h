@@ -22,8 +22,6 @@ class ClipDeletionFinishedEventArgsToThriftConverter
     : public Converter<Notification::ClipDeletionFinishedEventArgs, Generated::ClipDeletionFinishedEventArgs>
 {
 public:
-    ~ClipDeletionFinishedEventArgsToThriftConverter() override = default;
-
     ConversionResult To(Notification::ClipDeletionFinishedEventArgs const& source,
                         Generated::ClipDeletionFinishedEventArgs& destination) const noexcept override;
 

@@ -22,8 +22,6 @@ class ClipMoveFailedEventArgsToThriftConverter
     : public Converter<Notification::ClipMoveFailedEventArgs, Generated::ClipMoveFailedEventArgs>
 {
 public:
-    ~ClipMoveFailedEventArgsToThriftConverter() override = default;
-
     ConversionResult To(Notification::ClipMoveFailedEventArgs const& source,
                         Generated::ClipMoveFailedEventArgs& destination) const noexcept override;
 

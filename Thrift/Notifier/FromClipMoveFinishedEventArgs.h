@@ -22,8 +22,6 @@ class ClipMoveFinishedEventArgsToThriftConverter
     : public Converter<Notification::ClipMoveFinishedEventArgs, Generated::ClipMoveFinishedEventArgs>
 {
 public:
-    ~ClipMoveFinishedEventArgsToThriftConverter() override = default;
-
     ConversionResult To(Notification::ClipMoveFinishedEventArgs const& source,
                         Generated::ClipMoveFinishedEventArgs& destination) const noexcept override;
 

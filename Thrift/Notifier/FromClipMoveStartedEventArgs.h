@@ -22,8 +22,6 @@ class ClipMoveStartedEventArgsToThriftConverter
     : public Converter<Notification::ClipMoveEventArgs, Generated::ClipMoveStartedEventArgs>
 {
 public:
-    ~ClipMoveStartedEventArgsToThriftConverter() override = default;
-
     ConversionResult To(Notification::ClipMoveEventArgs const& source,
                         Generated::ClipMoveStartedEventArgs& destination) const noexcept override;
 

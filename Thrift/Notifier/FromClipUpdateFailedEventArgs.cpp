@@ -2,9 +2,9 @@
 
 #include "Domain/CorvaneData/Notification/ClipUpdateFailedEventArgs.h"
 #include "Thrift/Data/OperationResultConverter.h"
-#include "Thrift/Detail/ClipEvents.h"
 #include "Thrift/Detail/Flagged.h"
 #include "Thrift/Detail/Results.h"
+#include "Thrift/Notifier/ClipEvents.h"
 #include "generated/ClipUpdateEventArgs_types.h"
 
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -22,8 +22,6 @@ class ClipUpdateFailedEventArgsToThriftConverter
     : public Converter<Notification::ClipUpdateFailedEventArgs, Generated::ClipUpdateFailedEventArgs>
 {
 public:
-    ~ClipUpdateFailedEventArgsToThriftConverter() override = default;
-
     ConversionResult To(Notification::ClipUpdateFailedEventArgs const& source,
                         Generated::ClipUpdateFailedEventArgs& destination) const noexcept override;
 

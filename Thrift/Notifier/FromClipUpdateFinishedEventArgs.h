@@ -22,8 +22,6 @@ class ClipUpdateFinishedEventArgsToThriftConverter
     : public Converter<Notification::ClipUpdateFinishedEventArgs, Generated::ClipUpdateFinishedEventArgs>
 {
 public:
-    ~ClipUpdateFinishedEventArgsToThriftConverter() override = default;
-
     ConversionResult To(Notification::ClipUpdateFinishedEventArgs const& source,
                         Generated::ClipUpdateFinishedEventArgs& destination) const noexcept override;
 

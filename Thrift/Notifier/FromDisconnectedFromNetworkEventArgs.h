@@ -21,8 +21,6 @@ class DisconnectedFromNetworkEventArgsToThriftConverter
     : public Converter<Notification::DisconnectedFromNetworkEventArgs, Generated::DisconnectedFromNetworkEventArgs>
 {
 public:
-    ~DisconnectedFromNetworkEventArgsToThriftConverter() override = default;
-
     ConversionResult To(Notification::DisconnectedFromNetworkEventArgs const& source,
                         Generated::DisconnectedFromNetworkEventArgs& destination) const noexcept override;
 

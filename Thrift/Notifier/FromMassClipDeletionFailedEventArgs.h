@@ -23,8 +23,6 @@ class MassClipDeletionFailedEventArgsToThriftConverter
     : public Converter<Notification::MassClipDeletionFailedEventArgs, Generated::MassClipDeletionFailedEventArgs>
 {
 public:
-    ~MassClipDeletionFailedEventArgsToThriftConverter() override = default;
-
     ConversionResult To(Notification::MassClipDeletionFailedEventArgs const& source,
                         Generated::MassClipDeletionFailedEventArgs& destination) const noexcept override;
 

@@ -1,10 +1,10 @@
 #include "Thrift/Notifier/FromMassClipDeletionFinishedEventArgs.h"
 
 #include "Domain/CorvaneData/Notification/MassClipDeletionEventArgs.h"
-#include "Thrift/Detail/ClipEvents.h"
 #include "Thrift/Detail/Flagged.h"
 #include "Thrift/Detail/Results.h"
 #include "Thrift/Detail/Widths.h"
+#include "Thrift/Notifier/ClipEvents.h"
 #include "generated/MassClipDeletionEventArgs_types.h"
 
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

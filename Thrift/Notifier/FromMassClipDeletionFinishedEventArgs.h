@@ -20,8 +20,6 @@ class MassClipDeletionFinishedEventArgsToThriftConverter
     : public Converter<Notification::MassClipDeletionEventArgs, Generated::MassClipDeletionFinishedEventArgs>
 {
 public:
-    ~MassClipDeletionFinishedEventArgsToThriftConverter() override = default;
-
     ConversionResult To(Notification::MassClipDeletionEventArgs const& source,
                         Generated::MassClipDeletionFinishedEventArgs& destination) const noexcept override;
 

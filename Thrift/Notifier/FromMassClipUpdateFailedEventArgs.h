@@ -22,8 +22,6 @@ class MassClipUpdateFailedEventArgsToThriftConverter
     : public Converter<Notification::MassClipUpdateFailedEventArgs, Generated::MassClipUpdateFailedEventArgs>
 {
 public:
-    ~MassClipUpdateFailedEventArgsToThriftConverter() override = default;
-
     ConversionResult To(Notification::MassClipUpdateFailedEventArgs const& source,
                         Generated::MassClipUpdateFailedEventArgs& destination) const noexcept override;
 

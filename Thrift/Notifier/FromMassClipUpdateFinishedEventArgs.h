@@ -20,8 +20,6 @@ class MassClipUpdateFinishedEventArgsToThriftConverter
     : public Converter<Notification::MassClipUpdateEventArgs, Generated::MassClipUpdateFinishedEventArgs>
 {
 public:
-    ~MassClipUpdateFinishedEventArgsToThriftConverter() override = default;
-
     ConversionResult To(Notification::MassClipUpdateEventArgs const& source,
                         Generated::MassClipUpdateFinishedEventArgs& destination) const noexcept override;
 

@@ -23,8 +23,6 @@ class PlayerStateChangedEventArgsToThriftConverter
     : public Converter<Notification::PlayerStateChangedEventArgs, Generated::PlayerStateChangedEventArgs>
 {
 public:
-    ~PlayerStateChangedEventArgsToThriftConverter() override = default;
-
     ConversionResult To(Notification::PlayerStateChangedEventArgs const& source,
                         Generated::PlayerStateChangedEventArgs& destination) const noexcept override;
 

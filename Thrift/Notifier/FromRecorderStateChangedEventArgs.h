@@ -23,8 +23,6 @@ class RecorderStateChangedEventArgsToThriftConverter
     : public Converter<Notification::RecorderStateChangedEventArgs, Generated::RecorderStateChangedEventArgs>
 {
 public:
-    ~RecorderStateChangedEventArgsToThriftConverter() override = default;
-
     ConversionResult To(Notification::RecorderStateChangedEventArgs const& source,
                         Generated::RecorderStateChangedEventArgs& destination) const noexcept override;
 

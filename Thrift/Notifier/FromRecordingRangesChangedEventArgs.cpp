@@ -2,8 +2,8 @@
 
 #include "Domain/CorvaneData/Notification/RecordingRangesChangedEventArgs.h"
 #include "Thrift/Data/Clips/FromRecordingRange.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Flagged.h"
-#include "Thrift/Detail/Identifiers.h"
 #include "Thrift/Detail/Lists.h"
 #include "Thrift/Detail/Results.h"
 #include "generated/RecordingRangesChangedEA_types.h"

@@ -26,8 +26,6 @@ class RecordingRangesChangedEventArgsToThriftConverter
     : public Converter<Notification::RecordingRangesChangedEventArgs, Generated::RecordingRangesChangedEventArgs>
 {
 public:
-    ~RecordingRangesChangedEventArgsToThriftConverter() override = default;
-
     ConversionResult To(Notification::RecordingRangesChangedEventArgs const& source,
                         Generated::RecordingRangesChangedEventArgs& destination) const noexcept override;
 

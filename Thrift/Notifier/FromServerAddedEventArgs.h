@@ -21,8 +21,6 @@ class ServerAddedEventArgsToThriftConverter
     : public Converter<Notification::ServerAddedEventArgs, Generated::ServerAddedEventArgs>
 {
 public:
-    ~ServerAddedEventArgsToThriftConverter() override = default;
-
     ConversionResult To(Notification::ServerAddedEventArgs const& source,
                         Generated::ServerAddedEventArgs& destination) const noexcept override;
 

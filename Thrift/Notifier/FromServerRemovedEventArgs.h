@@ -20,8 +20,6 @@ class ServerRemovedEventArgsToThriftConverter
     : public Converter<Notification::ServerRemovedEventArgs, Generated::ServerRemovedEventArgs>
 {
 public:
-    ~ServerRemovedEventArgsToThriftConverter() override = default;
-
     ConversionResult To(Notification::ServerRemovedEventArgs const& source,
                         Generated::ServerRemovedEventArgs& destination) const noexcept override;
 

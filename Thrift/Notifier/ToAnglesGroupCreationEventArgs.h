@@ -26,8 +26,6 @@ class ThriftToAnglesGroupCreationEventArgsConverter
     : public Converter<Generated::AnglesGroupCreationEventArgs, Notification::AnglesGroupCreationEventArgs>
 {
 public:
-    ~ThriftToAnglesGroupCreationEventArgsConverter() override = default;
-
     ConversionResult To(Generated::AnglesGroupCreationEventArgs const& source,
                         Notification::AnglesGroupCreationEventArgs& destination) const noexcept override;
 

@@ -27,8 +27,6 @@ class ThriftToAnglesGroupCreationFinishedEventArgsConverter
                        Notification::AnglesGroupCreationFinishedEventArgs>
 {
 public:
-    ~ThriftToAnglesGroupCreationFinishedEventArgsConverter() override = default;
-
     ConversionResult To(Generated::AnglesGroupCreationFinishedEventArgs const& source,
                         Notification::AnglesGroupCreationFinishedEventArgs& destination) const noexcept override;
 

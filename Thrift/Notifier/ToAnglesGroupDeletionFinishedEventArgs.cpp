@@ -21,13 +21,13 @@ ConversionResult ThriftToAnglesGroupDeletionFinishedEventArgsConverter::To(
     auto const& wireEvent = source.deletionEventArgs;
 
     Corvane::Data::Clips::Groups::Guid anglesGroupId;
-    if (auto const result = Read("anglesGroupId", thriftToGuidConverter, wireEvent.anglesGroupId, anglesGroupId);
+    if (auto const result = Read("deletionEventArgs.anglesGroupId", thriftToGuidConverter, wireEvent.anglesGroupId, anglesGroupId);
         !result.success)
         return Nested(result);
     destination = Notification::AnglesGroupDeletionFinishedEventArgs(wireEvent.databaseRevision,
                                                                      Corvane::Data::Guid::Empty(), anglesGroupId);
     // Last: a block that fails leaves the event with everything else filled in.
-    return Read("clipCommandEventArgs", thriftToClipCommandEventArgsConverter, wireEvent.clipCommandEventArgs,
+    return Read("deletionEventArgs.clipCommandEventArgs", thriftToClipCommandEventArgsConverter, wireEvent.clipCommandEventArgs,
                 destination);
 }
 

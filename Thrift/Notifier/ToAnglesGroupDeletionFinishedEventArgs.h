@@ -27,8 +27,6 @@ class ThriftToAnglesGroupDeletionFinishedEventArgsConverter
                        Notification::AnglesGroupDeletionFinishedEventArgs>
 {
 public:
-    ~ThriftToAnglesGroupDeletionFinishedEventArgsConverter() override = default;
-
     ConversionResult To(Generated::AnglesGroupDeletionFinishedEventArgs const& source,
                         Notification::AnglesGroupDeletionFinishedEventArgs& destination) const noexcept override;
 

@@ -26,8 +26,6 @@ class ThriftToAnglesGroupUpdateFinishedEventArgsConverter
     : public Converter<Generated::AnglesGroupUpdateFinishedEventArgs, Notification::AnglesGroupUpdateFinishedEventArgs>
 {
 public:
-    ~ThriftToAnglesGroupUpdateFinishedEventArgsConverter() override = default;
-
     ConversionResult To(Generated::AnglesGroupUpdateFinishedEventArgs const& source,
                         Notification::AnglesGroupUpdateFinishedEventArgs& destination) const noexcept override;
 

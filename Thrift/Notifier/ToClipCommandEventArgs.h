@@ -27,8 +27,6 @@ class ThriftToClipCommandEventArgsConverter
     : public Converter<Generated::ClipCommandEventArgs, Notification::ClipCommandEventArgs>
 {
 public:
-    ~ThriftToClipCommandEventArgsConverter() override = default;
-
     ConversionResult To(Generated::ClipCommandEventArgs const& source,
                         Notification::ClipCommandEventArgs& destination) const noexcept override;
 

@@ -2,10 +2,10 @@
 
 #include "Domain/CorvaneData/Notification/ClipCreationFailedEventArgs.h"
 #include "Thrift/Data/OperationResultConverter.h"
-#include "Thrift/Detail/ClipEvents.h"
-#include "Thrift/Detail/CreationTexts.h"
 #include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
+#include "Thrift/Notifier/ClipEvents.h"
+#include "Thrift/Notifier/CreationTexts.h"
 #include "generated/ClipCreationEventArgs_types.h"
 
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -33,8 +33,6 @@ class ThriftToClipCreationFailedEventArgsConverter
     : public Converter<Generated::ClipCreationFailedEventArgs, Notification::ClipCreationFailedEventArgs>
 {
 public:
-    ~ThriftToClipCreationFailedEventArgsConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::ClipCreationFailedEventArgs const& source,
                                Notification::ClipCreationFailedEventArgs& destination) const;

@@ -33,8 +33,6 @@ class ThriftToClipCreationFinishedEventArgsConverter
     : public Converter<Generated::ClipCreationFinishedEventArgs, Notification::ClipCreationFinishedEventArgs>
 {
 public:
-    ~ThriftToClipCreationFinishedEventArgsConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::ClipCreationFinishedEventArgs const& source,
                                Notification::ClipCreationFinishedEventArgs& destination) const;

@@ -33,8 +33,6 @@ class ThriftToClipCreationStartedEventArgsConverter
     : public Converter<Generated::ClipCreationStartedEventArgs, Notification::ClipCreationEventArgs>
 {
 public:
-    ~ThriftToClipCreationStartedEventArgsConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::ClipCreationStartedEventArgs const& source,
                                Notification::ClipCreationEventArgs& destination) const;

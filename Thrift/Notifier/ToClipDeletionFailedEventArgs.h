@@ -34,8 +34,6 @@ class ThriftToClipDeletionFailedEventArgsConverter
     : public Converter<Generated::ClipDeletionFailedEventArgs, Notification::ClipDeletionFailedEventArgs>
 {
 public:
-    ~ThriftToClipDeletionFailedEventArgsConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::ClipDeletionFailedEventArgs const& source,
                                Notification::ClipDeletionFailedEventArgs& destination) const;

@@ -1,9 +1,9 @@
 #include "Thrift/Notifier/ToClipDeletionFinishedEventArgs.h"
 
 #include "Domain/CorvaneData/Notification/ClipDeletionFinishedEventArgs.h"
-#include "Thrift/Detail/ClipEvents.h"
 #include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
+#include "Thrift/Notifier/ClipEvents.h"
 #include "generated/ClipDeletionEventArgs_types.h"
 
 #include <cstdint>

@@ -33,8 +33,6 @@ class ThriftToClipDeletionFinishedEventArgsConverter
     : public Converter<Generated::ClipDeletionFinishedEventArgs, Notification::ClipDeletionFinishedEventArgs>
 {
 public:
-    ~ThriftToClipDeletionFinishedEventArgsConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::ClipDeletionFinishedEventArgs const& source,
                                Notification::ClipDeletionFinishedEventArgs& destination) const;

@@ -2,9 +2,9 @@
 
 #include "Domain/CorvaneData/Notification/ClipMoveFailedEventArgs.h"
 #include "Thrift/Data/OperationResultConverter.h"
-#include "Thrift/Detail/ClipEvents.h"
 #include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
+#include "Thrift/Notifier/ClipEvents.h"
 #include "generated/ClipMoveEventArgs_types.h"
 
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

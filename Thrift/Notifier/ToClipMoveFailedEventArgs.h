@@ -33,8 +33,6 @@ class ThriftToClipMoveFailedEventArgsConverter
     : public Converter<Generated::ClipMoveFailedEventArgs, Notification::ClipMoveFailedEventArgs>
 {
 public:
-    ~ThriftToClipMoveFailedEventArgsConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::ClipMoveFailedEventArgs const& source,
                                Notification::ClipMoveFailedEventArgs& destination) const;

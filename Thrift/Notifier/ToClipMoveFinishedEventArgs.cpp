@@ -1,9 +1,9 @@
 #include "Thrift/Notifier/ToClipMoveFinishedEventArgs.h"
 
 #include "Domain/CorvaneData/Notification/ClipMoveFinishedEventArgs.h"
-#include "Thrift/Detail/ClipEvents.h"
 #include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
+#include "Thrift/Notifier/ClipEvents.h"
 #include "generated/ClipMoveEventArgs_types.h"
 
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -32,8 +32,6 @@ class ThriftToClipMoveFinishedEventArgsConverter
     : public Converter<Generated::ClipMoveFinishedEventArgs, Notification::ClipMoveFinishedEventArgs>
 {
 public:
-    ~ThriftToClipMoveFinishedEventArgsConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::ClipMoveFinishedEventArgs const& source,
                                Notification::ClipMoveFinishedEventArgs& destination) const;

@@ -32,8 +32,6 @@ class ThriftToClipMoveStartedEventArgsConverter
     : public Converter<Generated::ClipMoveStartedEventArgs, Notification::ClipMoveEventArgs>
 {
 public:
-    ~ThriftToClipMoveStartedEventArgsConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::ClipMoveStartedEventArgs const& source,
                                Notification::ClipMoveEventArgs& destination) const;

@@ -33,8 +33,6 @@ class ThriftToClipUpdateFailedEventArgsConverter
     : public Converter<Generated::ClipUpdateFailedEventArgs, Notification::ClipUpdateFailedEventArgs>
 {
 public:
-    ~ThriftToClipUpdateFailedEventArgsConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::ClipUpdateFailedEventArgs const& source,
                                Notification::ClipUpdateFailedEventArgs& destination) const;

@@ -1,9 +1,9 @@
 #include "Thrift/Notifier/ToClipUpdateFinishedEventArgs.h"
 
 #include "Domain/CorvaneData/Notification/ClipUpdateFinishedEventArgs.h"
-#include "Thrift/Detail/ClipEvents.h"
 #include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
+#include "Thrift/Notifier/ClipEvents.h"
 #include "generated/ClipUpdateEventArgs_types.h"
 
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -32,8 +32,6 @@ class ThriftToClipUpdateFinishedEventArgsConverter
     : public Converter<Generated::ClipUpdateFinishedEventArgs, Notification::ClipUpdateFinishedEventArgs>
 {
 public:
-    ~ThriftToClipUpdateFinishedEventArgsConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::ClipUpdateFinishedEventArgs const& source,
                                Notification::ClipUpdateFinishedEventArgs& destination) const;

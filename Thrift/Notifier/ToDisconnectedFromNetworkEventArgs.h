@@ -22,8 +22,6 @@ class ThriftToDisconnectedFromNetworkEventArgsConverter
     : public Converter<Generated::DisconnectedFromNetworkEventArgs, Notification::DisconnectedFromNetworkEventArgs>
 {
 public:
-    ~ThriftToDisconnectedFromNetworkEventArgsConverter() override = default;
-
     ConversionResult To(Generated::DisconnectedFromNetworkEventArgs const& source,
                         Notification::DisconnectedFromNetworkEventArgs& destination) const noexcept override;
 

@@ -2,9 +2,9 @@
 
 #include "Domain/CorvaneData/Notification/MassClipDeletionFailedEventArgs.h"
 #include "Thrift/Data/OperationResultConverter.h"
-#include "Thrift/Detail/ClipEvents.h"
 #include "Thrift/Detail/Results.h"
 #include "Thrift/Detail/Widths.h"
+#include "Thrift/Notifier/ClipEvents.h"
 #include "generated/MassClipDeletionEventArgs_types.h"
 
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

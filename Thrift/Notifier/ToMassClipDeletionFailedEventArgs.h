@@ -30,8 +30,6 @@ class ThriftToMassClipDeletionFailedEventArgsConverter
     : public Converter<Generated::MassClipDeletionFailedEventArgs, Notification::MassClipDeletionFailedEventArgs>
 {
 public:
-    ~ThriftToMassClipDeletionFailedEventArgsConverter() override = default;
-
     ConversionResult To(Generated::MassClipDeletionFailedEventArgs const& source,
                         Notification::MassClipDeletionFailedEventArgs& destination) const noexcept override;
 

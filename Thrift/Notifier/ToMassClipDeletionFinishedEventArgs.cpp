@@ -1,9 +1,9 @@
 #include "Thrift/Notifier/ToMassClipDeletionFinishedEventArgs.h"
 
 #include "Domain/CorvaneData/Notification/MassClipDeletionEventArgs.h"
-#include "Thrift/Detail/ClipEvents.h"
 #include "Thrift/Detail/Results.h"
 #include "Thrift/Detail/Widths.h"
+#include "Thrift/Notifier/ClipEvents.h"
 #include "generated/MassClipDeletionEventArgs_types.h"
 
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -29,8 +29,6 @@ class ThriftToMassClipDeletionFinishedEventArgsConverter
     : public Converter<Generated::MassClipDeletionFinishedEventArgs, Notification::MassClipDeletionEventArgs>
 {
 public:
-    ~ThriftToMassClipDeletionFinishedEventArgsConverter() override = default;
-
     ConversionResult To(Generated::MassClipDeletionFinishedEventArgs const& source,
                         Notification::MassClipDeletionEventArgs& destination) const noexcept override;
 

@@ -30,8 +30,6 @@ class ThriftToMassClipUpdateFailedEventArgsConverter
     : public Converter<Generated::MassClipUpdateFailedEventArgs, Notification::MassClipUpdateFailedEventArgs>
 {
 public:
-    ~ThriftToMassClipUpdateFailedEventArgsConverter() override = default;
-
     ConversionResult To(Generated::MassClipUpdateFailedEventArgs const& source,
                         Notification::MassClipUpdateFailedEventArgs& destination) const noexcept override;
 

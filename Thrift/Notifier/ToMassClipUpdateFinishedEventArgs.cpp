@@ -1,9 +1,9 @@
 #include "Thrift/Notifier/ToMassClipUpdateFinishedEventArgs.h"
 
 #include "Domain/CorvaneData/Notification/MassClipUpdateEventArgs.h"
-#include "Thrift/Detail/ClipEvents.h"
 #include "Thrift/Detail/Results.h"
 #include "Thrift/Detail/Widths.h"
+#include "Thrift/Notifier/ClipEvents.h"
 #include "generated/MassClipUpdateEventArgs_types.h"
 
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier

@@ -29,8 +29,6 @@ class ThriftToMassClipUpdateFinishedEventArgsConverter
     : public Converter<Generated::MassClipUpdateFinishedEventArgs, Notification::MassClipUpdateEventArgs>
 {
 public:
-    ~ThriftToMassClipUpdateFinishedEventArgsConverter() override = default;
-
     ConversionResult To(Generated::MassClipUpdateFinishedEventArgs const& source,
                         Notification::MassClipUpdateEventArgs& destination) const noexcept override;
 

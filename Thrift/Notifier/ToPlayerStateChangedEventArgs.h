@@ -29,8 +29,6 @@ class ThriftToPlayerStateChangedEventArgsConverter
     : public Converter<Generated::PlayerStateChangedEventArgs, Notification::PlayerStateChangedEventArgs>
 {
 public:
-    ~ThriftToPlayerStateChangedEventArgsConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::PlayerStateChangedEventArgs const& source,
                                Notification::PlayerStateChangedEventArgs& destination) const;

@@ -29,8 +29,6 @@ class ThriftToRecorderStateChangedEventArgsConverter
     : public Converter<Generated::RecorderStateChangedEventArgs, Notification::RecorderStateChangedEventArgs>
 {
 public:
-    ~ThriftToRecorderStateChangedEventArgsConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::RecorderStateChangedEventArgs const& source,
                                Notification::RecorderStateChangedEventArgs& destination) const;

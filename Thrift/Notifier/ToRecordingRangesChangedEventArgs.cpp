@@ -2,7 +2,7 @@
 
 #include "Domain/CorvaneData/Notification/RecordingRangesChangedEventArgs.h"
 #include "Thrift/Data/Clips/ToRecordingRange.h"
-#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Data/Identifiers.h"
 #include "Thrift/Detail/Lists.h"
 #include "Thrift/Detail/Results.h"
 #include "Thrift/Detail/SeenFields.h"

@@ -24,8 +24,6 @@ class ThriftToRecordingRangesChangedEventArgsConverter
     : public Converter<Generated::RecordingRangesChangedEventArgs, Notification::RecordingRangesChangedEventArgs>
 {
 public:
-    ~ThriftToRecordingRangesChangedEventArgsConverter() override = default;
-
     ConversionResult To(Generated::RecordingRangesChangedEventArgs const& source,
                         Notification::RecordingRangesChangedEventArgs& destination) const noexcept override;
 

@@ -24,8 +24,6 @@ class ThriftToServerAddedEventArgsConverter
     : public Converter<Generated::ServerAddedEventArgs, Notification::ServerAddedEventArgs>
 {
 public:
-    ~ThriftToServerAddedEventArgsConverter() override = default;
-
     ConversionResult To(Generated::ServerAddedEventArgs const& source,
                         Notification::ServerAddedEventArgs& destination) const noexcept override;
 

@@ -22,8 +22,6 @@ class ThriftToServerRemovedEventArgsConverter
     : public Converter<Generated::ServerRemovedEventArgs, Notification::ServerRemovedEventArgs>
 {
 public:
-    ~ThriftToServerRemovedEventArgsConverter() override = default;
-
     ConversionResult To(Generated::ServerRemovedEventArgs const& source,
                         Notification::ServerRemovedEventArgs& destination) const noexcept override;
 

@@ -38,24 +38,24 @@ public:
 
         Essences::Type Type() const noexcept { return type_; } ///< set by Clear() alone
 
-        /// Metadata of the encoding. This setter and the next three store any value, also one of another type.
+        /// Metadata of the encoding.
         Essences::Metadata Metadata() const noexcept { return metadata_; }
-        /// Stores the value.
+        /// Takes any value, also one of another type.
         void Metadata(Essences::Metadata value) noexcept { metadata_ = value; }
 
         /// Compression of the video.
         Essences::VideoCompressionType VideoCompressionType() const noexcept { return videoCompressionType_; }
-        /// Stores the value.
+        /// Takes any value, also one of another type.
         void VideoCompressionType(Essences::VideoCompressionType value) noexcept { videoCompressionType_ = value; }
 
         /// Compression of the audio.
         Essences::AudioCompressionType AudioCompressionType() const noexcept { return audioCompressionType_; }
-        /// Stores the value.
+        /// Takes any value, also one of another type.
         void AudioCompressionType(Essences::AudioCompressionType value) noexcept { audioCompressionType_ = value; }
 
         /// Details of the compression of the video.
         Essences::VideoCompressionInfo VideoCompressionInfo() const noexcept { return videoCompressionInfo_; }
-        /// Stores the value.
+        /// Takes any value, also one of another type.
         void VideoCompressionInfo(Essences::VideoCompressionInfo value) noexcept { videoCompressionInfo_ = value; }
 
         bool operator==(Essence const&) const = default;

@@ -21,8 +21,6 @@ class LoadBoundary;
 class LoadBoundaryToThriftConverter : public Converter<Corvane::Data::Channels::Boundary, Generated::LoadBoundary>
 {
 public:
-    ~LoadBoundaryToThriftConverter() override = default;
-
     ConversionResult To(Corvane::Data::Channels::Boundary const& source,
                         Generated::LoadBoundary& destination) const noexcept override;
 

@@ -24,8 +24,6 @@ class PlayerClipOnAirToThriftConverter
     : public Converter<Corvane::Data::Channels::PlayerClipOnAir, Generated::PlayerClipOnAir>
 {
 public:
-    ~PlayerClipOnAirToThriftConverter() override = default;
-
     ConversionResult To(Corvane::Data::Channels::PlayerClipOnAir const& source,
                         Generated::PlayerClipOnAir& destination) const noexcept override;
 

@@ -1,9 +1,9 @@
 #include "Thrift/Data/Channels/FromPlayerState.h"
 
 #include "Domain/CorvaneData/Channels/PlayerState.h"
+#include "Thrift/Data/Boundaries.h"
 #include "Thrift/Data/Channels/EnumConverter.h"
 #include "Thrift/Data/Channels/FromPlayerClipOnAir.h"
-#include "Thrift/Detail/Boundaries.h"
 #include "Thrift/Detail/Flagged.h"
 #include "Thrift/Detail/Results.h"
 #include "Thrift/Detail/Texts.h"

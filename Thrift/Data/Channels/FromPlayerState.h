@@ -26,8 +26,6 @@ class PlayerState;
 class PlayerStateToThriftConverter : public Converter<Corvane::Data::Channels::PlayerState, Generated::PlayerState>
 {
 public:
-    ~PlayerStateToThriftConverter() override = default;
-
     ConversionResult To(Corvane::Data::Channels::PlayerState const& source,
                         Generated::PlayerState& destination) const noexcept override;
 

@@ -27,8 +27,6 @@ class RecorderStateToThriftConverter
     : public Converter<Corvane::Data::Channels::RecorderState, Generated::RecorderState>
 {
 public:
-    ~RecorderStateToThriftConverter() override = default;
-
     ConversionResult To(Corvane::Data::Channels::RecorderState const& source,
                         Generated::RecorderState& destination) const noexcept override;
 

@@ -24,8 +24,6 @@ class LoadBoundary;
 class ThriftToLoadBoundaryConverter : public Converter<Generated::LoadBoundary, Corvane::Data::Channels::Boundary>
 {
 public:
-    ~ThriftToLoadBoundaryConverter() override = default;
-
     ConversionResult To(Generated::LoadBoundary const& source,
                         Corvane::Data::Channels::Boundary& destination) const noexcept override;
 

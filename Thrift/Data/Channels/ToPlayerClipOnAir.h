@@ -30,8 +30,6 @@ class ThriftToPlayerClipOnAirConverter
     : public Converter<Generated::PlayerClipOnAir, Corvane::Data::Channels::PlayerClipOnAir>
 {
 public:
-    ~ThriftToPlayerClipOnAirConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::PlayerClipOnAir const& source,
                                Corvane::Data::Channels::PlayerClipOnAir& destination) const;

@@ -1,9 +1,9 @@
 #include "Thrift/Data/Channels/ToPlayerState.h"
 
 #include "Domain/CorvaneData/Channels/PlayerState.h"
+#include "Thrift/Data/Boundaries.h"
 #include "Thrift/Data/Channels/EnumConverter.h"
 #include "Thrift/Data/Channels/ToPlayerClipOnAir.h"
-#include "Thrift/Detail/Boundaries.h"
 #include "Thrift/Detail/Reading.h"
 #include "Thrift/Detail/Results.h"
 #include "Thrift/Detail/SeenFields.h"

@@ -34,8 +34,6 @@ class PlayerState;
 class ThriftToPlayerStateConverter : public Converter<Generated::PlayerState, Corvane::Data::Channels::PlayerState>
 {
 public:
-    ~ThriftToPlayerStateConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::PlayerState const& source,
                                Corvane::Data::Channels::PlayerState& destination) const;

@@ -32,8 +32,6 @@ class ThriftToRecorderStateConverter
     : public Converter<Generated::RecorderState, Corvane::Data::Channels::RecorderState>
 {
 public:
-    ~ThriftToRecorderStateConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::RecorderState const& source,
                                Corvane::Data::Channels::RecorderState& destination) const;

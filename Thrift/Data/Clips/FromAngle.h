@@ -20,8 +20,6 @@ class AngleToThriftConverter
     : public Converter<Corvane::Data::Clips::Groups::Angle, Corvane::Data::Clips::Groups::Generated::Angle>
 {
 public:
-    ~AngleToThriftConverter() override = default;
-
     ConversionResult To(Corvane::Data::Clips::Groups::Angle const& source,
                         Corvane::Data::Clips::Groups::Generated::Angle& destination) const noexcept override;
 

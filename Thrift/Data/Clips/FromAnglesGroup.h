@@ -23,8 +23,6 @@ class AnglesGroupToThriftConverter
     : public Converter<Corvane::Data::Clips::Groups::AnglesGroup, Corvane::Data::Clips::Groups::Generated::AnglesGroup>
 {
 public:
-    ~AnglesGroupToThriftConverter() override = default;
-
     ConversionResult To(Corvane::Data::Clips::Groups::AnglesGroup const& source,
                         Corvane::Data::Clips::Groups::Generated::AnglesGroup& destination) const noexcept override;
 

@@ -32,8 +32,6 @@ class Clip;
 class ClipToThriftConverter : public Converter<Corvane::Data::Clips::Clip, Generated::Clip>
 {
 public:
-    ~ClipToThriftConverter() override = default;
-
     ConversionResult To(Corvane::Data::Clips::Clip const& source, Generated::Clip& destination) const noexcept override;
 
     ConversionResult To(Corvane::Data::Clips::Clip&& source, Generated::Clip& destination) const noexcept override;

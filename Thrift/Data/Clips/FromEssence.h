@@ -16,8 +16,6 @@ class Essence;
 class EssenceToThriftConverter : public Converter<Corvane::Data::Clips::Clip::Essence, Generated::Essence>
 {
 public:
-    ~EssenceToThriftConverter() override = default;
-
     ConversionResult To(Corvane::Data::Clips::Clip::Essence const& source,
                         Generated::Essence& destination) const noexcept override;
 

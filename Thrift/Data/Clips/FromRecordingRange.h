@@ -24,8 +24,6 @@ class RecordingRangeToThriftConverter
     : public Converter<Corvane::Data::Clips::RecordingRange, Generated::RecordingRange>
 {
 public:
-    ~RecordingRangeToThriftConverter() override = default;
-
     ConversionResult To(Corvane::Data::Clips::RecordingRange const& source,
                         Generated::RecordingRange& destination) const noexcept override;
 

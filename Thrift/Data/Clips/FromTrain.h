@@ -25,8 +25,6 @@ class Train;
 class TrainToThriftConverter : public Converter<Corvane::Data::Clips::Train, Generated::Train>
 {
 public:
-    ~TrainToThriftConverter() override = default;
-
     ConversionResult To(Corvane::Data::Clips::Train const& source,
                         Generated::Train& destination) const noexcept override;
 

@@ -21,8 +21,6 @@ class ThriftToAngleConverter
     : public Converter<Corvane::Data::Clips::Groups::Generated::Angle, Corvane::Data::Clips::Groups::Angle>
 {
 public:
-    ~ThriftToAngleConverter() override = default;
-
     ConversionResult To(Corvane::Data::Clips::Groups::Generated::Angle const& source,
                         Corvane::Data::Clips::Groups::Angle& destination) const noexcept override;
 

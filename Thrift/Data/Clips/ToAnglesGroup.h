@@ -24,8 +24,6 @@ class ThriftToAnglesGroupConverter
     : public Converter<Corvane::Data::Clips::Groups::Generated::AnglesGroup, Corvane::Data::Clips::Groups::AnglesGroup>
 {
 public:
-    ~ThriftToAnglesGroupConverter() override = default;
-
     ConversionResult To(Corvane::Data::Clips::Groups::Generated::AnglesGroup const& source,
                         Corvane::Data::Clips::Groups::AnglesGroup& destination) const noexcept override;
 

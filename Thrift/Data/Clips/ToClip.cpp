@@ -97,7 +97,7 @@ ConversionResult ThriftToClipConverter::ToOrThrow(Generated::Clip const& source,
     if (seen(isset.nbAudioVideoChannels)) destination.nbAudioVideoChannels = source.nbAudioVideoChannels;
     if (seen(isset.dolbyMonoSignal)) destination.dolbyMonoSignal = source.dolbyMonoSignal;
 
-    // Both read unguarded: a text that is no time code ends the process.
+    // Both read unguarded: an invalid text is a BadValue.
     if (seen(isset.inBoundTodTimecode) &&
         !destination.TrySetInBoundTodTimecode(ParseTimeCode("inBoundTodTimecode", source.inBoundTodTimecode)))
         return Failure("In Bound TOD Timecode Rate inconsistent with Clip Rate");

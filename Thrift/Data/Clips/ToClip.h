@@ -33,8 +33,6 @@ class Clip;
 class ThriftToClipConverter : public Converter<Generated::Clip, Corvane::Data::Clips::Clip>
 {
 public:
-    ~ThriftToClipConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::Clip const& source, Corvane::Data::Clips::Clip& destination) const;
 

@@ -20,8 +20,6 @@ class Essence;
 class ThriftToEssenceConverter : public Converter<Generated::Essence, Corvane::Data::Clips::Clip::Essence>
 {
 public:
-    ~ThriftToEssenceConverter() override = default;
-
     ConversionResult To(Generated::Essence const& source,
                         Corvane::Data::Clips::Clip::Essence& destination) const noexcept override;
 

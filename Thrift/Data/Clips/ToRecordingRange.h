@@ -24,8 +24,6 @@ class ThriftToRecordingRangeConverter
     : public Converter<Generated::RecordingRange, Corvane::Data::Clips::RecordingRange>
 {
 public:
-    ~ThriftToRecordingRangeConverter() override = default;
-
     ConversionResult To(Generated::RecordingRange const& source,
                         Corvane::Data::Clips::RecordingRange& destination) const noexcept override;
 

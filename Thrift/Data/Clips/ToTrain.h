@@ -29,8 +29,6 @@ class Train;
 class ThriftToTrainConverter : public Converter<Generated::Train, Corvane::Data::Clips::Train>
 {
 public:
-    ~ThriftToTrainConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::Train const& source, Corvane::Data::Clips::Train& destination) const;
 

@@ -23,8 +23,6 @@ class AudioVideoElementToThriftConverter
     : public Converter<Corvane::Data::Sequences::AudioVideoElement, Generated::AudioVideoElement>
 {
 public:
-    ~AudioVideoElementToThriftConverter() override = default;
-
     ConversionResult To(Corvane::Data::Sequences::AudioVideoElement const& source,
                         Generated::AudioVideoElement& destination) const noexcept override;
 

@@ -26,8 +26,6 @@ class AudioVideoTrackToThriftConverter
                        Generated::AudioVideoTrack>
 {
 public:
-    ~AudioVideoTrackToThriftConverter() override = default;
-
     ConversionResult To(Corvane::Data::Sequences::Track<Corvane::Data::Sequences::AudioVideoElement> const& source,
                         Generated::AudioVideoTrack& destination) const noexcept override;
 

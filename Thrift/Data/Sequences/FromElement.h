@@ -22,8 +22,6 @@ class Element;
 class ElementToThriftConverter : public Converter<Corvane::Data::Sequences::Element, Generated::Element>
 {
 public:
-    ~ElementToThriftConverter() override = default;
-
     ConversionResult To(Corvane::Data::Sequences::Element const& source,
                         Generated::Element& destination) const noexcept override;
 

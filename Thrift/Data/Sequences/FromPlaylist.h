@@ -23,8 +23,6 @@ class Playlist;
 class PlaylistToThriftConverter : public Converter<Corvane::Data::Sequences::Playlist, Generated::Playlist>
 {
 public:
-    ~PlaylistToThriftConverter() override = default;
-
     ConversionResult To(Corvane::Data::Sequences::Playlist const& source,
                         Generated::Playlist& destination) const noexcept override;
 

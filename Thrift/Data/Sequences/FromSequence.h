@@ -25,8 +25,6 @@ class Sequence;
 class SequenceToThriftConverter : public Converter<Corvane::Data::Sequences::Sequence, Generated::Sequence>
 {
 public:
-    ~SequenceToThriftConverter() override = default;
-
     ConversionResult To(Corvane::Data::Sequences::Sequence const& source,
                         Generated::Sequence& destination) const noexcept override;
 

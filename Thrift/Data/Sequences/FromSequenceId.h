@@ -19,8 +19,6 @@ class SequenceId;
 class SequenceIdToThriftConverter : public Converter<Corvane::Data::Sequences::SequenceId, Generated::SequenceId>
 {
 public:
-    ~SequenceIdToThriftConverter() override = default;
-
     ConversionResult To(Corvane::Data::Sequences::SequenceId const& source,
                         Generated::SequenceId& destination) const noexcept override;
 

@@ -23,8 +23,6 @@ class Tag;
 class TagToThriftConverter : public Converter<Corvane::Data::Sequences::Tag, Generated::Tag>
 {
 public:
-    ~TagToThriftConverter() override = default;
-
     ConversionResult To(Corvane::Data::Sequences::Tag const& source,
                         Generated::Tag& destination) const noexcept override;
 

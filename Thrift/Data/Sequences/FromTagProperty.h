@@ -20,8 +20,6 @@ class TagProperty;
 class TagPropertyToThriftConverter : public Converter<Corvane::Data::Sequences::TagProperty, Generated::TagProperty>
 {
 public:
-    ~TagPropertyToThriftConverter() override = default;
-
     ConversionResult To(Corvane::Data::Sequences::TagProperty const& source,
                         Generated::TagProperty& destination) const noexcept override;
 

@@ -27,8 +27,6 @@ class ThriftToAudioVideoElementConverter
     : public Converter<Generated::AudioVideoElement, Corvane::Data::Sequences::AudioVideoElement>
 {
 public:
-    ~ThriftToAudioVideoElementConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::AudioVideoElement const& source,
                                Corvane::Data::Sequences::AudioVideoElement& destination) const;

@@ -32,8 +32,6 @@ class ThriftToAudioVideoTrackConverter
                        Corvane::Data::Sequences::Track<Corvane::Data::Sequences::AudioVideoElement>>
 {
 public:
-    ~ThriftToAudioVideoTrackConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult
     ToOrThrow(Generated::AudioVideoTrack const& source,

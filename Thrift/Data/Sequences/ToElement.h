@@ -29,8 +29,6 @@ class Element;
 class ThriftToElementConverter : public Converter<Generated::Element, Corvane::Data::Sequences::Element>
 {
 public:
-    ~ThriftToElementConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::Element const& source, Corvane::Data::Sequences::Element& destination) const;
 

@@ -28,8 +28,6 @@ class Playlist;
 class ThriftToPlaylistConverter : public Converter<Generated::Playlist, Corvane::Data::Sequences::Playlist>
 {
 public:
-    ~ThriftToPlaylistConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::Playlist const& source,
                                Corvane::Data::Sequences::Playlist& destination) const;

@@ -1,6 +1,7 @@
 #include "Thrift/Data/Sequences/ToSequence.h"
 
 #include "Domain/CorvaneData/Sequences/Sequence.h"
+#include "Thrift/BadValue.h"
 #include "Thrift/Data/Clips/EnumConverter.h"
 #include "Thrift/Data/Sequences/EnumConverter.h"
 #include "Thrift/Detail/Reading.h"
@@ -62,7 +63,7 @@ ConversionResult ThriftToSequenceConverter::ToOrThrow(Generated::Sequence const&
     if (isset.isTimeCodeRegen) destination.isTimeCodeRegen = source.isTimeCodeRegen;
     if (seen(isset.timeCodeRegenReference))
     {
-        // Only a text that has not the form of a time code is a failure. An invalid value ends the process.
+        // Only a text that has not the form of a time code is a failure. An invalid value is a BadValue.
         try
         {
             destination.timeCodeRegenReference = TalvoTimeCodeParser().Parse(source.timeCodeRegenReference);

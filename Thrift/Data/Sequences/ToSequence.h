@@ -35,8 +35,6 @@ class Sequence;
 class ThriftToSequenceConverter : public Converter<Generated::Sequence, Corvane::Data::Sequences::Sequence>
 {
 public:
-    ~ThriftToSequenceConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::Sequence const& source,
                                Corvane::Data::Sequences::Sequence& destination) const;

@@ -23,8 +23,6 @@ class SequenceId;
 class ThriftToSequenceIdConverter : public Converter<Generated::SequenceId, Corvane::Data::Sequences::SequenceId>
 {
 public:
-    ~ThriftToSequenceIdConverter() override = default;
-
     /// As To(), but throws BadValue for what ends the process there.
     ConversionResult ToOrThrow(Generated::SequenceId const& source,
                                Corvane::Data::Sequences::SequenceId& destination) const;

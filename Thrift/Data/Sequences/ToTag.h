@@ -31,8 +31,6 @@ class Tag;
 class ThriftToTagConverter : public Converter<Generated::Tag, Corvane::Data::Sequences::Tag>
 {
 public:
-    ~ThriftToTagConverter() override = default;
-
     ConversionResult To(Generated::Tag const& source,
                         Corvane::Data::Sequences::Tag& destination) const noexcept override;
 

@@ -23,8 +23,6 @@ class TagProperty;
 class ThriftToTagPropertyConverter : public Converter<Generated::TagProperty, Corvane::Data::Sequences::TagProperty>
 {
 public:
-    ~ThriftToTagPropertyConverter() override = default;
-
     ConversionResult To(Generated::TagProperty const& source,
                         Corvane::Data::Sequences::TagProperty& destination) const noexcept override;
 

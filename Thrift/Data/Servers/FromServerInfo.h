@@ -23,8 +23,6 @@ class ServerInfo;
 class ServerInfoToThriftConverter : public Converter<Corvane::Data::Servers::ServerInfo, Generated::ServerInfo>
 {
 public:
-    ~ServerInfoToThriftConverter() override = default;
-
     ConversionResult To(Corvane::Data::Servers::ServerInfo const& source,
                         Generated::ServerInfo& destination) const noexcept override;
 

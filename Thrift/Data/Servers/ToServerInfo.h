@@ -28,8 +28,6 @@ class ServerInfo;
 class ThriftToServerInfoConverter : public Converter<Generated::ServerInfo, Corvane::Data::Servers::ServerInfo>
 {
 public:
-    ~ThriftToServerInfoConverter() override = default;
-
     ConversionResult To(Generated::ServerInfo const& source,
                         Corvane::Data::Servers::ServerInfo& destination) const noexcept override;
 

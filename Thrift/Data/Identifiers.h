@@ -1,5 +1,7 @@
 #pragma once
 
+// Internal, never installed.
+
 #include "Thrift/Data/FromGuid.h"
 #include "Thrift/Data/ToGuid.h"
 #include "generated/Guid_types.h"

@@ -1,5 +1,7 @@
 #pragma once
 
+// Internal, never installed.
+
 #include "Domain/CorvaneData/Channels/Boundary.h"
 #include "Thrift/Data/Channels/FromLoadBoundary.h"
 #include "Thrift/Data/Channels/ToLoadBoundary.h"

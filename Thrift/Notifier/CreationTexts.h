@@ -1,5 +1,7 @@
 #pragma once
 
+// Internal, never installed.
+
 #include "Domain/CorvaneData/Notification/ClipCreationEventArgs.h"
 
 #include <array>

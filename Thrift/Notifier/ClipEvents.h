@@ -1,5 +1,7 @@
 #pragma once
 
+// Internal, never installed.
+
 #include "Domain/CorvaneData/Clips/Clip.h"
 #include "Domain/CorvaneData/Notification/ClipCommandEventArgs.h"
 #include "Thrift/Data/Clips/FromClip.h"

@@ -1,7 +1,9 @@
 #pragma once
 
+// Internal, never installed.
+
 #include "Domain/CorvaneData/Channels/Guid.h"
-#include "Thrift/Detail/Identifiers.h"
+#include "Thrift/Data/Identifiers.h"
 
 #include <map>
 #include <set>
