@@ -21,14 +21,15 @@ ConversionResult ThriftToAnglesGroupDeletionFinishedEventArgsConverter::To(
     auto const& wireEvent = source.deletionEventArgs;
 
     Corvane::Data::Clips::Groups::Guid anglesGroupId;
-    if (auto const result = Read("deletionEventArgs.anglesGroupId", thriftToGuidConverter, wireEvent.anglesGroupId, anglesGroupId);
+    if (auto const result =
+            Read("deletionEventArgs.anglesGroupId", thriftToGuidConverter, wireEvent.anglesGroupId, anglesGroupId);
         !result.success)
         return Nested(result);
     destination = Notification::AnglesGroupDeletionFinishedEventArgs(wireEvent.databaseRevision,
                                                                      Corvane::Data::Guid::Empty(), anglesGroupId);
     // Last: a block that fails leaves the event with everything else filled in.
-    return Read("deletionEventArgs.clipCommandEventArgs", thriftToClipCommandEventArgsConverter, wireEvent.clipCommandEventArgs,
-                destination);
+    return Read("deletionEventArgs.clipCommandEventArgs", thriftToClipCommandEventArgsConverter,
+                wireEvent.clipCommandEventArgs, destination);
 }
 
 ConversionResult ThriftToAnglesGroupDeletionFinishedEventArgsConverter::To(

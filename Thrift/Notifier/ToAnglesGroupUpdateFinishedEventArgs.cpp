@@ -21,14 +21,15 @@ ConversionResult ThriftToAnglesGroupUpdateFinishedEventArgsConverter::To(
     auto const& wireEvent = source.updateEventArgs;
 
     Corvane::Data::Clips::Groups::AnglesGroup anglesGroup{Corvane::Data::Clips::Groups::Guid()};
-    if (auto const result = Read("updateEventArgs.anglesGroup", thriftToAnglesGroupConverter, wireEvent.anglesGroup, anglesGroup);
+    if (auto const result =
+            Read("updateEventArgs.anglesGroup", thriftToAnglesGroupConverter, wireEvent.anglesGroup, anglesGroup);
         !result.success)
         return Nested(result);
     destination = Notification::AnglesGroupUpdateFinishedEventArgs(wireEvent.databaseRevision,
                                                                    Corvane::Data::Guid::Empty(), anglesGroup);
     // Last: a block that fails leaves the event with everything else filled in.
-    return Read("updateEventArgs.clipCommandEventArgs", thriftToClipCommandEventArgsConverter, wireEvent.clipCommandEventArgs,
-                destination);
+    return Read("updateEventArgs.clipCommandEventArgs", thriftToClipCommandEventArgsConverter,
+                wireEvent.clipCommandEventArgs, destination);
 }
 
 ConversionResult ThriftToAnglesGroupUpdateFinishedEventArgsConverter::To(
