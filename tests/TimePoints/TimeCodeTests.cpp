@@ -3,16 +3,19 @@
 #include "TimePoints/TalvoTimeCodeParser.h"
 #include "TimePoints/TimeCodeBreakdown.h"
 #include "TimePoints/TimeCodeBuilder.h"
+#include "TimePoints/TimeCodeText.h"
 #include "TimePoints/TimePoint.h"
 #include "TimePoints/VideoRates.h"
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <limits>
 #include <stdexcept>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace Talvo::TimePoints
 {
@@ -205,36 +208,45 @@ TEST(TimeCode, EveryDayOfTheCalendar)
     EXPECT_EQ(days, 2 * 146097);
 }
 
+std::string Digits(int number)
+{
+    return (number < 10 ? "0" : "") + std::to_string(number);
+}
+
 /// Goes through all frames of a day; the sample counts must follow one another without a gap.
 void EveryFrameThereAndBack(int rate, bool dropFrame, int expected)
 {
-    TalvoTimeCodeFormatter const formatter;
-    TalvoTimeCodeParser const parser;
     TimeCodeBuilder builder{.year = 2000, .month = 2, .day = 29, .numerator = rate, .dropFrame = dropFrame};
     auto const midnight = builder.Build().Sample();
     auto negative = builder.Build();
+    std::vector<std::string> endings;
+    for (int frame = 0; frame < rate; ++frame) endings.push_back(Digits(frame) + '@' + std::to_string(rate));
+    std::string written;
     int frames = 0;
 
     for (builder.hour = 0; builder.hour < 24; ++builder.hour)
         for (builder.minute = 0; builder.minute < 60; ++builder.minute)
             for (builder.second = 0; builder.second < 60; ++builder.second)
             {
+                auto text = "2000-02-29T" + Digits(builder.hour) + ':' + Digits(builder.minute) + ':' +
+                            Digits(builder.second) + (dropFrame ? ';' : ':');
+                auto const end = text.size();
                 bool const drops = dropFrame && builder.minute % 10 != 0 && builder.second == 0;
                 for (builder.sample = drops ? rate / 15 : 0; builder.sample < rate; ++builder.sample, ++frames)
                 {
-                    auto const timeCode = builder.Build();
-                    auto const text = formatter.Format(timeCode);
-                    ASSERT_TRUE(timeCode.Sample() == midnight + frames && parser.Parse(text) == timeCode) << text;
+                    text.replace(end, text.npos, endings[static_cast<std::size_t>(builder.sample)]);
+                    auto const read = ReadTimeCode(text);
+                    ASSERT_TRUE(read.has_value() == (builder.sample < 100)) << text; // no room for three digits
+                    auto const timeCode = read ? *read : builder.Build();
+                    WriteTimeCode(timeCode, written);
+                    ASSERT_TRUE(timeCode.Sample() == midnight + frames && written == text) << written << ", " << text;
 
-                    TimeCodeBreakdown const there{timeCode};
-                    ASSERT_TRUE(there.hour == builder.hour && there.minute == builder.minute &&
-                                there.second == builder.second && there.frame == builder.sample)
-                        << text;
-                    // A negative count is the mirror image.
+                    // A negative count is the mirror image: shown where a second begins, after dropped frames, and ends.
+                    if (builder.sample > rate / 15 && builder.sample < rate - 1) continue;
                     negative.DateTimeToSample(1900, 1, 1, 0, 0, 0, -frames);
                     TimeCodeBreakdown const mirror{negative};
-                    ASSERT_TRUE(mirror.hour == -there.hour && mirror.minute == -there.minute &&
-                                mirror.second == -there.second && mirror.frame == -there.frame)
+                    ASSERT_TRUE(mirror.hour == -builder.hour && mirror.minute == -builder.minute &&
+                                mirror.second == -builder.second && mirror.frame == -builder.sample)
                         << text;
                 }
             }
@@ -243,7 +255,7 @@ void EveryFrameThereAndBack(int rate, bool dropFrame, int expected)
 
 TEST(TimeCode, EveryFrameOfADayThereAndBack)
 {
-    for (int const rate : {24, 25, 30, 50, 60}) EveryFrameThereAndBack(rate, false, 86400 * rate);
+    for (int const rate : {24, 25, 30, 48, 50, 60, 100, 120}) EveryFrameThereAndBack(rate, false, 86400 * rate);
     EveryFrameThereAndBack(30, true, 2589408);
     EveryFrameThereAndBack(60, true, 5178816);
 }

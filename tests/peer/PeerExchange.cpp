@@ -1,6 +1,5 @@
-// Answers the peer: for each line "RECORD PROTOCOL BYTES" of standard input, with the bytes as hexadecimal digits, one
-// line with the bytes of that record as it is written again and, behind a blank, as it comes back from the domain.
-// Where none comes back, a word stands there: "none" without converters for both directions, or "failure".
+// Answers the peer: for each line "RECORD PROTOCOL BYTES" of standard input, with the bytes as hexadecimal digits, one line
+// with the bytes of that record as it is written again, in binary and, behind a blank, in compact.
 
 #include "tools/Protocols.h"
 #include "tools/RecordTypes.h"
@@ -35,13 +34,6 @@ std::string ToHex(std::string const& bytes)
     return digits;
 }
 
-std::string ThroughDomain(WireRecord const& record, RecordType const& type, Protocol const protocol)
-{
-    if (type.throughDomain == nullptr) return "none";
-    auto const trip = type.throughDomain(record);
-    return trip.record == nullptr ? "failure" : ToHex(Encode(*trip.record, protocol));
-}
-
 } // namespace
 
 int main()
@@ -51,9 +43,8 @@ int main()
     std::string digits;
     while (std::cin >> name >> protocolName >> digits)
     {
-        auto const& type = FindRecordType(name);
-        auto const protocol = ParseProtocol(protocolName);
-        auto const record = Decode(FromHex(digits), protocol, type).record;
-        std::cout << ToHex(Encode(*record, protocol)) << ' ' << ThroughDomain(*record, type, protocol) << '\n';
+        auto const record = Decode(FromHex(digits), ParseProtocol(protocolName), FindRecordType(name)).record;
+        std::cout << ToHex(Encode(*record, Protocol::Binary)) << ' ' << ToHex(Encode(*record, Protocol::Compact))
+                  << '\n';
     }
 }
