@@ -16,6 +16,7 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift
 class BadValue : public std::exception
 {
 public:
+    /// The value of the field `path`, with the reason why it is invalid.
     BadValue(std::string_view path, std::string_view reason);
     ~BadValue() override;
 
