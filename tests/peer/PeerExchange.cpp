@@ -3,7 +3,6 @@
 // Where none comes back, a word stands there: "none" without converters for both directions, or "failure".
 
 #include "tools/Protocols.h"
-#include "tools/RecordTypes.h"
 
 #include <cstddef>
 #include <iostream>

@@ -1,9 +1,9 @@
-#include "tests/schema/RecordFiller.h"
+#include "records/RecordFiller.h"
 
 #include <array>
 #include <utility>
 
-namespace Talvo::Tests
+namespace Talvo::Records
 {
 
 using namespace apache::thrift::protocol;
@@ -172,4 +172,4 @@ std::uint32_t RecordFiller::readString(std::string& value)
     return 0;
 }
 
-} // namespace Talvo::Tests
+} // namespace Talvo::Records

@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-namespace Talvo::Tests
+namespace Talvo::Records
 {
 
 /// A protocol that makes up what a record's read asks for: reading a record from it fills the record.
@@ -95,4 +95,4 @@ private:
     std::map<std::size_t, Spoiled> spoiled_;
 };
 
-} // namespace Talvo::Tests
+} // namespace Talvo::Records
