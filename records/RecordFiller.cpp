@@ -45,7 +45,10 @@ RecordFiller::Spoiled const* RecordFiller::NextSpoiled()
 bool RecordFiller::ReadConvertible(auto& value)
 {
     if (numbers_.empty()) return false;
-    auto const number = numbers_[nextNumber_++ % numbers_.size()];
+    // The first number tells records beside each other apart; the others are the same wherever such a record stands.
+    auto& record = open_.back();
+    auto const index = record.numbers++ == 0 ? record.place : record.numbers - 1;
+    auto const number = numbers_[index % numbers_.size()];
     auto const* const spoiled = NextSpoiled();
     value = spoiled != nullptr ? spoiled->number : number;
     return true;
@@ -53,7 +56,8 @@ bool RecordFiller::ReadConvertible(auto& value)
 
 std::uint32_t RecordFiller::readStructBegin(std::string&)
 {
-    open_.emplace_back();
+    auto const place = open_.empty() ? 0 : ++open_.back().records;
+    open_.push_back({.place = place});
     return 0;
 }
 
@@ -131,13 +135,15 @@ std::uint32_t RecordFiller::readMapEnd()
 
 std::uint32_t RecordFiller::readBool(bool& value)
 {
-    value = true;
+    value = numbers_.empty() || open_.back().booleans++ % 2 == 0;
     return 0;
 }
 
 std::uint32_t RecordFiller::readBool(std::vector<bool>::reference value)
 {
-    value = true;
+    bool read = false;
+    readBool(read);
+    value = read;
     return 0;
 }
 
@@ -161,14 +167,21 @@ std::uint32_t RecordFiller::readI64(std::int64_t& value)
 
 std::uint32_t RecordFiller::readString(std::string& value)
 {
-    auto const text = count_++;
+    auto& record = open_.back();
     if (numbers_.empty())
-        value = "text " + std::to_string(text) + " \"\\\x01\x7F\x80\xFF";
+        value = "text " + std::to_string(count_++) + " \"\\\x01\x7F\x80\xFF";
     else if (auto const* const spoiled = NextSpoiled())
         value = spoiled->text;
     else
-        value =
-            "2024-01-" + std::to_string(10 + text % 20) + "T" + std::to_string(10 + text / 20 % 14) + ":58:57:12@25";
+    {
+        // The first text tells a record apart, and the first one in it the record around it.
+        auto const month = record.texts == 0 ? record.place % 9 + 1 : 1;
+        auto const* const around = open_.size() > 1 ? &open_[open_.size() - 2] : nullptr;
+        auto const year = 2024 + record.texts + (around != nullptr && !around->hasText ? 10 * around->place : 0);
+        value = std::to_string(year) + "-0" + std::to_string(month) + "-10T10:58:57:12@25";
+    }
+    ++record.texts;
+    for (auto& open : open_) open.hasText = true;
     return 0;
 }
 

@@ -30,8 +30,9 @@ public:
 
     explicit RecordFiller(Filter offered = [](std::int16_t) { return true; });
 
-    /// Fills a record that converters take: with `numbers` in turn, and with texts that are time codes, no two alike in
-    /// the first sixteen characters, which become identifiers.
+    /// Fills a record that converters take: with `numbers` in turn, with yes and no in turn, and with texts that are time
+    /// codes, no two of a record alike in the first eight characters, which become identifiers. A record is filled in the
+    /// same way wherever it stands, but for its first number and its first text.
     static RecordFiller Convertible(
         std::vector<std::int16_t> numbers, Filter offered = [](std::int16_t) { return true; });
 
@@ -72,6 +73,12 @@ private:
         std::int16_t id = 0;
         std::int16_t lastOwn = 0; ///< The last field id that was read, or held back.
         bool skipped = false;
+        std::size_t place = 0;   ///< Among the records beside it, from 1 on; 0 of the outermost one.
+        std::size_t records = 0; ///< What was read so far: nested records,
+        std::size_t numbers = 0; ///< numbers,
+        std::size_t booleans = 0;
+        std::size_t texts = 0;
+        bool hasText = false; ///< Of its own, or of a nested one.
     };
 
     struct Spoiled
@@ -90,7 +97,6 @@ private:
     std::set<std::int16_t> fieldIds_;
     std::int16_t count_ = 0;
     std::vector<std::int16_t> numbers_; ///< Empty: distinct values.
-    std::size_t nextNumber_ = 0;
     std::size_t values_ = 0;
     std::map<std::size_t, Spoiled> spoiled_;
 };

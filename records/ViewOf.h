@@ -43,7 +43,7 @@ View ViewOf(T const& value)
     }
     else
     {
-        View view{View::Kind::Record, "", {}};
+        View view{View::Kind::Record, NameOf(value), {}};
         VisitFields(value,
                     [&view](int const id, char const* const name, bool const isSet, auto const& field) {
                         view.parts.push_back({std::to_string(id) + ' ' + name, isSet, ViewOf(field)});

@@ -219,6 +219,11 @@ def fields_header(schemas):
                 flag = "true" if field.get("required") == "required" else f"record.__isset.{name}"
                 visits.append(f'    visit({field.get("field-id")}, "{name}", {flag}, record.{name});\n')
             views.append(f"""\
+constexpr char const* NameOf(::{schema.namespace}::{record} const&)
+{{
+    return "{record}";
+}}
+
 template<typename TVisit>
 void VisitFields([[maybe_unused]] ::{schema.namespace}::{record} const& record, [[maybe_unused]] TVisit&& visit)
 {{
