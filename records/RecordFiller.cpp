@@ -31,6 +31,20 @@ RecordFiller RecordFiller::Convertible(std::vector<std::int16_t> numbers, Filter
     return filler;
 }
 
+RecordFiller RecordFiller::OtherConvertible(std::vector<std::int16_t> numbers)
+{
+    auto filler = Convertible(std::move(numbers));
+    filler.isOther_ = true;
+    return filler;
+}
+
+RecordFiller RecordFiller::Zeros()
+{
+    auto filler = Convertible({0});
+    filler.isZero_ = true;
+    return filler;
+}
+
 void RecordFiller::Spoil(std::size_t const value, std::string text, std::int16_t const number)
 {
     spoiled_[value] = {std::move(text), number};
@@ -38,6 +52,7 @@ void RecordFiller::Spoil(std::size_t const value, std::string text, std::int16_t
 
 RecordFiller::Spoiled const* RecordFiller::NextSpoiled()
 {
+    if (open_.size() <= 2) ownValues_.push_back(values_);
     auto const spoiled = spoiled_.find(values_++);
     return spoiled == spoiled_.end() ? nullptr : &spoiled->second;
 }
@@ -102,7 +117,7 @@ std::uint32_t RecordFiller::skip(TType)
 
 std::uint32_t RecordFiller::readListBegin(TType&, std::uint32_t& size)
 {
-    size = ContainerSize;
+    size = isZero_ ? 0 : ContainerSize;
     return 0;
 }
 
@@ -113,7 +128,7 @@ std::uint32_t RecordFiller::readListEnd()
 
 std::uint32_t RecordFiller::readSetBegin(TType&, std::uint32_t& size)
 {
-    size = ContainerSize;
+    size = isZero_ ? 0 : ContainerSize;
     return 0;
 }
 
@@ -124,7 +139,7 @@ std::uint32_t RecordFiller::readSetEnd()
 
 std::uint32_t RecordFiller::readMapBegin(TType&, TType&, std::uint32_t& size)
 {
-    size = ContainerSize;
+    size = isZero_ ? 0 : ContainerSize;
     return 0;
 }
 
@@ -135,7 +150,7 @@ std::uint32_t RecordFiller::readMapEnd()
 
 std::uint32_t RecordFiller::readBool(bool& value)
 {
-    value = numbers_.empty() || open_.back().booleans++ % 2 == 0;
+    value = !isZero_ && (numbers_.empty() || (open_.back().booleans++ % 2 == 0) != isOther_);
     return 0;
 }
 
@@ -172,13 +187,15 @@ std::uint32_t RecordFiller::readString(std::string& value)
         value = "text " + std::to_string(count_++) + " \"\\\x01\x7F\x80\xFF";
     else if (auto const* const spoiled = NextSpoiled())
         value = spoiled->text;
+    else if (isZero_)
+        value.clear();
     else
     {
         // The first text tells a record apart, and the first one in it the record around it.
         auto const month = record.texts == 0 ? record.place % 9 + 1 : 1;
         auto const* const around = open_.size() > 1 ? &open_[open_.size() - 2] : nullptr;
         auto const year = 2024 + record.texts + (around != nullptr && !around->hasText ? 10 * around->place : 0);
-        value = std::to_string(year) + "-0" + std::to_string(month) + "-10T10:58:57:12@25";
+        value = std::to_string(isOther_ ? year + 100 : year) + "-0" + std::to_string(month) + "-10T10:58:57:12@25";
     }
     ++record.texts;
     for (auto& open : open_) open.hasText = true;

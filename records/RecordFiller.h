@@ -36,11 +36,20 @@ public:
     static RecordFiller Convertible(
         std::vector<std::int16_t> numbers, Filter offered = [](std::int16_t) { return true; });
 
+    /// The same with other texts, and with yes for no.
+    static RecordFiller OtherConvertible(std::vector<std::int16_t> numbers);
+
+    /// Fills a record with zeros, empty texts and empty containers, all of them there.
+    static RecordFiller Zeros();
+
     /// One of the values that converters take, the first being 0, becomes this text or number. Several may be spoiled.
     void Spoil(std::size_t value, std::string text, std::int16_t number);
 
     /// How many numbers and texts were read that converters take.
     std::size_t Values() const { return values_; }
+
+    /// Those of them that stand in the outermost record and in the records that it holds, not deeper.
+    std::vector<std::size_t> const& OwnValues() const { return ownValues_; }
 
     /// The field ids of the outermost record that were read.
     std::set<std::int16_t> const& FieldIds() const { return fieldIds_; }
@@ -97,7 +106,10 @@ private:
     std::set<std::int16_t> fieldIds_;
     std::int16_t count_ = 0;
     std::vector<std::int16_t> numbers_; ///< Empty: distinct values.
+    bool isOther_ = false;
+    bool isZero_ = false;
     std::size_t values_ = 0;
+    std::vector<std::size_t> ownValues_;
     std::map<std::size_t, Spoiled> spoiled_;
 };
 

@@ -32,7 +32,7 @@ struct View
 /// A field of a record, or an element, key or value of a container.
 struct Part
 {
-    std::string label; ///< Such as `7 videoStandard`, `[0]`, `key [0]`.
+    std::string label; ///< Such as `7 videoStandard`, `[0]`, `{0}` of a set, `key [0]`.
     bool isSet;        ///< The flag; of a required field and of an element true.
     View view;
 

@@ -30,12 +30,15 @@ View ViewOf(T const& value)
         std::size_t index = 0;
         for (auto const& element : value)
         {
-            auto const label = '[' + std::to_string(index++) + ']';
+            auto const number = std::to_string(index++);
+            auto const label = '[' + number + ']';
             if constexpr (requires { typename T::mapped_type; })
             {
                 view.parts.push_back({"key " + label, true, ViewOf(element.first)});
                 view.parts.push_back({label, true, ViewOf(element.second)});
             }
+            else if constexpr (requires { typename T::key_type; })
+                view.parts.push_back({'{' + number + '}', true, ViewOf(element)});
             else
                 view.parts.push_back({label, true, ViewOf(element)});
         }

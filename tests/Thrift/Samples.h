@@ -6,14 +6,28 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <cstdlib>
+#include <fstream>
 #include <map>
 #include <memory>
+#include <sstream>
+#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
 namespace Talvo::Tests
 {
+
+/// Compares a text with the file that records it. With TALVO_RENEW_RECORDED in the environment the file is written anew.
+inline void ExpectRecorded(std::string const& text, std::string const& name)
+{
+    auto const path = std::string(TALVO_RECORDED) + '/' + name;
+    if (std::getenv("TALVO_RENEW_RECORDED") != nullptr) std::ofstream(path) << text;
+    std::ostringstream recorded;
+    recorded << std::ifstream(path).rdbuf();
+    EXPECT_EQ(text, recorded.str());
+}
 
 /// A record filled from the protocol.
 inline std::unique_ptr<Records::WireRecord> Filled(Records::RecordType const& type, Records::RecordFiller filler)

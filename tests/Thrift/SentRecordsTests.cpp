@@ -1,16 +1,13 @@
 // What is written of each record that converts to the wire, from a new and from a full domain object, is the text
-// sent-records.txt beside this file. With TALVO_RENEW_SENT_RECORDS in the environment the test writes it anew.
+// sent-records.txt beside this file.
 
 #include "tests/Thrift/Samples.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <fstream>
 #include <map>
 #include <optional>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -116,10 +113,7 @@ TEST(SentRecords, AreAsRecorded)
         for (auto const& line : lines) text += line + '\n';
         text += '\n';
     }
-    if (std::getenv("TALVO_RENEW_SENT_RECORDS") != nullptr) std::ofstream(TALVO_SENT_RECORDS) << text;
-    std::ostringstream recorded;
-    recorded << std::ifstream(TALVO_SENT_RECORDS).rdbuf();
-    EXPECT_EQ(text, recorded.str());
+    ExpectRecorded(text, "sent-records.txt");
 }
 
 } // namespace
