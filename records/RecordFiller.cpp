@@ -91,8 +91,8 @@ std::uint32_t RecordFiller::readFieldBegin(std::string&, TType& type, std::int16
         record.id = static_cast<std::int16_t>(index + 1);
         type = FieldTypes[static_cast<std::size_t>(typeIndex)];
     };
-    for (offer(); open_.size() == 1 && record.id <= LargestFieldId && !offered_(record.id); offer())
-        record.lastOwn = record.id;
+    auto const isHeldBack = [&] { return open_.size() == 1 ? !offered_(record.id) : record.id == leftOutInside_; };
+    for (offer(); record.id <= LargestFieldId && isHeldBack(); offer()) record.lastOwn = record.id;
 
     record.skipped = false;
     id = record.id;

@@ -42,6 +42,9 @@ public:
     /// Fills a record with zeros, empty texts and empty containers, all of them there.
     static RecordFiller Zeros();
 
+    /// Nested records lack the field of that id.
+    void LeaveOutInside(std::int16_t const id) { leftOutInside_ = id; }
+
     /// One of the values that converters take, the first being 0, becomes this text or number. Several may be spoiled.
     void Spoil(std::size_t value, std::string text, std::int16_t number);
 
@@ -106,6 +109,7 @@ private:
     std::set<std::int16_t> fieldIds_;
     std::int16_t count_ = 0;
     std::vector<std::int16_t> numbers_; ///< Empty: distinct values.
+    std::int16_t leftOutInside_ = 0;
     bool isOther_ = false;
     bool isZero_ = false;
     std::size_t values_ = 0;

@@ -10,9 +10,9 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
-#include <ostream>
 #include <set>
 #include <string>
 #include <utility>
@@ -45,47 +45,52 @@ FieldBytes FieldsOf(WireRecord const& record)
     return fields;
 }
 
-/// The record of those fields, or null where one is missing that is required.
-std::unique_ptr<WireRecord> RecordOf(RecordType const& type, FieldBytes const& fields)
-{
-    std::string bytes;
-    for (auto const& [id, field] : fields) bytes += field;
-    bytes += '\0';
-    auto record = type.make();
-    try
-    {
-        ReadBytes(bytes, *Protocols()[0], *record);
-        return record;
-    }
-    catch (TProtocolException const&)
-    {
-        return nullptr;
-    }
-}
-
 int IdOf(Part const& part)
 {
     return std::stoi(part.label);
 }
 
-/// A record that converts both ways, in the states that conversions meet.
-struct Subject
-{
-    RecordType const& type;
-    FieldBytes full;
-    FieldBytes used;  ///< What a used destination was filled with: no value as in the full one.
-    FieldBytes zeros; ///< Zeros with their flags.
-    std::vector<int> required;
-    View view;
+/// Makes a record of the fields with these ids; null where one is missing that is required.
+using Maker = std::function<std::unique_ptr<WireRecord>(std::set<int> const&)>;
 
-    /// The required fields of `from` and that field.
-    FieldBytes Only(FieldBytes const& from, int const id) const
+/// Of one and the same record, whatever fields are asked for.
+Maker PartsOf(RecordType const& type, WireRecord const& whole)
+{
+    return [&type, fields = FieldsOf(whole)](std::set<int> const& ids) -> std::unique_ptr<WireRecord>
     {
-        FieldBytes only{*from.find(id)};
-        for (auto const other : required) only.insert(*from.find(other));
-        return only;
-    }
-};
+        std::string bytes;
+        for (auto const& [id, field] : fields)
+            if (ids.contains(id)) bytes += field;
+        auto record = type.make();
+        try
+        {
+            ReadBytes(bytes + '\0', *Protocols()[0], *record);
+            return record;
+        }
+        catch (TProtocolException const&)
+        {
+            return nullptr;
+        }
+    };
+}
+
+/// Of a full record whose nested ones lack their third field. Bytes would not do: they have all fields.
+Maker WithGaps(RecordType const& type)
+{
+    return [&type](std::set<int> const& ids) -> std::unique_ptr<WireRecord>
+    {
+        auto filler = RecordFiller::Convertible(FullNumbers(type.name), [&](auto id) { return ids.contains(id); });
+        filler.LeaveOutInside(3);
+        try
+        {
+            return Filled(type, filler);
+        }
+        catch (TProtocolException const&)
+        {
+            return nullptr;
+        }
+    };
+}
 
 /// A record that has no value of the full one, as far as it converts.
 std::unique_ptr<WireRecord> UsedRecord(RecordType const& type)
@@ -100,6 +105,34 @@ std::unique_ptr<WireRecord> UsedRecord(RecordType const& type)
     return nullptr;
 }
 
+/// A record that converts both ways, in the states that conversions meet.
+struct Subject
+{
+    RecordType const& type;
+    View view;
+    std::set<int> ids;
+    std::set<int> required;
+    std::unique_ptr<WireRecord> used; ///< What a used destination was filled with.
+    Maker full;
+    Maker zeros; ///< Zeros with their flags.
+    Maker gaps;
+
+    std::set<int> Without(int const id) const
+    {
+        auto others = ids;
+        others.erase(id);
+        return others;
+    }
+
+    /// The required fields and that one.
+    std::set<int> Only(int const id) const
+    {
+        auto only = required;
+        only.insert(id);
+        return only;
+    }
+};
+
 std::vector<Subject> const& Subjects()
 {
     static auto const subjects = []
@@ -109,15 +142,17 @@ std::vector<Subject> const& Subjects()
         {
             if (type.throughDomain == nullptr) continue;
             auto const full = FullRecord(type);
-            Subject subject{
-                type, FieldsOf(*full), FieldsOf(*UsedRecord(type)), FieldsOf(*Filled(type, RecordFiller::Zeros())),
-                {},   full->Fields()};
-            for (auto const& [id, field] : subject.full)
-            {
-                auto others = subject.full;
-                others.erase(id);
-                if (RecordOf(type, others) == nullptr) subject.required.push_back(id);
-            }
+            Subject subject{type,
+                            full->Fields(),
+                            {},
+                            {},
+                            UsedRecord(type),
+                            PartsOf(type, *full),
+                            PartsOf(type, *Filled(type, RecordFiller::Zeros())),
+                            WithGaps(type)};
+            for (auto const& part : subject.view.parts) subject.ids.insert(IdOf(part));
+            for (auto const id : subject.ids)
+                if (subject.full(subject.Without(id)) == nullptr) subject.required.insert(id);
             all.push_back(std::move(subject));
         }
         return all;
@@ -126,14 +161,13 @@ std::vector<Subject> const& Subjects()
 }
 
 /// Converts the records one after the other into one domain object, and gives what is written of that; a failure gives its
-/// message as the only part.
-View Through(RecordType const& type, std::vector<FieldBytes> const& records)
+/// message and no parts.
+View Through(RecordType const& type, std::vector<WireRecord const*> const& records)
 {
     auto const failure = [](std::string const& message) { return View{View::Kind::Text, message, {}}; };
     std::unique_ptr<DomainObject> domain;
-    for (auto const& fields : records)
+    for (auto const* const record : records)
     {
-        auto const record = RecordOf(type, fields);
         if (record == nullptr) return failure("a required field is missing");
         if (domain == nullptr) domain = type.makeDomain(*record);
         auto const result = type.convertToDomain(*record, *domain, Form::Checked);
@@ -248,6 +282,16 @@ Fields const Appended{
 /// With this field the destination is built anew.
 Fields const Rebuilding{{"Essence", "1"}, {"Tag", "2"}};
 
+/// Nested records that are converted into what the destination holds, which keeps what they lack.
+std::set<std::string> const PatchedInside{
+    "MultiviewerDataOverrides.1 playersData",
+    "PlayerState.7 pgmOnAir",
+    "PlayerState.8 previewOnAir",
+    "Playlist.3 sequence",
+    "PlayerStateChangedEventArgs.4 status",
+    "RecorderStateChangedEventArgs.4 status",
+};
+
 /// Where the views depart from a duty for a reason.
 struct Departure
 {
@@ -303,47 +347,74 @@ std::string Name(Subject const& subject, int const id)
     return std::string(subject.type.name) + '.' + std::ranges::find(parts, id, IdOf)->label;
 }
 
-/// The field with as few others as it takes to convert.
-FieldBytes Smallest(Subject const& subject, FieldBytes const& values, int const id)
+/// Lets third fields of nested records be those of `used`, where the records are converted into that.
+void KeepGaps(View& record, View const& used)
 {
-    auto const only = subject.Only(values, id);
-    if (!Through(subject.type, {only}).parts.empty()) return only;
-    for (auto const& [other, field] : values)
+    auto const keep = [](View& nested, View const& usedNested)
+    {
+        for (std::size_t i = 0; i < nested.parts.size(); ++i)
+            if (nested.parts[i].label.starts_with("3 ")) nested.parts[i] = usedNested.parts[i];
+        KeepGaps(nested, usedNested);
+    };
+    for (std::size_t i = 0; i < record.parts.size(); ++i)
+    {
+        auto& part = record.parts[i];
+        if (!PatchedInside.contains(record.text + '.' + part.label)) continue;
+        auto const& usedView = used.parts[i].view;
+        if (part.view.kind == View::Kind::Record) keep(part.view, usedView);
+        for (std::size_t j = 0; j < part.view.parts.size() && part.view.kind == View::Kind::Container; ++j)
+            keep(part.view.parts[j].view, usedView.parts[j].view);
+    }
+}
+
+bool Converts(Subject const& subject, Maker const& make, std::set<int> const& ids)
+{
+    return !Through(subject.type, {make(ids).get()}).parts.empty();
+}
+
+/// The field with as few others as it takes to convert.
+std::set<int> Smallest(Subject const& subject, Maker const& make, int const id)
+{
+    auto const only = subject.Only(id);
+    if (Converts(subject, make, only)) return only;
+    for (auto const other : subject.ids)
     {
         auto both = only;
-        both.emplace(other, field);
-        if (!Through(subject.type, {both}).parts.empty()) return both;
+        both.insert(other);
+        if (Converts(subject, make, both)) return both;
     }
-    return values;
+    return subject.ids;
 }
 
 /// Each field, converted into a used domain object: it is as in a new one, all others are as they were.
-void ExpectPatched(FieldBytes Subject::*const values, std::vector<Departure> const& departures)
+void ExpectPatched(Maker Subject::*const make, std::vector<Departure> const& departures)
 {
     Found found;
     for (auto const& subject : Subjects())
     {
         auto const& type = subject.type;
-        auto const before = Through(type, {subject.used});
-        for (auto const& [id, field] : subject.*values)
+        auto const before = Through(type, {subject.used.get()});
+        for (auto const id : subject.ids)
         {
-            auto const record = Smallest(subject, subject.*values, id);
-            auto const alone = Through(type, {record});
+            auto const there = Smallest(subject, subject.*make, id);
+            auto const record = (subject.*make)(there);
+            auto const alone = Through(type, {record.get()});
             auto expected = alone.parts.empty() ? alone : before;
-            auto actual = Through(type, {subject.used, record});
+            auto actual = Through(type, {subject.used.get(), record.get()});
             for (std::size_t i = 0; i < expected.parts.size(); ++i)
             {
                 auto& part = expected.parts[i];
                 auto const partId = IdOf(part);
-                auto const isThere = record.contains(partId);
-                if (isThere && Holds(Appended, type, partId))
+                if (there.contains(partId) && Holds(Appended, type, partId))
                 {
                     part.view = Append(part.view, alone.parts[i].view);
                     actual.parts.at(i).view = WithoutKeys(actual.parts.at(i).view);
                 }
-                else if (isThere || Holds(ReadRegardlessOfTheirFlags, type, partId) || Holds(Rebuilding, type, id))
+                else if (there.contains(partId) || Holds(ReadRegardlessOfTheirFlags, type, partId) ||
+                         Holds(Rebuilding, type, id))
                     part = alone.parts[i];
             }
+            if (make == &Subject::gaps) KeepGaps(expected, before);
             Compare(found, Name(subject, id), actual, expected);
         }
     }
@@ -378,28 +449,31 @@ TEST(Duty, ZeroThatIsThereReplacesWhatAUsedDomainObjectHolds)
          {"no more remains than there is", {"RecorderState.12 totalCapacity changes 11 remainingCapacity"}}});
 }
 
+TEST(Duty, NestedRecordReplacesWhatAUsedDomainObjectHolds)
+{
+    ExpectPatched(&Subject::gaps, {{"a new one each time", {"LiveCommandParams.1 commandGuid"}},
+                                   {"no rate without its denominator", {"Sequence.14 playRateNumerator"}},
+                                   {"an element whose tags grow", {"AudioVideoElement.9 element"}}});
+}
+
 TEST(Duty, RecordWithoutWhatItNeedsIsRefused)
 {
-    std::string text =
-        "Which fields of a full record do not convert alone, and without which it does not convert; 0 stands "
-        "for no field at all.\n\n";
+    std::string text = "Which fields of a full record do not convert alone, and without which it does not convert;\n"
+                       "0 stands for no field at all.\n\n";
     for (auto const& subject : Subjects())
     {
         std::map<std::string, std::string> alone;
         std::map<std::string, std::string> without;
-        auto const note =
-            [&subject](std::map<std::string, std::string>& refused, FieldBytes const& fields, int const id)
+        auto const note = [&](std::map<std::string, std::string>& refused, std::set<int> const& ids, int const id)
         {
-            auto const view = Through(subject.type, {fields});
+            auto const view = Through(subject.type, {subject.full(ids).get()});
             if (view.parts.empty()) refused[view.text] += ' ' + std::to_string(id);
         };
         note(alone, {}, 0);
-        for (auto const& [id, field] : subject.full)
+        for (auto const id : subject.ids)
         {
-            note(alone, subject.Only(subject.full, id), id);
-            auto others = subject.full;
-            others.erase(id);
-            note(without, others, id);
+            note(alone, subject.Only(id), id);
+            note(without, subject.Without(id), id);
         }
         for (auto const& [message, ids] : alone)
             text += std::string(subject.type.name) + ": " + message + "\n  alone  " + ids + "\n  without" +
@@ -552,12 +626,12 @@ TEST(Duty, ValuesComeBackFromTheBytesOfEachProtocol)
         std::vector<std::unique_ptr<DomainObject>> domains;
         domains.push_back(type.makeDomain(*type.make()));
         domains.push_back(FullDomain(type));
-        for (auto const& [id, field] : subject.full)
-            domains.push_back(Received(type, *RecordOf(type, Smallest(subject, subject.full, id))));
+        for (auto const id : subject.ids)
+            domains.push_back(Received(type, *subject.full(Smallest(subject, subject.full, id))));
         for (auto const& domain : domains) add(domain, Sent(type, *domain));
     }
     ExpectOnly(found,
-               {{"a negative code is not written", {"ClipCreationFailedEventArgs"}},
+               {{"the internal result is not written", {"ClipCreationFailedEventArgs"}},
                 {"the empty time code is written as its digits", {"RecordingRange"}},
                 {"the type of a channel is rebuilt", {"PlayerStateChangedEventArgs", "RecorderStateChangedEventArgs"}},
                 {"the identifier is not written", {"SetMultiviewerDataCommandParams"}}});
@@ -591,8 +665,8 @@ TEST(Duty, EnumerationNumberWithoutCounterpartIsReadAsZero)
             };
             auto const unknown = spoiled(12345);
             if (!DiffersInAnEnumeration(unknown->Fields(), full->Fields())) continue;
-            Compare(found, std::string(type.name), Through(type, {subject.used, FieldsOf(*unknown)}),
-                    Through(type, {subject.used, FieldsOf(*spoiled(0))}));
+            Compare(found, std::string(type.name), Through(type, {subject.used.get(), unknown.get()}),
+                    Through(type, {subject.used.get(), spoiled(0).get()}));
         }
     }
     ExpectOnly(found, {{"any other is the last kind of relative boundary",
