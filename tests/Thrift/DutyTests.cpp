@@ -423,11 +423,11 @@ void ExpectPatched(Maker Subject::*const make, std::vector<Departure> const& dep
 
 TEST(Duty, FieldThatIsThereReplacesWhatAUsedDomainObjectHolds)
 {
-    ExpectPatched(&Subject::full, {{"a new one each time", {"LiveCommandParams.1 commandGuid"}},
-                                   {"a number without counterpart is ignored",
-                                    {"PlayerDataOverrides.5 controlMode", "MultiviewerDataOverrides.1 playersData"}},
-                                   {"no rate without its denominator", {"Sequence.14 playRateNumerator"}},
-                                   {"an element whose tags grow", {"AudioVideoElement.9 element"}}});
+    ExpectPatched(&Subject::full,
+                  {{"a new one each time", {"LiveCommandParams.1 commandGuid"}},
+                   {"a number without counterpart is ignored", {"MultiviewerDataOverrides.1 playersData"}},
+                   {"no rate without its denominator", {"Sequence.14 playRateNumerator"}},
+                   {"an element whose tags grow", {"AudioVideoElement.9 element"}}});
 }
 
 TEST(Duty, ZeroThatIsThereReplacesWhatAUsedDomainObjectHolds)

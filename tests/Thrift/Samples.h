@@ -66,8 +66,9 @@ inline std::unique_ptr<Records::WireRecord> Sent(Records::RecordType const& type
 inline std::vector<std::int16_t> FullNumbers(std::string_view const name)
 {
     static std::map<std::string_view, std::vector<std::int16_t>> const others{
-        {"Sequence", {2, 1, 3}},        // a rate that is no fraction
-        {"OperationStatus", {3, 2, 1}}, // a failure, which has a result
+        {"Sequence", {2, 1, 3}},         // a rate that is no fraction
+        {"OperationStatus", {3, 2, 1}},  // a failure, which has a result
+        {"PlayerDataOverrides", {2, 1}}, // numbers that its enumerations have
     };
     auto const other = others.find(name);
     return other == others.end() ? std::vector<std::int16_t>{1, 2, 3} : other->second;
