@@ -1,6 +1,7 @@
 #include "records/RecordFiller.h"
 
 #include <array>
+#include <type_traits>
 #include <utility>
 
 namespace Talvo::Records
@@ -38,6 +39,13 @@ RecordFiller RecordFiller::OtherConvertible(std::vector<std::int16_t> numbers)
     return filler;
 }
 
+RecordFiller RecordFiller::Wide()
+{
+    auto filler = Convertible({0});
+    filler.isWide_ = true;
+    return filler;
+}
+
 RecordFiller RecordFiller::Zeros()
 {
     auto filler = Convertible({0});
@@ -57,13 +65,16 @@ RecordFiller::Spoiled const* RecordFiller::NextSpoiled()
     return spoiled == spoiled_.end() ? nullptr : &spoiled->second;
 }
 
-bool RecordFiller::ReadConvertible(auto& value)
+bool RecordFiller::ReadConvertible(auto& value, std::int64_t const wide)
 {
     if (numbers_.empty()) return false;
     // The first number tells records beside each other apart; the others are the same wherever such a record stands.
     auto& record = open_.back();
     auto const index = record.numbers++ == 0 ? record.place : record.numbers - 1;
-    auto const number = numbers_[index % numbers_.size()];
+    using Number = std::remove_reference_t<decltype(value)>;
+    auto const ordinal = static_cast<std::int64_t>(index + 1);
+    auto const number =
+        isWide_ ? static_cast<Number>(wide * ordinal) : static_cast<Number>(numbers_[index % numbers_.size()]);
     auto const* const spoiled = NextSpoiled();
     value = spoiled != nullptr ? spoiled->number : number;
     return true;
@@ -164,19 +175,19 @@ std::uint32_t RecordFiller::readBool(std::vector<bool>::reference value)
 
 std::uint32_t RecordFiller::readI16(std::int16_t& value)
 {
-    if (!ReadConvertible(value)) value = static_cast<std::int16_t>(-++count_);
+    if (!ReadConvertible(value, -0x101)) value = static_cast<std::int16_t>(-++count_);
     return 0;
 }
 
 std::uint32_t RecordFiller::readI32(std::int32_t& value)
 {
-    if (!ReadConvertible(value)) value = 0x10001 * ++count_;
+    if (!ReadConvertible(value, -0x10001)) value = 0x10001 * ++count_;
     return 0;
 }
 
 std::uint32_t RecordFiller::readI64(std::int64_t& value)
 {
-    if (!ReadConvertible(value)) value = -0x100000001 * ++count_;
+    if (!ReadConvertible(value, -0x100000001)) value = -0x100000001 * ++count_;
     return 0;
 }
 

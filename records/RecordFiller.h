@@ -39,6 +39,9 @@ public:
     /// The same with other texts, and with yes for no.
     static RecordFiller OtherConvertible(std::vector<std::int16_t> numbers);
 
+    /// The same with negative numbers that need all their bytes, no two of a record alike.
+    static RecordFiller Wide();
+
     /// Fills a record with zeros, empty texts and empty containers, all of them there.
     static RecordFiller Zeros();
 
@@ -101,8 +104,8 @@ private:
 
     /// What the value that is read next is spoiled with, or null.
     Spoiled const* NextSpoiled();
-    /// The next number, where converters take it.
-    bool ReadConvertible(auto& value);
+    /// The next number, where converters take it; `wide` if that is asked for.
+    bool ReadConvertible(auto& value, std::int64_t wide);
 
     Filter offered_;
     std::vector<OpenRecord> open_;
@@ -111,6 +114,7 @@ private:
     std::vector<std::int16_t> numbers_; ///< Empty: distinct values.
     std::int16_t leftOutInside_ = 0;
     bool isOther_ = false;
+    bool isWide_ = false;
     bool isZero_ = false;
     std::size_t values_ = 0;
     std::vector<std::size_t> ownValues_;

@@ -1,5 +1,6 @@
 // What is written of each record that converts to the wire is the text sent-records.txt beside this file: from a new domain
-// object, from a full one, and from one that was received from as few fields as it takes.
+// object, from a full one, from one of numbers that need all their bytes, where such a record converts, and from one that
+// was received from as few fields as it takes.
 
 #include "tests/Thrift/Samples.h"
 
@@ -59,7 +60,7 @@ void AddPart(std::vector<std::string>& lines, Part const& part, std::string cons
     {
         if (!shortest || offered.size() < shortest->size()) shortest = std::move(offered);
     };
-    for (auto const* const state : {", new", ", full"})
+    for (auto const* const state : {", new", ", full", ", wide"})
     {
         auto const block = blocks.find(part.view.text + state);
         if (part.view.kind != View::Kind::Record || block == blocks.end()) continue;
@@ -85,6 +86,12 @@ void AddLines(std::vector<std::string>& lines, View const& view, std::string con
     for (auto const& part : view.parts) AddPart(lines, part, indentation, blocks);
 }
 
+bool Converts(RecordType const& type, WireRecord const& record)
+{
+    auto const domain = type.makeDomain(record);
+    return type.convertToDomain(record, *domain, Form::Checked).success;
+}
+
 /// What is received from the fields of a full record with these ids, or null where they do not convert.
 std::unique_ptr<DomainObject> ReceivedFrom(RecordType const& type, std::set<std::int16_t> const& ids)
 {
@@ -99,8 +106,7 @@ std::unique_ptr<DomainObject> ReceivedFrom(RecordType const& type, std::set<std:
     {
         return nullptr; // a required field is missing
     }
-    auto domain = type.makeDomain(*record);
-    return type.convertToDomain(*record, *domain, Form::Checked).success ? std::move(domain) : nullptr;
+    return Converts(type, *record) ? Received(type, *record) : nullptr;
 }
 
 /// What is received from the fields without which a full record does not convert, and from one more if that takes one.
@@ -148,6 +154,8 @@ TEST(SentRecords, AreAsRecorded)
         blocks[name + ", new"] = SentOf(type, [&type] { return type.makeDomain(*type.make()); });
         if (!type.toDomain) continue;
         blocks[name + ", full"] = SentOf(type, [&type] { return FullDomain(type); });
+        if (auto const wide = Filled(type, RecordFiller::Wide()); Converts(type, *wide))
+            blocks[name + ", wide"] = SentOf(type, [&] { return Received(type, *wide); });
         blocks[name + ", bare"] = SentOf(type, [&type] { return BareDomain(type); });
     }
 
