@@ -3,8 +3,9 @@
 
 #include "Domain/HighLevelOperations/Commands/CommandParams.h"
 #include "Thrift/TryTo.h"
-#include "tests/schema/RecordFiller.h"
-#include "tools/records/All.h"
+#include "records/All.h"
+#include "records/NewDomain.h"
+#include "records/RecordFiller.h"
 
 #include <cstdint>
 #include <memory>
@@ -30,20 +31,20 @@ struct Sample
 
 /// The full sample of a record: of a few numbers that every field may hold, those with which most of it travels. What
 /// a record carries hangs on its numbers: clips go with results that succeeded, a video standard with its rates.
-template<typename TWire, typename TToWire, typename TToDomain, typename TDomain, TDomain (*newDomain)(TWire const&)>
+template<typename TPair, typename TWire = typename TPair::Wire, typename TDomain = typename TPair::Domain>
 Sample<TWire, TDomain> FullSample(std::string const& name)
 {
     Sample<TWire, TDomain> fullest;
     for (auto const& numbers : {std::vector<std::int16_t>{1}, {2}, {1, 2, 3}})
     {
-        auto filler = Tests::RecordFiller::Convertible(numbers);
+        auto filler = Records::RecordFiller::Convertible(numbers);
         TWire filled;
         filled.read(&filler);
 
-        auto const domain = std::make_shared<TDomain>(newDomain(filled));
+        auto const domain = std::make_shared<TDomain>(Records::NewDomain<TDomain>(filled));
         auto const wire = std::make_shared<TWire>();
-        if (!Corvane::Zelmar::Serialization::Thrift::TryTo(TToDomain(), filled, *domain).success ||
-            !TToWire().To(ReadableAgain(*domain), *wire).success)
+        if (!Corvane::Zelmar::Serialization::Thrift::TryTo(typename TPair::ToDomain(), filled, *domain).success ||
+            !typename TPair::ToWire().To(ReadableAgain(*domain), *wire).success)
             continue;
 
         WireProtocol protocol(std::make_shared<WireBuffer>());
@@ -56,26 +57,28 @@ Sample<TWire, TDomain> FullSample(std::string const& name)
 
 /// What makes new destinations. New command parameters draw an identifier, which takes longer than most conversions: a
 /// copy of new ones serves as well, and leaves that to be measured by itself.
-template<typename TWire, typename TDomain>
-auto NewDestination(TDomain (*newDomain)(TWire const&), std::shared_ptr<TWire const> const& wire)
+template<typename TDomain, typename TWire>
+auto NewDestination(std::shared_ptr<TWire const> const& wire)
 {
     if constexpr (std::is_base_of_v<Corvane::Zelmar::HighLevelOperations::Commands::CommandParams, TDomain>)
-        return [fresh = newDomain(*wire)] { return fresh; };
+        return [fresh = Records::NewDomain<TDomain>(*wire)] { return fresh; };
     else
-        return [newDomain, wire] { return newDomain(*wire); };
+        return [wire] { return Records::NewDomain<TDomain>(*wire); };
 }
 
-template<typename TWire, typename TToWire, typename TToDomain, typename TDomain, TDomain (*newDomain)(TWire const&)>
-void Add(Tools::Record<TWire, TToWire, TToDomain, TDomain, newDomain> const& record)
+template<typename TPair>
+void Add(TPair, std::string const& name)
 {
-    if constexpr (!std::is_void_v<TToWire> && !std::is_void_v<TToDomain>)
+    using ToWire = typename TPair::ToWire;
+    using ToDomain = typename TPair::ToDomain;
+    if constexpr (!std::is_void_v<ToWire> && !std::is_void_v<ToDomain>)
     {
-        std::string const name(record.name);
-        auto const sample = FullSample<TWire, TToWire, TToDomain, TDomain, newDomain>(name);
-        AddToWire<TToWire, TWire>("every/" + name + "/toWire", sample.domain);
+        auto const sample = FullSample<TPair>(name);
+        AddToWire<ToWire, typename TPair::Wire>("every/" + name + "/toWire", sample.domain);
         AddCopy("every/" + name + "/copy", sample.wire);
         AddWrite("every/" + name + "/write", sample.wire);
-        AddToDomain<TToDomain>("every/" + name + "/fromWire", sample.wire, NewDestination(newDomain, sample.wire));
+        AddToDomain<ToDomain>("every/" + name + "/fromWire", sample.wire,
+                              NewDestination<typename TPair::Domain>(sample.wire));
         AddRead("every/" + name + "/read", sample.wire);
     }
 }
@@ -84,7 +87,7 @@ void Add(Tools::Record<TWire, TToWire, TToDomain, TDomain, newDomain> const& rec
 
 void AddEveryRecord()
 {
-    Tools::ForEachRecord([](auto const& record, auto) { Add(record); });
+    Records::ForEachRecord([](auto const pair, auto const name, auto) { Add(pair, std::string(name)); });
 }
 
 } // namespace Talvo::Benchmarks

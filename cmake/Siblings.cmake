@@ -14,7 +14,7 @@ if(TALVO_EXTERNAL_SIBLINGS)
     # Includes start from a folder without Domain/: a header that a sibling lacks is an error, not silently the stand-in's.
     set(TALVO_INCLUDE_ROOT ${PROJECT_BINARY_DIR}/include)
     file(MAKE_DIRECTORY ${TALVO_INCLUDE_ROOT})
-    foreach(folder Common TimePoints Thrift tools tests benchmarks fuzz)
+    foreach(folder Common TimePoints Thrift records tools tests benchmarks fuzz)
         file(CREATE_LINK ${PROJECT_SOURCE_DIR}/${folder} ${TALVO_INCLUDE_ROOT}/${folder} SYMBOLIC)
     endforeach()
 else()

@@ -7,7 +7,6 @@
 #include "tools/Failure.h"
 #include "tools/FieldList.h"
 #include "tools/Protocols.h"
-#include "tools/RecordTypes.h"
 
 #include <algorithm>
 #include <array>
@@ -97,9 +96,15 @@ bool LosesOnTheWayBack(WireRecord const& record, RecordType const& type)
     return std::ranges::any_of(fields, isLost);
 }
 
+bool Converts(RecordType const& type, WireRecord const& record)
+{
+    auto const domain = type.makeDomain(record);
+    return type.convertToDomain(record, *domain, Talvo::Records::Form::Checked).success;
+}
+
 bool BecomesTheSame(WireRecord const& left, WireRecord const& right, RecordType const& type)
 {
-    return type.sameDomain == nullptr || !type.toDomainChecked(right).success || type.sameDomain(left, right);
+    return type.equal == nullptr || !Converts(type, right) || SameDomain(type, left, right);
 }
 
 [[noreturn]] void Report(RecordType const& type, char const* const finding)

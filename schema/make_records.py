@@ -11,6 +11,10 @@ The Thrift compiler does most of the work. This step finishes what it leaves ope
   <file>_types.cpp     printing of records and enumerations, fingerprints and the constants object are appended
   <file>_constants.h   the class <file>Constants and the object g_<file>_constants
 
+and one header for all of them, which is never installed:
+
+  RecordFields.h       visits all records, and the fields of a record with their flags
+
 An output file is rewritten only when its text changes. Whatever is not as expected ends the step with one line on
 stderr and exit code 1, so that no half-finished record is ever compiled.
 """
@@ -203,6 +207,56 @@ extern const {schema.name}Constants g_{schema.name}_constants;
 """
 
 
+def fields_header(schemas):
+    """A view of all records for internal use: their fields with flags, and their names."""
+    includes, views, records = [], [], []
+    for schema in schemas.values():
+        includes.append(f'#include "generated/{schema.name}_types.h"\n')
+        for record, fields in schema.records.items():
+            visits = []
+            for field in fields:
+                name = field.get("name")
+                flag = "true" if field.get("required") == "required" else f"record.__isset.{name}"
+                visits.append(f'    visit({field.get("field-id")}, "{name}", {flag}, record.{name});\n')
+            views.append(f"""\
+constexpr char const* NameOf(::{schema.namespace}::{record} const&)
+{{
+    return "{record}";
+}}
+
+template<typename TVisit>
+void VisitFields([[maybe_unused]] ::{schema.namespace}::{record} const& record, [[maybe_unused]] TVisit&& visit)
+{{
+{''.join(visits)}}}
+""")
+            group = schema.namespace.removesuffix("::Generated").rpartition("::")[2]
+            records.append((schema.namespace, record, group))
+    visits = [f'    visit(std::type_identity<::{namespace}::{record}>(), "{record}", "{group}");\n'
+              for namespace, record, group in sorted(records)]
+    return f"""\
+#ifndef TALVO_RECORD_FIELDS_H
+#define TALVO_RECORD_FIELDS_H
+
+{''.join(includes)}
+#include <type_traits>
+
+namespace Talvo::Records {{
+
+// Calls visit(id, name, flag, value) for each field, in the order of the schema; the flag of a required field is true.
+
+{chr(10).join(views)}
+// Calls visit(type_identity, name, group) for each record, by namespace and name.
+template<typename TVisit>
+void VisitRecords(TVisit&& visit)
+{{
+{''.join(visits)}}}
+
+}} // namespace
+
+#endif
+"""
+
+
 def run_compiler(thrift, generator, folder, schema_file):
     command = [thrift, "--gen", generator, "-out", str(folder), str(schema_file)]
     try:
@@ -247,6 +301,7 @@ def make_records(thrift, schema_files, output):
             texts[f"{name}_types.tcc"] = read_text(scratch / f"{name}_types.tcc")
             texts[f"{name}_types.cpp"] = finish_source(schemas, schema, read_text(scratch / f"{name}_types.cpp"))
             texts[f"{name}_constants.h"] = constants_header(schema)
+        texts["RecordFields.h"] = fields_header(schemas)
 
     try:
         output.mkdir(parents=True, exist_ok=True)

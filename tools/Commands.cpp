@@ -5,7 +5,6 @@
 #include "tools/FieldList.h"
 #include "tools/Files.h"
 #include "tools/Json.h"
-#include "tools/RecordTypes.h"
 
 #include <cstdint>
 #include <iomanip>

@@ -117,22 +117,6 @@ FieldList List(WireRecord const& record, PathSet const* held)
 
 } // namespace
 
-std::string Escaped(std::string_view const bytes)
-{
-    static constexpr char Digits[] = "0123456789abcdef";
-    std::string text;
-    for (char const byte : bytes)
-    {
-        if (byte == '"' || byte == '\\')
-            text += {'\\', byte};
-        else if (byte >= ' ' && byte <= '~')
-            text += byte;
-        else
-            text += {'\\', 'x', Digits[static_cast<unsigned char>(byte) >> 4U], Digits[byte & 0xF]};
-    }
-    return text;
-}
-
 std::string ValueText(Value const& value)
 {
     return std::visit(

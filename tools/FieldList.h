@@ -1,7 +1,7 @@
 #pragma once
 
+#include "records/RecordView.h"
 #include "tools/Protocols.h"
-#include "tools/RecordType.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -41,8 +41,7 @@ struct FieldList
     std::unordered_map<std::string, std::optional<std::size_t>> containers;
 };
 
-/// Printable ASCII: `\x1f` for every other byte, `\"` and `\\` for those two.
-std::string Escaped(std::string_view bytes);
+using Records::Escaped;
 
 /// A value as text: texts are escaped and stand in quotes.
 std::string ValueText(Value const& value);

@@ -2,7 +2,6 @@
 
 #include "tools/Changes.h"
 #include "tools/FieldList.h"
-#include "tools/RecordType.h"
 
 #include <nlohmann/json.hpp>
 

@@ -12,6 +12,7 @@
 #include <thrift/protocol/TProtocolTap.h>
 #include <thrift/transport/TBufferTransports.h>
 
+#include <algorithm>
 #include <array>
 #include <new>
 #include <utility>
@@ -234,6 +235,15 @@ bool OnlyBlanks(std::string_view rest)
 }
 
 } // namespace
+
+RecordType const& FindRecordType(std::string_view const name)
+{
+    auto const& types = RecordTypes();
+    auto const found = std::ranges::find(types, name, &RecordType::name);
+    if (found == types.end())
+        throw Failure("there is no record '" + std::string(name) + "'; talvo-wire list names them all");
+    return *found;
+}
 
 Protocol ParseProtocol(std::string_view name)
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/RecordType.h"
+#include "records/RecordType.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -11,6 +11,13 @@
 
 namespace Talvo::Tools
 {
+
+using Records::RecordType;
+using Records::RecordTypes;
+using Records::WireRecord;
+
+/// The record type of that name. Throws Failure if there is none.
+RecordType const& FindRecordType(std::string_view name);
 
 enum class Protocol
 {

@@ -27,9 +27,9 @@
 #include "generated/PlayerStateChangedEA_types.h"
 #include "generated/Playlist_types.h"
 #include "generated/UpdatePlaylistsCommandParams_types.h"
+#include "records/RecordFiller.h"
+#include "records/RecordType.h"
 #include "tests/Thrift/RoundTrip.h"
-#include "tests/schema/RecordFiller.h"
-#include "tools/RecordTypes.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -55,8 +55,11 @@ namespace
 {
 
 using namespace Corvane::Zelmar::Serialization::Thrift;
-using Tools::RecordType;
-using Tools::RecordTypes;
+using Records::Form;
+using Records::RecordFiller;
+using Records::RecordType;
+using Records::RecordTypes;
+using Records::WireRecord;
 
 namespace WireClips = Data::Clips::Generated;
 namespace WireSequences = Data::Sequences::Generated;
@@ -76,8 +79,15 @@ std::ostream& operator<<(std::ostream& out, Outcome const& outcome)
     return out << (outcome.ended ? "ended" : outcome.success ? "success" : "failure") << ": " << outcome.message;
 }
 
+/// Converts into a newly built domain object.
+Common::Serialization::ConversionResult ToNewDomain(RecordType const& type, WireRecord const& record, Form const form)
+{
+    auto const domain = type.makeDomain(record);
+    return type.convertToDomain(record, *domain, form);
+}
+
 /// Converts with `To` in a process of its own, which answers through a pipe.
-Outcome Unchecked(RecordType const& type, Tools::WireRecord const& record)
+Outcome Unchecked(RecordType const& type, WireRecord const& record)
 {
     static std::array<int, 2> pipeEnds{};
     EXPECT_EQ(pipe(pipeEnds.data()), 0);
@@ -102,7 +112,7 @@ Outcome Unchecked(RecordType const& type, Tools::WireRecord const& record)
                     send(error.what(), 2);
                 }
             });
-        auto const result = type.toDomainUnchecked(record);
+        auto const result = ToNewDomain(type, record, Form::Constant);
         send(result.message, result.success ? 0 : 1);
     }
     close(pipeEnds[1]);
@@ -139,11 +149,11 @@ protected:
             return; // without a field that is required
         }
 
-        auto const checked = type.toDomainChecked(*record);
+        auto const checked = ToNewDomain(type, *record, Form::Checked);
         ++compared;
         if (checked.success)
         {
-            EXPECT_TRUE(type.toDomainUnchecked(*record).success); // would end this process
+            EXPECT_TRUE(ToNewDomain(type, *record, Form::Constant).success); // would end this process
             return;
         }
         auto const unchecked = Unchecked(type, *record);

@@ -1,6 +1,5 @@
-#include "tests/schema/RecordFiller.h"
+#include "records/RecordFiller.h"
 #include "tools/Protocols.h"
-#include "tools/RecordTypes.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -39,7 +38,7 @@ std::vector<Input> Inputs()
         {
             if (type.throughDomain == nullptr) continue;
             auto record = type.make();
-            auto filler = Talvo::Tests::RecordFiller::Convertible(numbers);
+            auto filler = Talvo::Records::RecordFiller::Convertible(numbers);
             record->Read(filler);
             inputs.push_back({&type, std::move(record)});
         }
@@ -51,7 +50,7 @@ std::string Result(Input const& input)
 {
     auto const trip = input.type->throughDomain(*input.record);
     if (trip.record == nullptr) return std::string(trip.toWire ? trip.toWire->message : trip.toDomain.message);
-    auto const same = input.type->sameDomain == nullptr || input.type->sameDomain(*input.record, *trip.record);
+    auto const same = input.type->equal == nullptr || SameDomain(*input.type, *input.record, *trip.record);
     return (same ? "came back as " : "came back changed as ") + Encode(*trip.record, Protocol::Binary);
 }
 

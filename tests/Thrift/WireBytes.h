@@ -1,5 +1,7 @@
 #pragma once
 
+#include "records/RecordType.h"
+
 #include <thrift/protocol/TBinaryProtocol.h>
 #include <thrift/protocol/TCompactProtocol.h>
 #include <thrift/protocol/TJSONProtocol.h>
@@ -32,6 +34,23 @@ std::string Written(TRecord const& record, apache::thrift::protocol::TProtocolFa
     auto const buffer = std::make_shared<apache::thrift::transport::TMemoryBuffer>();
     record.write(protocols.getProtocol(buffer).get());
     return buffer->getBufferAsString();
+}
+
+// The same of a record whose type is known by its name only.
+inline std::string WrittenBytes(Records::WireRecord const& record,
+                                apache::thrift::protocol::TProtocolFactory& protocols)
+{
+    auto const buffer = std::make_shared<apache::thrift::transport::TMemoryBuffer>();
+    record.Write(*protocols.getProtocol(buffer));
+    return buffer->getBufferAsString();
+}
+
+inline void ReadBytes(std::string_view const bytes, apache::thrift::protocol::TProtocolFactory& protocols,
+                      Records::WireRecord& record)
+{
+    auto const buffer = std::make_shared<apache::thrift::transport::TMemoryBuffer>();
+    buffer->write(reinterpret_cast<std::uint8_t const*>(bytes.data()), static_cast<std::uint32_t>(bytes.size()));
+    record.Read(*protocols.getProtocol(buffer));
 }
 
 template<typename TRecord>

@@ -2,7 +2,6 @@
 // with the bytes of that record as it is written again, in binary and, behind a blank, in compact.
 
 #include "tools/Protocols.h"
-#include "tools/RecordTypes.h"
 
 #include <cstddef>
 #include <iostream>

@@ -1,4 +1,4 @@
-#include "tests/schema/AnyRecord.h"
+#include "records/RecordType.h"
 
 #include "generated/Clip_constants.h"
 #include "generated/Clip_types.h"
@@ -36,7 +36,7 @@ TEST(RecordShape, HasThePublishedFingerprints)
     std::ifstream file(TALVO_FINGERPRINTS);
     for (std::string fingerprint, name; file >> fingerprint >> name;) published[name] = fingerprint;
     EXPECT_EQ(published.size(), 113U);
-    for (auto const& type : AllRecordTypes())
+    for (auto const& type : Records::RecordTypes())
     {
         auto const& fingerprint = fingerprints[std::string(type.name)] = type.asciiFingerprint;
         for (std::size_t i = 0; i < type.binaryFingerprint.size(); ++i)
@@ -49,7 +49,7 @@ TEST(RecordShape, HasThePublishedFingerprints)
 TEST(RecordShape, HasFlagsUnlessAllFieldsAreRequired)
 {
     std::set<std::string_view> withoutFlags;
-    for (auto const& type : AllRecordTypes())
+    for (auto const& type : Records::RecordTypes())
         if (!type.hasFlags) withoutFlags.insert(type.name);
     EXPECT_THAT(withoutFlags, ElementsAre("Angle", "AnglesGroup", "AnglesGroupCreationEventArgs",
                                           "AnglesGroupCreationFailedEventArgs", "AnglesGroupCreationFinishedEventArgs",

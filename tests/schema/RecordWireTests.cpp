@@ -1,5 +1,5 @@
-#include "tests/schema/AnyRecord.h"
-#include "tests/schema/RecordFiller.h"
+#include "records/RecordFiller.h"
+#include "records/RecordType.h"
 
 #include "generated/Clip_types.h"
 #include "generated/GetClipsCommandReply_types.h"
@@ -20,12 +20,13 @@ namespace
 
 using namespace Talvo::Corvane::Data::Generated;
 using namespace Talvo::Corvane::Zelmar::Serialization::Thrift;
+using namespace Records;
 using namespace apache::thrift::protocol;
 using apache::thrift::transport::TMemoryBuffer;
 using testing::Pair;
 
 /// Writes the record, reads it back and compares, through each protocol.
-void ExpectRoundTrips(RecordType const& type, AnyRecord const& record, std::string_view what)
+void ExpectRoundTrips(RecordType const& type, WireRecord const& record, std::string_view what)
 {
     for (auto const& protocol : Protocols())
     {
@@ -35,13 +36,13 @@ void ExpectRoundTrips(RecordType const& type, AnyRecord const& record, std::stri
         auto const back = type.make();
         record.Write(*protocol->getProtocol(buffer));
         ASSERT_NO_THROW(back->Read(*protocol->getProtocol(buffer)));
-        EXPECT_TRUE(*back == record) << record.Text() << "\n" << back->Text();
+        EXPECT_TRUE(*back == record) << record.Printed() << "\n" << back->Printed();
         EXPECT_EQ(buffer->available_read(), 0U);
     }
 }
 
 /// Whether the record can be read from the fields that the filter offers; otherwise a required one is missing.
-bool CanBeRead(AnyRecord& record, RecordFiller::Filter const& offered)
+bool CanBeRead(WireRecord& record, RecordFiller::Filter const& offered)
 {
     RecordFiller filler(offered);
     try
@@ -65,7 +66,7 @@ T RoundTrip(T const& record, TProtocolFactory& protocol)
 TEST(RecordWire, CarriesEveryRecordEmptyAndFull)
 {
     std::size_t fields = 0;
-    for (auto const& type : AllRecordTypes())
+    for (auto const& type : RecordTypes())
     {
         auto const empty = type.make();
         ExpectRoundTrips(type, *empty, "empty");
@@ -76,7 +77,7 @@ TEST(RecordWire, CarriesEveryRecordEmptyAndFull)
         fields += filler.FieldIds().size();
         ExpectRoundTrips(type, *full, "full");
         EXPECT_FALSE(*full == *empty) << type.name;
-        EXPECT_EQ(full->Text().find("<null>"), std::string::npos) << full->Text();
+        EXPECT_EQ(full->Printed().find("<null>"), std::string::npos) << full->Printed();
     }
     EXPECT_EQ(fields, 457U); // of all 113 records
 }
@@ -84,7 +85,7 @@ TEST(RecordWire, CarriesEveryRecordEmptyAndFull)
 TEST(RecordWire, CarriesEveryFieldAloneAndMissesTheRequiredOnes)
 {
     std::map<std::string_view, std::size_t> required;
-    for (auto const& type : AllRecordTypes())
+    for (auto const& type : RecordTypes())
     {
         RecordFiller filler;
         type.make()->Read(filler);

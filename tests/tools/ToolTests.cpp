@@ -2,7 +2,6 @@
 #include "tools/Failure.h"
 #include "tools/FieldList.h"
 #include "tools/Protocols.h"
-#include "tools/RecordTypes.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

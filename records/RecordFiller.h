@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-namespace Talvo::Tests
+namespace Talvo::Records
 {
 
 /// A protocol that makes up what a record's read asks for: reading a record from it fills the record.
@@ -30,16 +30,32 @@ public:
 
     explicit RecordFiller(Filter offered = [](std::int16_t) { return true; });
 
-    /// Fills a record that converters take: with `numbers` in turn, and with texts that are time codes, no two alike in
-    /// the first sixteen characters, which become identifiers.
+    /// Fills a record that converters take: with `numbers` in turn, with yes and no in turn, and with texts that are time
+    /// codes, no two of a record alike in the first eight characters, which become identifiers. A record is filled in the
+    /// same way wherever it stands, but for its first number and its first text.
     static RecordFiller Convertible(
         std::vector<std::int16_t> numbers, Filter offered = [](std::int16_t) { return true; });
+
+    /// The same with other texts, and with yes for no.
+    static RecordFiller OtherConvertible(std::vector<std::int16_t> numbers);
+
+    /// The same with negative numbers that need all their bytes, no two of a record alike.
+    static RecordFiller Wide();
+
+    /// Fills a record with zeros, empty texts and empty containers, all of them there.
+    static RecordFiller Zeros();
+
+    /// Nested records lack the field of that id.
+    void LeaveOutInside(std::int16_t const id) { leftOutInside_ = id; }
 
     /// One of the values that converters take, the first being 0, becomes this text or number. Several may be spoiled.
     void Spoil(std::size_t value, std::string text, std::int16_t number);
 
     /// How many numbers and texts were read that converters take.
     std::size_t Values() const { return values_; }
+
+    /// Those of them that stand in the outermost record and in the records that it holds, not deeper.
+    std::vector<std::size_t> const& OwnValues() const { return ownValues_; }
 
     /// The field ids of the outermost record that were read.
     std::set<std::int16_t> const& FieldIds() const { return fieldIds_; }
@@ -72,6 +88,12 @@ private:
         std::int16_t id = 0;
         std::int16_t lastOwn = 0; ///< The last field id that was read, or held back.
         bool skipped = false;
+        std::size_t place = 0;   ///< Among the records beside it, from 1 on; 0 of the outermost one.
+        std::size_t records = 0; ///< What was read so far: nested records,
+        std::size_t numbers = 0; ///< numbers,
+        std::size_t booleans = 0;
+        std::size_t texts = 0;
+        bool hasText = false; ///< Of its own, or of a nested one.
     };
 
     struct Spoiled
@@ -82,17 +104,21 @@ private:
 
     /// What the value that is read next is spoiled with, or null.
     Spoiled const* NextSpoiled();
-    /// The next number, where converters take it.
-    bool ReadConvertible(auto& value);
+    /// The next number, where converters take it; `wide` if that is asked for.
+    bool ReadConvertible(auto& value, std::int64_t wide);
 
     Filter offered_;
     std::vector<OpenRecord> open_;
     std::set<std::int16_t> fieldIds_;
     std::int16_t count_ = 0;
     std::vector<std::int16_t> numbers_; ///< Empty: distinct values.
-    std::size_t nextNumber_ = 0;
+    std::int16_t leftOutInside_ = 0;
+    bool isOther_ = false;
+    bool isWide_ = false;
+    bool isZero_ = false;
     std::size_t values_ = 0;
+    std::vector<std::size_t> ownValues_;
     std::map<std::size_t, Spoiled> spoiled_;
 };
 
-} // namespace Talvo::Tests
+} // namespace Talvo::Records

@@ -1,0 +1,199 @@
+#pragma once
+
+#include "records/Pairs.h"
+
+#include "Domain/HighLevelOperations/Commands/AnglesGroupCommandReply.h"
+#include "Domain/HighLevelOperations/Commands/ChainCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/ChannelCommandReply.h"
+#include "Domain/HighLevelOperations/Commands/ClipCommandReply.h"
+#include "Domain/HighLevelOperations/Commands/ClipResultsItem.h"
+#include "Domain/HighLevelOperations/Commands/CreateAnglesGroupCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/CreateClipsCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/CreatePlaylistsCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/DeleteAnglesGroupCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/DeleteClipsCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/DeletePlaylistsCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/DialCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/FailureReply.h"
+#include "Domain/HighLevelOperations/Commands/GetAnglesGroupsCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/GetAnglesGroupsCommandReply.h"
+#include "Domain/HighLevelOperations/Commands/GetChannelsCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/GetChannelsCommandReply.h"
+#include "Domain/HighLevelOperations/Commands/GetClipsCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/GetClipsCommandReply.h"
+#include "Domain/HighLevelOperations/Commands/GetMultiviewerDataCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/GetMultiviewerDataCommandReply.h"
+#include "Domain/HighLevelOperations/Commands/GetPlaylistsCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/GetPlaylistsCommandReply.h"
+#include "Domain/HighLevelOperations/Commands/GetServersCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/GetServersCommandReply.h"
+#include "Domain/HighLevelOperations/Commands/GetTrainsCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/GetTrainsCommandReply.h"
+#include "Domain/HighLevelOperations/Commands/GoIdleCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/LiveCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/LoadClipsCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/LoadSequencesCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/PingCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/PlayCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/PlaylistCommandReply.h"
+#include "Domain/HighLevelOperations/Commands/PlaylistResultsItem.h"
+#include "Domain/HighLevelOperations/Commands/SetLoadBoundariesCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/SetMultiviewerDataCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/StartCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/StepCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/StopCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/SuccessReply.h"
+#include "Domain/HighLevelOperations/Commands/SyncCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/UnknownCommandReply.h"
+#include "Domain/HighLevelOperations/Commands/UpdateAnglesGroupCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/UpdateClipsCommandParams.h"
+#include "Domain/HighLevelOperations/Commands/UpdatePlaylistsCommandParams.h"
+#include "Thrift/Commands/FromAnglesGroupCommandReply.h"
+#include "Thrift/Commands/FromChainCommandParams.h"
+#include "Thrift/Commands/FromChannelCommandReply.h"
+#include "Thrift/Commands/FromClipCommandReply.h"
+#include "Thrift/Commands/FromClipResultsItem.h"
+#include "Thrift/Commands/FromCreateAnglesGroupCommandParams.h"
+#include "Thrift/Commands/FromCreateClipsCommandParams.h"
+#include "Thrift/Commands/FromCreatePlaylistsCommandParams.h"
+#include "Thrift/Commands/FromDeleteAnglesGroupCommandParams.h"
+#include "Thrift/Commands/FromDeleteClipsCommandParams.h"
+#include "Thrift/Commands/FromDeletePlaylistsCommandParams.h"
+#include "Thrift/Commands/FromDialCommandParams.h"
+#include "Thrift/Commands/FromFailureReply.h"
+#include "Thrift/Commands/FromGetAnglesGroupsCommandParams.h"
+#include "Thrift/Commands/FromGetAnglesGroupsCommandReply.h"
+#include "Thrift/Commands/FromGetChannelsCommandParams.h"
+#include "Thrift/Commands/FromGetChannelsCommandReply.h"
+#include "Thrift/Commands/FromGetClipsCommandParams.h"
+#include "Thrift/Commands/FromGetClipsCommandReply.h"
+#include "Thrift/Commands/FromGetMultiviewerDataCommandParams.h"
+#include "Thrift/Commands/FromGetMultiviewerDataCommandReply.h"
+#include "Thrift/Commands/FromGetPlaylistsCommandParams.h"
+#include "Thrift/Commands/FromGetPlaylistsCommandReply.h"
+#include "Thrift/Commands/FromGetServersCommandParams.h"
+#include "Thrift/Commands/FromGetServersCommandReply.h"
+#include "Thrift/Commands/FromGetTrainsCommandParams.h"
+#include "Thrift/Commands/FromGetTrainsCommandReply.h"
+#include "Thrift/Commands/FromGoIdleCommandParams.h"
+#include "Thrift/Commands/FromLiveCommandParams.h"
+#include "Thrift/Commands/FromLoadClipsCommandParams.h"
+#include "Thrift/Commands/FromLoadSequencesCommandParams.h"
+#include "Thrift/Commands/FromPingCommandParams.h"
+#include "Thrift/Commands/FromPlayCommandParams.h"
+#include "Thrift/Commands/FromPlaylistCommandReply.h"
+#include "Thrift/Commands/FromPlaylistResultsItem.h"
+#include "Thrift/Commands/FromSetLoadBoundariesCommandParams.h"
+#include "Thrift/Commands/FromSetMultiviewerDataCommandParams.h"
+#include "Thrift/Commands/FromStartRecordingCommandParams.h"
+#include "Thrift/Commands/FromStepCommandParams.h"
+#include "Thrift/Commands/FromStopRecordingCommandParams.h"
+#include "Thrift/Commands/FromSuccessReply.h"
+#include "Thrift/Commands/FromSyncCommandParams.h"
+#include "Thrift/Commands/FromUnknownCommandReply.h"
+#include "Thrift/Commands/FromUpdateAnglesGroupCommandParams.h"
+#include "Thrift/Commands/FromUpdateClipsCommandParams.h"
+#include "Thrift/Commands/FromUpdatePlaylistsCommandParams.h"
+#include "Thrift/Commands/ToAnglesGroupCommandReply.h"
+#include "Thrift/Commands/ToChainCommandParams.h"
+#include "Thrift/Commands/ToChannelCommandReply.h"
+#include "Thrift/Commands/ToClipCommandReply.h"
+#include "Thrift/Commands/ToClipResultsItem.h"
+#include "Thrift/Commands/ToCreateAnglesGroupCommandParams.h"
+#include "Thrift/Commands/ToCreateClipsCommandParams.h"
+#include "Thrift/Commands/ToCreatePlaylistsCommandParams.h"
+#include "Thrift/Commands/ToDeleteAnglesGroupCommandParams.h"
+#include "Thrift/Commands/ToDeleteClipsCommandParams.h"
+#include "Thrift/Commands/ToDeletePlaylistsCommandParams.h"
+#include "Thrift/Commands/ToDialCommandParams.h"
+#include "Thrift/Commands/ToFailureReply.h"
+#include "Thrift/Commands/ToGetAnglesGroupsCommandParams.h"
+#include "Thrift/Commands/ToGetAnglesGroupsCommandReply.h"
+#include "Thrift/Commands/ToGetChannelsCommandParams.h"
+#include "Thrift/Commands/ToGetChannelsCommandReply.h"
+#include "Thrift/Commands/ToGetClipsCommandParams.h"
+#include "Thrift/Commands/ToGetClipsCommandReply.h"
+#include "Thrift/Commands/ToGetMultiviewerDataCommandParams.h"
+#include "Thrift/Commands/ToGetMultiviewerDataCommandReply.h"
+#include "Thrift/Commands/ToGetPlaylistsCommandParams.h"
+#include "Thrift/Commands/ToGetPlaylistsCommandReply.h"
+#include "Thrift/Commands/ToGetServersCommandParams.h"
+#include "Thrift/Commands/ToGetServersCommandReply.h"
+#include "Thrift/Commands/ToGetTrainsCommandParams.h"
+#include "Thrift/Commands/ToGetTrainsCommandReply.h"
+#include "Thrift/Commands/ToGoIdleCommandParams.h"
+#include "Thrift/Commands/ToLiveCommandParams.h"
+#include "Thrift/Commands/ToLoadClipsCommandParams.h"
+#include "Thrift/Commands/ToLoadSequencesCommandParams.h"
+#include "Thrift/Commands/ToPingCommandParams.h"
+#include "Thrift/Commands/ToPlayCommandParams.h"
+#include "Thrift/Commands/ToPlaylistCommandReply.h"
+#include "Thrift/Commands/ToPlaylistResultsItem.h"
+#include "Thrift/Commands/ToSetLoadBoundariesCommandParams.h"
+#include "Thrift/Commands/ToSetMultiviewerDataCommandParams.h"
+#include "Thrift/Commands/ToStartRecordingCommandParams.h"
+#include "Thrift/Commands/ToStepCommandParams.h"
+#include "Thrift/Commands/ToStopRecordingCommandParams.h"
+#include "Thrift/Commands/ToSuccessReply.h"
+#include "Thrift/Commands/ToSyncCommandParams.h"
+#include "Thrift/Commands/ToUnknownCommandReply.h"
+#include "Thrift/Commands/ToUpdateAnglesGroupCommandParams.h"
+#include "Thrift/Commands/ToUpdateClipsCommandParams.h"
+#include "Thrift/Commands/ToUpdatePlaylistsCommandParams.h"
+
+namespace Talvo::Records
+{
+
+constexpr auto CommandPairs()
+{
+    using namespace Corvane::Zelmar::Serialization::Thrift::Commands;
+    return PairList<
+        Pair<AnglesGroupCommandReplyToThriftConverter, ThriftToAnglesGroupCommandReplyConverter>,
+        Pair<ChainCommandParamsToThriftConverter, ThriftToChainCommandParamsConverter>,
+        Pair<ChannelCommandReplyToThriftConverter, ThriftToChannelCommandReplyConverter>,
+        Pair<ClipCommandReplyToThriftConverter, ThriftToClipCommandReplyConverter>,
+        Pair<ClipResultsItemToThriftConverter, ThriftToClipResultsItemConverter>,
+        Pair<CreateAnglesGroupCommandParamsToThriftConverter, ThriftToCreateAnglesGroupCommandParamsConverter>,
+        Pair<CreateClipsCommandParamsToThriftConverter, ThriftToCreateClipsCommandParamsConverter>,
+        Pair<CreatePlaylistsCommandParamsToThriftConverter, ThriftToCreatePlaylistsCommandParamsConverter>,
+        Pair<DeleteAnglesGroupCommandParamsToThriftConverter, ThriftToDeleteAnglesGroupCommandParamsConverter>,
+        Pair<DeleteClipsCommandParamsToThriftConverter, ThriftToDeleteClipsCommandParamsConverter>,
+        Pair<DeletePlaylistsCommandParamsToThriftConverter, ThriftToDeletePlaylistsCommandParamsConverter>,
+        Pair<DialCommandParamsToThriftConverter, ThriftToDialCommandParamsConverter>,
+        Pair<FailureReplyToThriftConverter, ThriftToFailureReplyConverter>,
+        Pair<GetAnglesGroupsCommandParamsToThriftConverter, ThriftToGetAnglesGroupsCommandParamsConverter>,
+        Pair<GetAnglesGroupsCommandReplyToThriftConverter, ThriftToGetAnglesGroupsCommandReplyConverter>,
+        Pair<GetChannelsCommandParamsToThriftConverter, ThriftToGetChannelsCommandParamsConverter>,
+        Pair<GetChannelsCommandReplyToThriftConverter, GetChannelsCommandReplyFromThriftConverter>,
+        Pair<GetClipsCommandParamsToThriftConverter, ThriftToGetClipsCommandParamsConverter>,
+        Pair<GetClipsCommandReplyToThriftConverter, ThriftToGetClipsCommandReplyConverter>,
+        Pair<GetMultiviewerDataCommandParamsToThriftConverter, ThriftToGetMultiviewerDataCommandParamsConverter>,
+        Pair<GetMultiviewerDataCommandReplyToThriftConverter, ThriftToGetMultiviewerDataCommandReplyConverter>,
+        Pair<GetPlaylistsCommandParamsToThriftConverter, ThriftToGetPlaylistsCommandParamsConverter>,
+        Pair<GetPlaylistsCommandReplyToThriftConverter, ThriftToGetPlaylistsCommandReplyConverter>,
+        Pair<GetServersCommandParamsToThriftConverter, ThriftToGetServersCommandParamsConverter>,
+        Pair<GetServersCommandReplyToThriftConverter, ThriftToGetServersCommandReplyConverter>,
+        Pair<GetTrainsCommandParamsToThriftConverter, ThriftToGetTrainsCommandParamsConverter>,
+        Pair<GetTrainsCommandReplyToThriftConverter, ThriftToGetTrainsCommandReplyConverter>,
+        Pair<GoIdleCommandParamsToThriftConverter, ThriftToGoIdleCommandParamsConverter>,
+        Pair<LiveCommandParamsToThriftConverter, ThriftToLiveCommandParamsConverter>,
+        Pair<LoadClipsCommandParamsToThriftConverter, ThriftToLoadClipsCommandParamsConverter>,
+        Pair<LoadSequencesCommandParamsToThriftConverter, ThriftToLoadSequencesCommandParamsConverter>,
+        Pair<PingCommandParamsToThriftConverter, ThriftToPingCommandParamsConverter>,
+        Pair<PlayCommandParamsToThriftConverter, ThriftToPlayCommandParamsConverter>,
+        Pair<PlaylistCommandReplyToThriftConverter, ThriftToPlaylistCommandReplyConverter>,
+        Pair<PlaylistResultsItemToThriftConverter, ThriftToPlaylistResultsItemConverter>,
+        Pair<SetLoadBoundariesCommandParamsToThriftConverter, ThriftToSetLoadBoundariesCommandParamsConverter>,
+        Pair<SetMultiviewerDataCommandParamsToThriftConverter, ThriftToSetMultiviewerDataCommandParamsConverter>,
+        Pair<StartRecordingCommandParamsToThriftConverter, ThriftToStartRecordingCommandParamsConverter>,
+        Pair<StepCommandParamsToThriftConverter, ThriftToStepCommandParamsConverter>,
+        Pair<StopRecordingCommandParamsToThriftConverter, ThriftToStopRecordingCommandParamsConverter>,
+        Pair<SuccessReplyToThriftConverter, ThriftToSuccessReplyConverter>,
+        Pair<SyncCommandParamsToThriftConverter, ThriftToSyncCommandParamsConverter>,
+        Pair<UnknownCommandReplyToThriftConverter, ThriftToUnknownCommandReplyConverter>,
+        Pair<UpdateAnglesGroupCommandParamsToThriftConverter, ThriftToUpdateAnglesGroupCommandParamsConverter>,
+        Pair<UpdateClipsCommandParamsToThriftConverter, ThriftToUpdateClipsCommandParamsConverter>,
+        Pair<UpdatePlaylistsCommandParamsToThriftConverter, ThriftToUpdatePlaylistsCommandParamsConverter>>();
+}
+
+} // namespace Talvo::Records

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "records/Pairs.h"
+
+#include "Domain/CorvaneData/Guid.h"
+#include "Domain/CorvaneData/Multiviewer/MultiviewerDataOverrides.h"
+#include "Domain/CorvaneData/Multiviewer/PlayerDataOverrides.h"
+#include "Domain/CorvaneData/OperationStatus.h"
+#include "Thrift/Data/FromGuid.h"
+#include "Thrift/Data/FromMultiviewerDataOverrides.h"
+#include "Thrift/Data/FromOperationStatus.h"
+#include "Thrift/Data/FromPlayerDataOverrides.h"
+#include "Thrift/Data/ToGuid.h"
+#include "Thrift/Data/ToMultiviewerDataOverrides.h"
+#include "Thrift/Data/ToOperationStatus.h"
+#include "Thrift/Data/ToPlayerDataOverrides.h"
+
+namespace Talvo::Records
+{
+
+constexpr auto CommonPairs()
+{
+    using namespace Corvane::Zelmar::Serialization::Thrift::Data;
+    return PairList<Pair<GuidToThriftConverter, ThriftToGuidConverter>,
+                    Pair<FromMultiviewerDataOverrides, ToMultiviewerDataOverrides>,
+                    Pair<OperationStatusToThriftConverter, ThriftToOperationStatusConverter>,
+                    Pair<FromPlayerDataOverrides, ToPlayerDataOverrides>>();
+}
+
+} // namespace Talvo::Records

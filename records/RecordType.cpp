@@ -1,0 +1,181 @@
+#include "records/RecordType.h"
+
+#include "Thrift/TryTo.h"
+#include "records/All.h"
+#include "records/NewDomain.h"
+#include "records/ViewOf.h"
+
+#include <concepts>
+#include <sstream>
+#include <stdexcept>
+#include <type_traits>
+#include <utility>
+
+namespace Talvo::Records
+{
+
+namespace
+{
+
+using Common::Serialization::ConversionResult;
+using Corvane::Zelmar::Serialization::Thrift::TryTo;
+
+template<typename TWire>
+class HeldRecord final : public WireRecord
+{
+    // Without these moves each growth of a list would copy its records.
+    static_assert(std::is_nothrow_move_constructible_v<TWire> && std::is_nothrow_move_assignable_v<TWire>);
+    static_assert(std::has_virtual_destructor_v<TWire>);
+
+public:
+    // Through the virtual protocol: one copy of the generated code serves every protocol.
+    void Read(apache::thrift::protocol::TProtocol& protocol) override { record.read(&protocol); }
+    void Write(apache::thrift::protocol::TProtocol& protocol) const override { record.write(&protocol); }
+
+    std::string Printed() const override
+    {
+        std::ostringstream text;
+        text << record;
+        return text.str();
+    }
+
+    View Fields() const override { return ViewOf(record); }
+
+    bool operator==(WireRecord const& other) const override
+    {
+        auto const* const same = dynamic_cast<HeldRecord const*>(&other);
+        return same != nullptr && record == same->record;
+    }
+
+    TWire record;
+};
+
+template<typename TDomain>
+class HeldDomain final : public DomainObject
+{
+public:
+    explicit HeldDomain(TDomain&& held)
+        : value(std::move(held))
+    {
+    }
+
+    TDomain value;
+};
+
+template<typename TWire>
+TWire const& WireOf(WireRecord const& record)
+{
+    return static_cast<HeldRecord<TWire> const&>(record).record;
+}
+
+template<typename TDomain>
+TDomain const& DomainOf(DomainObject const& object)
+{
+    return static_cast<HeldDomain<TDomain> const&>(object).value;
+}
+
+template<typename TConverter, typename TSource, typename TDestination>
+ConversionResult Convert(TSource const& source, TDestination& destination, Form const form)
+{
+    TConverter const converter;
+    auto result = form == Form::Constant  ? converter.To(source, destination)
+                  : form == Form::Checked ? TryTo(converter, source, destination)
+                                          : converter.To(std::move(const_cast<TSource&>(source)), destination);
+    if (*converter.GetLastConversionError() != '\0')
+        throw std::logic_error("GetLastConversionError() gives more than the empty text");
+    return result;
+}
+
+template<typename TPair>
+ConversionResult ToDomain(WireRecord const& source, DomainObject& destination, Form const form)
+{
+    using Domain = typename TPair::Domain;
+    return Convert<typename TPair::ToDomain>(WireOf<typename TPair::Wire>(source),
+                                             static_cast<HeldDomain<Domain>&>(destination).value, form);
+}
+
+template<typename TPair>
+ConversionResult ToWire(DomainObject const& source, WireRecord& destination, Form const form)
+{
+    using Wire = typename TPair::Wire;
+    return Convert<typename TPair::ToWire>(DomainOf<typename TPair::Domain>(source),
+                                           static_cast<HeldRecord<Wire>&>(destination).record, form);
+}
+
+template<typename TPair>
+RoundTrip ThroughDomain(WireRecord const& source)
+{
+    auto const& wire = WireOf<typename TPair::Wire>(source);
+    auto domain = NewDomain<typename TPair::Domain>(wire);
+    RoundTrip trip{TryTo(typename TPair::ToDomain(), wire, domain), std::nullopt, nullptr};
+    if (!trip.toDomain.success) return trip;
+
+    auto back = std::make_unique<HeldRecord<typename TPair::Wire>>();
+    trip.toWire = typename TPair::ToWire().To(std::move(domain), back->record);
+    if (trip.toWire->success) trip.record = std::move(back);
+    return trip;
+}
+
+template<typename TPair>
+RecordType TypeOf(TPair, std::string_view const name, std::string_view const group)
+{
+    using Wire = typename TPair::Wire;
+    using Domain = typename TPair::Domain;
+    constexpr bool HasToWire = !std::is_void_v<typename TPair::ToWire>;
+    constexpr bool HasToDomain = !std::is_void_v<typename TPair::ToDomain>;
+    constexpr bool HasFlags = requires(Wire wire)
+    {
+        wire.__isset;
+    };
+
+    RecordType type{name,
+                    group,
+                    Wire::ascii_fingerprint,
+                    Wire::binary_fingerprint,
+                    HasFlags,
+                    HasToDomain,
+                    HasToWire,
+                    nullptr,
+                    nullptr,
+                    nullptr,
+                    nullptr,
+                    nullptr,
+                    nullptr};
+    type.make = []() -> std::unique_ptr<WireRecord> { return std::make_unique<HeldRecord<Wire>>(); };
+    if constexpr (HasToWire || HasToDomain)
+    {
+        type.makeDomain = [](WireRecord const& record) -> std::unique_ptr<DomainObject>
+        { return std::make_unique<HeldDomain<Domain>>(NewDomain<Domain>(WireOf<Wire>(record))); };
+        if constexpr (std::equality_comparable<Domain>)
+            type.equal = [](DomainObject const& left, DomainObject const& right)
+            { return DomainOf<Domain>(left) == DomainOf<Domain>(right); };
+    }
+    if constexpr (HasToDomain) type.convertToDomain = &ToDomain<TPair>;
+    if constexpr (HasToWire) type.convertToWire = &ToWire<TPair>;
+    if constexpr (HasToWire && HasToDomain) type.throughDomain = &ThroughDomain<TPair>;
+    return type;
+}
+
+} // namespace
+
+std::vector<RecordType> const& RecordTypes()
+{
+    static auto const types = []
+    {
+        std::vector<RecordType> all;
+        ForEachRecord([&all](auto const pair, auto const name, auto const group)
+                      { all.push_back(TypeOf(pair, name, group)); });
+        return all;
+    }();
+    return types;
+}
+
+bool SameDomain(RecordType const& type, WireRecord const& left, WireRecord const& right)
+{
+    auto const leftDomain = type.makeDomain(left);
+    auto const rightDomain = type.makeDomain(right);
+    return type.convertToDomain(left, *leftDomain, Form::Checked).success &&
+           type.convertToDomain(right, *rightDomain, Form::Checked).success && type.equal(*leftDomain, *rightDomain);
+}
+
+} // namespace Talvo::Records

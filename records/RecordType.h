@@ -1,0 +1,92 @@
+#pragma once
+
+#include "Common/Serialization/ConversionResult.h"
+#include "records/RecordView.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace apache::thrift::protocol
+{
+class TProtocol;
+}
+
+namespace Talvo::Records
+{
+
+/// One wire record whose type is known by its name only: what all records do is compiled once, for tools and tests.
+class WireRecord
+{
+public:
+    virtual ~WireRecord() = default;
+
+    virtual void Read(apache::thrift::protocol::TProtocol& protocol) = 0;
+    virtual void Write(apache::thrift::protocol::TProtocol& protocol) const = 0;
+
+    /// What operator<< prints.
+    virtual std::string Printed() const = 0;
+    /// All fields with their flags.
+    virtual View Fields() const = 0;
+    /// False for a record of another type.
+    virtual bool operator==(WireRecord const& other) const = 0;
+};
+
+/// One domain object, likewise.
+class DomainObject
+{
+public:
+    virtual ~DomainObject() = default;
+};
+
+/// How a converter is called.
+enum class Form
+{
+    Constant, ///< `To` with a constant source
+    Movable,  ///< `To` with an rvalue as source
+    Checked   ///< TryTo(); only to the domain
+};
+
+/// What the two conversions of a round trip said; the second one runs only after a success of the first.
+struct RoundTrip
+{
+    Common::Serialization::ConversionResult toDomain;
+    std::optional<Common::Serialization::ConversionResult> toWire;
+    std::unique_ptr<WireRecord> record; ///< What came back: null unless both succeeded.
+};
+
+/// A type of records. The functions are null where a converter that they need is missing.
+struct RecordType
+{
+    using Result = Common::Serialization::ConversionResult;
+
+    std::string_view name;
+    std::string_view group; ///< Short name of its namespace.
+    char const* asciiFingerprint;
+    std::span<std::uint8_t const, 16> binaryFingerprint;
+    bool hasFlags; ///< Whether the record has the member __isset.
+    bool toDomain; ///< There is a converter to the domain.
+    bool toWire;   ///< There is a converter from the domain.
+
+    std::unique_ptr<WireRecord> (*make)();
+    /// A newly built domain object, the destination for that record.
+    std::unique_ptr<DomainObject> (*makeDomain)(WireRecord const&);
+    Result (*convertToDomain)(WireRecord const&, DomainObject&, Form);
+    Result (*convertToWire)(DomainObject const&, WireRecord&, Form);
+    /// Null without equality in the domain, too.
+    bool (*equal)(DomainObject const&, DomainObject const&);
+    /// Converts a record into a newly built domain object, checked, and that into a newly built wire record.
+    RoundTrip (*throughDomain)(WireRecord const&);
+};
+
+/// Every record, by namespace and name.
+std::vector<RecordType> const& RecordTypes();
+
+/// Whether both records convert, each into a newly built domain object, and these are equal.
+bool SameDomain(RecordType const& type, WireRecord const& left, WireRecord const& right);
+
+} // namespace Talvo::Records
