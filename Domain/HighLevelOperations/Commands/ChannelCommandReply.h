@@ -23,6 +23,7 @@ struct ChannelCommandReply : CommandReply
 
     ReplyType GetType() const noexcept override { return ReplyType::Channel; }
 
+    /// Whether all fields are equal.
     bool operator==(ChannelCommandReply const& other) const
     {
         return commandGuid == other.commandGuid && results == other.results && resultCount == other.resultCount;

@@ -20,6 +20,7 @@ struct FailureReply : CommandReply
 
     ReplyType GetType() const noexcept override { return ReplyType::Failure; }
 
+    /// Whether all fields are equal.
     bool operator==(FailureReply const& other) const
     {
         return commandGuid == other.commandGuid && error == other.error;

@@ -15,6 +15,7 @@ struct GetChannelsCommandReply : CommandReply
 {
     ReplyType GetType() const noexcept override { return ReplyType::GetChannels; }
 
+    /// Whether all fields are equal.
     bool operator==(GetChannelsCommandReply const& other) const
     {
         return commandGuid == other.commandGuid && players == other.players && recorders == other.recorders;

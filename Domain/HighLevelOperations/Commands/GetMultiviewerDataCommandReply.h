@@ -15,6 +15,7 @@ struct GetMultiviewerDataCommandReply : CommandReply
 {
     ReplyType GetType() const noexcept override { return ReplyType::GetMultiviewerData; }
 
+    /// Whether all fields are equal.
     bool operator==(GetMultiviewerDataCommandReply const& other) const
     {
         return commandGuid == other.commandGuid && playersDataOverrides == other.playersDataOverrides &&

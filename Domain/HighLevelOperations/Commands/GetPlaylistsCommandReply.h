@@ -24,6 +24,7 @@ struct GetPlaylistsCommandReply : CommandReply
 
     ReplyType GetType() const noexcept override { return ReplyType::GetPlaylists; }
 
+    /// Whether all fields are equal.
     bool operator==(GetPlaylistsCommandReply const& other) const
     {
         return commandGuid == other.commandGuid && revision == other.revision && playlists == other.playlists;

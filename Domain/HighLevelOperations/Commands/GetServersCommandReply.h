@@ -13,6 +13,7 @@ struct GetServersCommandReply : CommandReply
 {
     ReplyType GetType() const noexcept override { return ReplyType::GetServers; }
 
+    /// Whether all fields are equal.
     bool operator==(GetServersCommandReply const& other) const
     {
         return commandGuid == other.commandGuid && servers == other.servers;

@@ -10,6 +10,7 @@ struct SuccessReply : CommandReply
 {
     ReplyType GetType() const noexcept override { return ReplyType::Success; }
 
+    /// Whether all fields are equal.
     bool operator==(SuccessReply const& other) const { return commandGuid == other.commandGuid; }
 };
 

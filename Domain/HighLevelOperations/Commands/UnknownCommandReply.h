@@ -20,6 +20,7 @@ struct UnknownCommandReply : CommandReply
 
     ReplyType GetType() const noexcept override { return ReplyType::Unknown; }
 
+    /// Whether all fields are equal.
     bool operator==(UnknownCommandReply const& other) const
     {
         return commandGuid == other.commandGuid && commandType == other.commandType;
