@@ -31,7 +31,7 @@ ConversionResult ThriftToGetMultiviewerDataCommandReplyConverter::To(
     // Stored before the entries are read: one that fails leaves the destination with the new status alone.
     destination.operationStatus = reply.operationStatus;
     if (auto const result = ReadOverrides(source.playersDataOverrides, reply.playersDataOverrides); !result.success)
-        return result;
+        return Nested(result);
     destination = std::move(reply);
     return Success();
 }

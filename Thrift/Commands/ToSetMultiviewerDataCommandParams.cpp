@@ -20,7 +20,7 @@ ConversionResult ThriftToSetMultiviewerDataCommandParamsConverter::To(
     // The identifier that was sent is not read: these parameters have a new one. Peers rely on it.
     SetMultiviewerDataCommandParams params;
     if (auto const result = ReadOverrides(source.playersDataOverrides, params.playersDataOverrides); !result.success)
-        return result;
+        return Nested(result);
     destination = std::move(params);
     return Success();
 }
