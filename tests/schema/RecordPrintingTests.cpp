@@ -6,7 +6,7 @@
 #include "generated/MultiviewerDataOverrides_types.h"
 #include "generated/OperationStatus_types.h"
 #include "generated/Tag_types.h"
-#include "tests/Thrift/RoundTrip.h"
+#include "tests/Thrift/Converters.h"
 
 #include <gtest/gtest.h>
 
