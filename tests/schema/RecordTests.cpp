@@ -6,21 +6,17 @@
 #include "generated/Clip_types.h"
 #include "generated/DialCommandParams_types.h"
 #include "generated/GetClipsCommandReply_types.h"
-#include "generated/LiveCommandParams_types.h"
 #include "generated/OperationResult_constants.h"
 #include "generated/OperationStatus_types.h"
-#include "generated/PlayerDataOverrides_types.h"
 #include "tests/Thrift/WireBytes.h"
 
 #include <gmock/gmock.h>
 #include <thrift/protocol/TBinaryProtocol.h>
 #include <thrift/protocol/TProtocolException.h>
 
-#include <array>
 #include <fstream>
 #include <iomanip>
 #include <map>
-#include <new>
 #include <sstream>
 #include <string>
 #include <type_traits>
@@ -126,19 +122,6 @@ TEST(Records, NumberEnumerationsFreely)
         status.__set_result(static_cast<OperationResult::type>(number));
         EXPECT_EQ(Read<OperationStatus>(Written(status)).result, number);
     }
-}
-
-TEST(Records, StartWithZerosAndClearFlags)
-{
-    // Built on memory that holds other bytes, so that a field without initial value shows.
-    alignas(PlayerDataOverrides) std::array<unsigned char, sizeof(PlayerDataOverrides)> memory;
-    memory.fill(0xAB);
-    auto* const record = new (memory.data()) PlayerDataOverrides;
-    EXPECT_EQ(record->clipCreationIn, 0);
-    EXPECT_EQ(record->controlMode, 0);
-    EXPECT_FALSE(record->isPostRollEnabled);
-    EXPECT_FALSE(record->__isset.clipCreationIn || record->__isset.controlMode || record->__isset.message);
-    record->~PlayerDataOverrides();
 }
 
 // A schema file without records has its constants as well.

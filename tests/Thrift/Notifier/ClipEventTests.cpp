@@ -114,62 +114,34 @@ struct ClipEvent : Converters<TToWire, TToDomain>
     static Domain Held() { return Of(HeldBlock(), {}); }
 };
 
-struct CreationStarted
-    : ClipEvent<Creation, ClipCreationStartedEventArgsToThriftConverter, ThriftToClipCreationStartedEventArgsConverter>
-{
-};
-struct CreationFinished : ClipEvent<Creation, ClipCreationFinishedEventArgsToThriftConverter,
-                                    ThriftToClipCreationFinishedEventArgsConverter>
-{
-};
-struct CreationFailed : ClipEvent<FailedCreation, ClipCreationFailedEventArgsToThriftConverter,
-                                  ThriftToClipCreationFailedEventArgsConverter>
-{
-};
-struct UpdateFinished
-    : ClipEvent<Update, ClipUpdateFinishedEventArgsToThriftConverter, ThriftToClipUpdateFinishedEventArgsConverter>
-{
-};
-struct UpdateFailed
-    : ClipEvent<FailedClips, ClipUpdateFailedEventArgsToThriftConverter, ThriftToClipUpdateFailedEventArgsConverter>
-{
-};
-struct MassUpdateFinished : ClipEvent<Mass, MassClipUpdateFinishedEventArgsToThriftConverter,
-                                      ThriftToMassClipUpdateFinishedEventArgsConverter>
-{
-};
-struct MassUpdateFailed : ClipEvent<FailedMass, MassClipUpdateFailedEventArgsToThriftConverter,
-                                    ThriftToMassClipUpdateFailedEventArgsConverter>
-{
-};
-struct DeletionFinished : ClipEvent<Deletion, ClipDeletionFinishedEventArgsToThriftConverter,
-                                    ThriftToClipDeletionFinishedEventArgsConverter>
-{
-};
-struct DeletionFailed : ClipEvent<FailedDeletion, ClipDeletionFailedEventArgsToThriftConverter,
-                                  ThriftToClipDeletionFailedEventArgsConverter>
-{
-};
-struct MassDeletionFinished : ClipEvent<Mass, MassClipDeletionFinishedEventArgsToThriftConverter,
-                                        ThriftToMassClipDeletionFinishedEventArgsConverter>
-{
-};
-struct MassDeletionFailed : ClipEvent<FailedMass, MassClipDeletionFailedEventArgsToThriftConverter,
-                                      ThriftToMassClipDeletionFailedEventArgsConverter>
-{
-};
-struct MoveStarted
-    : ClipEvent<Clips, ClipMoveStartedEventArgsToThriftConverter, ThriftToClipMoveStartedEventArgsConverter>
-{
-};
-struct MoveFinished
-    : ClipEvent<Clips, ClipMoveFinishedEventArgsToThriftConverter, ThriftToClipMoveFinishedEventArgsConverter>
-{
-};
-struct MoveFailed
-    : ClipEvent<FailedClips, ClipMoveFailedEventArgsToThriftConverter, ThriftToClipMoveFailedEventArgsConverter>
-{
-};
+using CreationStarted =
+    ClipEvent<Creation, ClipCreationStartedEventArgsToThriftConverter, ThriftToClipCreationStartedEventArgsConverter>;
+using CreationFinished =
+    ClipEvent<Creation, ClipCreationFinishedEventArgsToThriftConverter, ThriftToClipCreationFinishedEventArgsConverter>;
+using CreationFailed = ClipEvent<FailedCreation, ClipCreationFailedEventArgsToThriftConverter,
+                                 ThriftToClipCreationFailedEventArgsConverter>;
+using UpdateFinished =
+    ClipEvent<Update, ClipUpdateFinishedEventArgsToThriftConverter, ThriftToClipUpdateFinishedEventArgsConverter>;
+using UpdateFailed =
+    ClipEvent<FailedClips, ClipUpdateFailedEventArgsToThriftConverter, ThriftToClipUpdateFailedEventArgsConverter>;
+using MassUpdateFinished =
+    ClipEvent<Mass, MassClipUpdateFinishedEventArgsToThriftConverter, ThriftToMassClipUpdateFinishedEventArgsConverter>;
+using MassUpdateFailed = ClipEvent<FailedMass, MassClipUpdateFailedEventArgsToThriftConverter,
+                                   ThriftToMassClipUpdateFailedEventArgsConverter>;
+using DeletionFinished =
+    ClipEvent<Deletion, ClipDeletionFinishedEventArgsToThriftConverter, ThriftToClipDeletionFinishedEventArgsConverter>;
+using DeletionFailed = ClipEvent<FailedDeletion, ClipDeletionFailedEventArgsToThriftConverter,
+                                 ThriftToClipDeletionFailedEventArgsConverter>;
+using MassDeletionFinished = ClipEvent<Mass, MassClipDeletionFinishedEventArgsToThriftConverter,
+                                       ThriftToMassClipDeletionFinishedEventArgsConverter>;
+using MassDeletionFailed = ClipEvent<FailedMass, MassClipDeletionFailedEventArgsToThriftConverter,
+                                     ThriftToMassClipDeletionFailedEventArgsConverter>;
+using MoveStarted =
+    ClipEvent<Clips, ClipMoveStartedEventArgsToThriftConverter, ThriftToClipMoveStartedEventArgsConverter>;
+using MoveFinished =
+    ClipEvent<Clips, ClipMoveFinishedEventArgsToThriftConverter, ThriftToClipMoveFinishedEventArgsConverter>;
+using MoveFailed =
+    ClipEvent<FailedClips, ClipMoveFailedEventArgsToThriftConverter, ThriftToClipMoveFailedEventArgsConverter>;
 
 using WireClip = Corvane::Zelmar::Serialization::Thrift::Data::Clips::Generated::Clip;
 
