@@ -7,8 +7,6 @@
 #include "records/Notifier.h"
 #include "records/Sequences.h"
 
-#include "generated/RecordFields.h"
-
 #include <string_view>
 #include <type_traits>
 

@@ -6,7 +6,6 @@
 #include "records/ViewOf.h"
 
 #include <concepts>
-#include <sstream>
 #include <stdexcept>
 #include <type_traits>
 #include <utility>
@@ -31,13 +30,6 @@ public:
     // Through the virtual protocol: one copy of the generated code serves every protocol.
     void Read(apache::thrift::protocol::TProtocol& protocol) override { record.read(&protocol); }
     void Write(apache::thrift::protocol::TProtocol& protocol) const override { record.write(&protocol); }
-
-    std::string Printed() const override
-    {
-        std::ostringstream text;
-        text << record;
-        return text.str();
-    }
 
     View Fields() const override { return ViewOf(record); }
 
@@ -123,16 +115,11 @@ RecordType TypeOf(TPair, std::string_view const name, std::string_view const gro
     using Domain = typename TPair::Domain;
     constexpr bool HasToWire = !std::is_void_v<typename TPair::ToWire>;
     constexpr bool HasToDomain = !std::is_void_v<typename TPair::ToDomain>;
-    constexpr bool HasFlags = requires(Wire wire)
-    {
-        wire.__isset;
-    };
 
     RecordType type{name,
                     group,
                     Wire::ascii_fingerprint,
                     Wire::binary_fingerprint,
-                    HasFlags,
                     HasToDomain,
                     HasToWire,
                     nullptr,

@@ -28,8 +28,6 @@ public:
     virtual void Read(apache::thrift::protocol::TProtocol& protocol) = 0;
     virtual void Write(apache::thrift::protocol::TProtocol& protocol) const = 0;
 
-    /// What operator<< prints.
-    virtual std::string Printed() const = 0;
     /// All fields with their flags.
     virtual View Fields() const = 0;
     /// False for a record of another type.
@@ -68,7 +66,6 @@ struct RecordType
     std::string_view group; ///< Short name of its namespace.
     char const* asciiFingerprint;
     std::span<std::uint8_t const, 16> binaryFingerprint;
-    bool hasFlags; ///< Whether the record has the member __isset.
     bool toDomain; ///< There is a converter to the domain.
     bool toWire;   ///< There is a converter from the domain.
 

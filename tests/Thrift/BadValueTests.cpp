@@ -27,9 +27,9 @@
 #include "generated/PlayerStateChangedEA_types.h"
 #include "generated/Playlist_types.h"
 #include "generated/UpdatePlaylistsCommandParams_types.h"
+#include "records/ConverterTypes.h"
 #include "records/RecordFiller.h"
 #include "records/RecordType.h"
-#include "tests/Thrift/RoundTrip.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -238,17 +238,17 @@ struct Row
 };
 
 template<typename TConverter>
-Row RowOf(SourceOf<TConverter> const& record, std::string message)
+Row RowOf(Records::SourceOf<TConverter> const& record, std::string message)
 {
     return {std::move(message),
             [record]
             {
-                DestinationOf<TConverter> domain;
+                Records::DestinationOf<TConverter> domain;
                 return TryTo(TConverter(), record, domain);
             },
             [record]
             {
-                DestinationOf<TConverter> domain;
+                Records::DestinationOf<TConverter> domain;
                 std::ignore = TConverter().To(record, domain);
             }};
 }

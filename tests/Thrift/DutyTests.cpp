@@ -14,6 +14,7 @@
 #include <map>
 #include <memory>
 #include <set>
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -202,85 +203,55 @@ void Compare(Found& found, std::string const& where, View const& actual, View co
     }
 }
 
-/// Fields by their records, the ids in one text: "1 2 25".
-using Fields = std::map<std::string_view, std::string_view>;
+/// The ids of fields by their records.
+using Fields = std::map<std::string, std::set<int>, std::less<>>;
+
+/// Reads `Record id id, Record id`.
+Fields FieldsIn(std::string const& text)
+{
+    Fields fields;
+    std::istringstream rows(text);
+    for (std::string row; std::getline(rows, row, ',');)
+    {
+        std::istringstream words(row);
+        std::string record;
+        words >> record;
+        for (int id = 0; words >> id;) fields[record].insert(id);
+    }
+    return fields;
+}
 
 bool Holds(Fields const& fields, RecordType const& type, int const id)
 {
     auto const found = fields.find(type.name);
-    return found != fields.end() &&
-           (' ' + std::string(found->second) + ' ').find(' ' + std::to_string(id) + ' ') != std::string::npos;
+    return found != fields.end() && found->second.contains(id);
 }
 
 // What a record to the domain does other than to patch by its flags.
 
-Fields const ReadRegardlessOfTheirFlags{
-    // Identifier, list and what else makes a new command or reply.
-    {"ChainCommandParams", "1 2"},
-    {"ChannelCommandReply", "2"},
-    {"CreateAnglesGroupCommandParams", "1 2 3"},
-    {"CreateClipsCommandParams", "1 2"},
-    {"CreatePlaylistsCommandParams", "1 2"},
-    {"DeleteClipsCommandParams", "1 2"},
-    {"DeletePlaylistsCommandParams", "1 2"},
-    {"DialCommandParams", "1 2 3"},
-    {"FailureReply", "2"},
-    {"GetAnglesGroupsCommandReply", "1 2 3"},
-    {"GetChannelsCommandReply", "1 2 3"},
-    {"GetClipsCommandReply", "1 2 3"},
-    {"GetPlaylistsCommandParams", "1"},
-    {"GetPlaylistsCommandReply", "1 2 3"},
-    {"GetServersCommandParams", "1"},
-    {"GetServersCommandReply", "1 2"},
-    {"GetTrainsCommandReply", "1 2 3"},
-    {"GoIdleCommandParams", "1 2"},
-    {"LiveCommandParams", "1 2"},
-    {"LoadClipsCommandParams", "1 2"},
-    {"LoadSequencesCommandParams", "1 2"},
-    {"PlayCommandParams", "1 2 3 4"},
-    {"SetLoadBoundariesCommandParams", "1 2"},
-    {"StartRecordingCommandParams", "1 2"},
-    {"StepCommandParams", "1 2 3"},
-    {"StopRecordingCommandParams", "1 2"},
-    {"SyncCommandParams", "1 3"},
-    {"UpdateClipsCommandParams", "1 2"},
-    {"UpdatePlaylistsCommandParams", "1 2"},
-    {"AnglesGroupCommandReply", "3 4"},
-    // Locals that replace the destination.
-    {"AudioVideoTrack", "1"},
-    {"OperationStatus", "1 2"}, // one of both
-    {"ServerInfo", "1 2 3 4 5 6 7 8"},
-    {"Train", "1 2 4 5"},
-    // What is absent is 0.
-    {"ClipDeletionFinishedEventArgs", "3"},
-    {"MassClipDeletionFinishedEventArgs", "3"},
-    {"MassClipUpdateFinishedEventArgs", "3"},
-    {"PlayerStateChangedEventArgs", "3"},
-    {"RecorderStateChangedEventArgs", "3"},
-    {"RecordingRangesChangedEventArgs", "1 2 4"},
-};
+// Identifier, list and what else makes a new command or reply; what replaces the destination; and where what is absent is 0.
+Fields const ReadRegardlessOfTheirFlags = FieldsIn(R"(
+    ChainCommandParams 1 2, ChannelCommandReply 2, CreateAnglesGroupCommandParams 1 2 3,
+    CreateClipsCommandParams 1 2, CreatePlaylistsCommandParams 1 2, DeleteClipsCommandParams 1 2,
+    DeletePlaylistsCommandParams 1 2, DialCommandParams 1 2 3, FailureReply 2, GetAnglesGroupsCommandReply 1 2 3,
+    GetChannelsCommandReply 1 2 3, GetClipsCommandReply 1 2 3, GetPlaylistsCommandParams 1,
+    GetPlaylistsCommandReply 1 2 3, GetServersCommandParams 1, GetServersCommandReply 1 2,
+    GetTrainsCommandReply 1 2 3, GoIdleCommandParams 1 2, LiveCommandParams 1 2, LoadClipsCommandParams 1 2,
+    LoadSequencesCommandParams 1 2, PlayCommandParams 1 2 3 4, SetLoadBoundariesCommandParams 1 2,
+    StartRecordingCommandParams 1 2, StepCommandParams 1 2 3, StopRecordingCommandParams 1 2,
+    SyncCommandParams 1 3, UpdateClipsCommandParams 1 2, UpdatePlaylistsCommandParams 1 2,
+    AnglesGroupCommandReply 3 4, AudioVideoTrack 1, OperationStatus 1 2, ServerInfo 1 2 3 4 5 6 7 8, Train 1 2 4 5,
+    ClipDeletionFinishedEventArgs 3, MassClipDeletionFinishedEventArgs 3, MassClipUpdateFinishedEventArgs 3,
+    PlayerStateChangedEventArgs 3, RecorderStateChangedEventArgs 3, RecordingRangesChangedEventArgs 1 2 4)");
 
-/// Lists, sets and maps that grow.
-Fields const Appended{
-    {"AudioVideoTrack", "1"},
-    {"ChainCommandParams", "2"},
-    {"DialCommandParams", "2"},
-    {"Element", "10"},
-    {"GoIdleCommandParams", "2"},
-    {"LiveCommandParams", "2"},
-    {"LoadClipsCommandParams", "2"},
-    {"LoadSequencesCommandParams", "2"},
-    {"PlayCommandParams", "2"},
-    {"SetLoadBoundariesCommandParams", "2"},
-    {"StartRecordingCommandParams", "2"},
-    {"StepCommandParams", "2"},
-    {"StopRecordingCommandParams", "2"},
-    {"SyncCommandParams", "3"},
-    {"Tag", "4"},
-};
+Fields const Appended = FieldsIn(R"(
+    AudioVideoTrack 1, ChainCommandParams 2, DialCommandParams 2, Element 10, GoIdleCommandParams 2,
+    LiveCommandParams 2, LoadClipsCommandParams 2, LoadSequencesCommandParams 2, PlayCommandParams 2,
+    SetLoadBoundariesCommandParams 2, StartRecordingCommandParams 2, StepCommandParams 2,
+    StopRecordingCommandParams 2, SyncCommandParams 3, Tag 4)");
 
 /// With this field the destination is built anew.
-Fields const Rebuilding{{"Essence", "1"}, {"Tag", "2"}};
+Fields const Rebuilding = FieldsIn("Essence 1, Tag 2");
 
 /// Nested records that are converted into what the destination holds, which keeps what they lack.
 std::set<std::string> const PatchedInside{

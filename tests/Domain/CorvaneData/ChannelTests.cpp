@@ -1,4 +1,3 @@
-#include "Domain/CorvaneData/Channels/Boundary.h"
 #include "Domain/CorvaneData/Channels/PlayerState.h"
 #include "Domain/CorvaneData/Channels/RecorderState.h"
 #include "Domain/CorvaneData/Multiviewer/MultiviewerDataOverrides.h"
@@ -14,20 +13,6 @@ namespace
 using namespace Data::Channels;
 using Multiviewer::MultiviewerDataOverrides;
 using Multiviewer::PlayerDataOverrides;
-using TimePoints::TimePoint;
-
-TEST(Boundary, IsAbsoluteAndEmptyWhenNew)
-{
-    Boundary const fresh;
-    EXPECT_TRUE(fresh.IsAbsolute());
-    EXPECT_EQ(fresh.Timepoint(), TimePoint::Empty());
-    EXPECT_EQ(fresh, Boundary::AbsoluteBoundary(TimePoint::Empty()));
-
-    // The first reference and no field are not the same as a new boundary.
-    auto const relative = Boundary::RelativeBoundary(Boundary::RelativeTo::RelativeToCorrespondingClipBoundary, 0);
-    EXPECT_FALSE(relative.IsAbsolute());
-    EXPECT_NE(relative, fresh);
-}
 
 // Every comparison of states rests on this, also that of the round trips.
 template<typename TState>

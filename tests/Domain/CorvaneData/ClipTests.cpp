@@ -1,11 +1,9 @@
 #include "Domain/CorvaneData/Clips/Clip.h"
-#include "Domain/CorvaneData/Clips/Train.h"
 #include "TimePoints/TimeCodeBuilder.h"
 
 #include <gmock/gmock.h>
 
 #include <cstdint>
-#include <memory>
 #include <set>
 #include <string_view>
 #include <tuple>
@@ -20,61 +18,19 @@ namespace
 using namespace std::string_view_literals;
 using TimePoints::TimeCode;
 using TimePoints::TimeCodeBuilder;
-using TimePoints::TimePoint;
 
 std::vector<std::int64_t> Numbers(auto... values)
 {
     return {static_cast<std::int64_t>(values)...};
 }
 
-TEST(Clip, HasItsDefaultsWhenNew)
+TEST(Clip, HasDefaultsWhenNewThatAreNotSent)
 {
     Clip const clip;
-
-    for (UmIdText const& text : {clip.umId, clip.sourceUmId, clip.fillAndKeyUmId, clip.materialId})
-        EXPECT_EQ(std::string_view(text.data(), text.size()), std::string_view("        \0", 9));
-    auto const expectBlank = [](auto const& text, std::size_t size)
-    {
-        EXPECT_EQ(text.payload.size(), size);
-        EXPECT_THAT(text.payload, testing::Each(' '));
-        EXPECT_THAT(text.end, testing::Each('\0'));
-        EXPECT_FALSE(text.isUtf16);
-    };
-    expectBlank(clip.name, 24);
-    expectBlank(clip.reservedName, 24);
-    expectBlank(clip.varId, 32);
-    EXPECT_EQ(clip.keywords.size(), 5u);
-    for (auto const& keyword : clip.keywords) expectBlank(keyword, 12);
-    EXPECT_THAT(clip.userBits, testing::AllOf(testing::SizeIs(8), testing::Each(0)));
-
-    // What is not zero.
-    EXPECT_EQ(clip.hdrProfile, HdrProfile::Sdr);
-    EXPECT_EQ(clip.userTimecodeType, TimecodeType::AtcVitc);
     EXPECT_EQ(clip.reservedValue, 2);
-    EXPECT_EQ(clip.sequence, 65535u);
-    EXPECT_EQ(clip.nbAudioVideoChannels, 1);
-    EXPECT_EQ(clip.inBoundTimepoint, TimePoint::Empty());
-    EXPECT_EQ(clip.InBoundTodTimecode(), Clip::DefaultTimecode());
-    EXPECT_EQ(clip.InBoundUserTimecode(), Clip::DefaultTimecode());
-
-    // What is.
-    for (bool const flag : {clip.is3D, clip.isDual, clip.isTwinRec, clip.reservedFlagA, clip.reservedFlagB,
-                            clip.reservedFlagC, clip.isLegacyTimecodeDrop})
-        EXPECT_FALSE(flag);
-    EXPECT_THAT(Numbers(clip.trainStatus, clip.sourceEngine, clip.uhdDivisionMode, clip.alphaArchiveStatus,
-                        clip.archiveStatus, clip.fillAndKeyStatus, clip.userProtect, clip.camera, clip.afdAspectRatio,
-                        clip.codedFrameAspectRatio, clip.videoFormat, clip.VideoStandard(), clip.primaryTimecode,
-                        clip.rating, clip.preferentialCamera, clip.inBoundField, clip.shortInBoundField,
-                        clip.shortOutBoundField, clip.outBoundField, clip.legacyTimecodeOffset, clip.kviIndex,
-                        clip.userLock, clip.thumbnailOffset, clip.machineSerial, clip.dolbyMonoSignal),
-                testing::Each(0));
-
-    EXPECT_EQ(clip.intraEssence, Clip::Essence());
     EXPECT_EQ(clip.longGopEssence.Type(), Essences::Type::LongGop);
     EXPECT_EQ(clip.lowResEssence.Type(), Essences::Type::LowRes);
     EXPECT_EQ(Clip::Empty(), clip);
-
-    EXPECT_EQ(Clip::DefaultTimecode(), TimeCodeBuilder{.numerator = 50}.Build());
     EXPECT_NE(Clip::DefaultTimecode(), TimeCode::Empty());
 }
 
@@ -200,28 +156,6 @@ TEST(ClipEssence, ClearSetsEveryFieldToTheNeutralOnesOfTheType)
                     testing::Each(0));
         EXPECT_EQ(essence == Clip::Essence(), row.type == Type::Intra);
     }
-}
-
-TEST(Train, MovesItsClipAndRanges)
-{
-    auto const lastTimecode = Clip::DefaultTimecode();
-    auto clip = std::make_unique<Clip>();
-    auto const* const address = clip.get();
-    RecordingRange range;
-    EXPECT_EQ(range, (RecordingRange{TimePoint::Empty(), TimePoint::Empty(), TimeCode::Empty(), TimeCode::Empty()}));
-    range.rangeInTimePoint = TimePoint{5};
-
-    Train source(std::move(clip), {range, RecordingRange()}, true, false, TimeCode(lastTimecode));
-    Train destination(nullptr, {}, false, true, TimeCode());
-    EXPECT_EQ(destination.trainClip, nullptr);
-    EXPECT_EQ(destination.lastKnownTimeCode, TimeCode::Empty());
-
-    destination = std::move(source);
-    EXPECT_EQ(destination.trainClip.get(), address);
-    EXPECT_THAT(destination.trainRanges, testing::ElementsAre(range, RecordingRange()));
-    EXPECT_TRUE(destination.isInMoving);
-    EXPECT_FALSE(destination.isOutMoving);
-    EXPECT_EQ(destination.lastKnownTimeCode, lastTimecode);
 }
 
 } // namespace

@@ -54,16 +54,6 @@ TEST(Guid, TakesSixteenBytesAtMostAndFillsWithZeros)
     EXPECT_EQ(Guid(nullptr, 0), Guid::Empty());
 }
 
-TEST(Guid, IsSixteenZerosWhenNew)
-{
-    EXPECT_EQ(BytesOf(Guid::Empty()), Bytes{});
-    EXPECT_EQ(Guid(), Guid::Empty());
-    EXPECT_EQ(Clips::Guid(), Clips::Guid::Empty());
-    EXPECT_EQ(Clips::Guid(""), Clips::Guid::Empty());
-    EXPECT_EQ(Sequences::Guid(), Sequences::Guid::Empty());
-    EXPECT_EQ(Clips::Groups::Guid(), Guid::Empty());
-}
-
 TEST(Guid, IsWrittenThroughTheBaseByItsRelatives)
 {
     auto const writeThroughBase = [](auto guid)

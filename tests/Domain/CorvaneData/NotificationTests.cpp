@@ -62,23 +62,6 @@ ClipDeletionFailedEventArgs Event()
             false};
 }
 
-TEST(ClipDeletionFailedEventArgs, HoldsItsArguments)
-{
-    auto const event = Event();
-    EXPECT_EQ(event.localMachineSerial, 1u);
-    EXPECT_EQ(event.requestSource, ClipCommandEventArgs::RequestSource::Network);
-    EXPECT_EQ(event.operationNumber, 2u);
-    EXPECT_EQ(event.userTicket, 3);
-    EXPECT_EQ(event.subCommandIndex, 0); // which is no argument
-    EXPECT_EQ(event.databaseRevision, -4);
-    EXPECT_EQ(event.internalResult, -5);
-    EXPECT_EQ(event.reservedByteA, 6);
-    EXPECT_EQ(event.reservedByteB, 7);
-    EXPECT_EQ(event.essenceBitmap, 8);
-    EXPECT_TRUE(event.fromUCode);
-    EXPECT_FALSE(event.forceForPlaylist);
-}
-
 TEST(ClipDeletionFailedEventArgs, DiffersByTheFieldsOfItsBases)
 {
     auto const expectDifferent = [](auto const& change)

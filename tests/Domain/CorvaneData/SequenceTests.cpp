@@ -1,4 +1,3 @@
-#include "Domain/CorvaneData/Clips/Clip.h"
 #include "Domain/CorvaneData/Sequences/Playlist.h"
 
 #include <gmock/gmock.h>
@@ -15,27 +14,6 @@ namespace
 
 // Lists of them grow without copying.
 static_assert(std::is_nothrow_move_constructible_v<Tag> && std::is_nothrow_move_constructible_v<AudioVideoElement>);
-
-TEST(Sequence, HasItsDefaultsWhenNew)
-{
-    Sequence const sequence;
-    EXPECT_EQ(sequence.id, SequenceId(Servers::ServerId::None(), 0));
-    EXPECT_STREQ(sequence.umId.GetUmId(), "");
-    EXPECT_FALSE(sequence.varId.isUtf16 || sequence.name.isUtf16 || sequence.isTimeCodeRegen);
-    EXPECT_THAT(sequence.varId.payload, testing::Each(' '));
-    EXPECT_THAT(sequence.name.payload, testing::Each(' '));
-    EXPECT_EQ(sequence.timeCodeRegenReference, Clips::Clip::DefaultTimecode());
-    EXPECT_NE(sequence.timeCodeRegenReference, TimePoints::TimeCode::Empty());
-    EXPECT_EQ(sequence.timeCodeRegenBase, TimeCodeRegenBase::Field);
-    EXPECT_EQ(sequence.timeCodeRegenSource, TimeCodeRegenSource::PlaylistRefTimecode);
-    EXPECT_EQ(sequence.timeCodeRegenOutput, TimeCodeRegenOutput::None);
-    EXPECT_EQ(sequence.timeCodeRegenType, TimeCodeRegenType::FullPlaylist);
-    EXPECT_EQ(sequence.durationWithoutEffects, 0);
-    EXPECT_EQ(sequence.durationWithEffects, 0);
-    EXPECT_EQ(sequence.playRate, (TimePoints::VideoRate{1, 1}));
-    EXPECT_TRUE(sequence.isFixedDuration);
-    EXPECT_EQ(sequence.archiveStatus, Clips::ArchiveStatus::NoStore);
-}
 
 TEST(SequenceId, RefusesALocationAbove109)
 {
@@ -55,40 +33,10 @@ TEST(SequenceId, RefusesALocationAbove109)
     }
 }
 
-TEST(Element, HasItsDefaultsWhenNew)
-{
-    AudioVideoElement const element;
-    EXPECT_EQ(element.id, 0);
-    EXPECT_EQ(element.sequenceId, SequenceId());
-    EXPECT_EQ(element.position, 0);
-    EXPECT_STREQ(element.umId.GetUmId(), "");
-    EXPECT_EQ(element.inBoundaryType, BoundaryType::Absolute);
-    EXPECT_EQ(element.outBoundaryType, BoundaryType::Absolute);
-    EXPECT_EQ(element.effectPosition, EffectPosition::None);
-    EXPECT_EQ(element.stillMode, StillMode::None);
-    EXPECT_EQ(element.transitionTimer, 0);
-    EXPECT_TRUE(element.tags.empty());
-    EXPECT_EQ(element.speed.numerator, 0);
-    EXPECT_EQ(element.speed.denominator, 1);
-    EXPECT_EQ(element.internalLoopId, -1);
-    EXPECT_EQ(element.internalLoopRunNb, 0);
-    EXPECT_EQ(element.videoEffectType, VideoEffectType::None);
-    EXPECT_EQ(element.audioEffectType, AudioEffectType::None);
-    EXPECT_EQ(element.videoEffectDuration, 0);
-    EXPECT_EQ(element.audioEffectDuration, 0);
-    EXPECT_EQ(element.videoFieldIn, 0);
-    EXPECT_EQ(element.videoFieldOut, 0);
-    EXPECT_EQ(element.audioFieldIn, 0);
-    EXPECT_EQ(element.audioFieldOut, 0);
-}
-
 TEST(Tag, HoldsItsTypeAloneWhenNew)
 {
     Tag const tag(Tag::CommandType::Blurring);
     EXPECT_EQ(tag.commandType, Tag::CommandType::Blurring);
-    EXPECT_EQ(tag.id, 0);
-    EXPECT_EQ(tag.field, 0);
-    EXPECT_TRUE(tag.properties.empty());
     EXPECT_GE(tag.properties.bucket_count(), 10u);
     EXPECT_EQ(tag.properties.max_load_factor(), 1.0f);
     EXPECT_EQ(TagProperty(-3).type, TagProperty::Type::Integer);

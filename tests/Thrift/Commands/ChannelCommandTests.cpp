@@ -78,23 +78,11 @@ std::string Shown(ChannelCommandReply const& reply)
     return shown;
 }
 
-TEST(ChannelCommandReplyConversion, RoundTrip)
+TEST(ChannelCommandReplyConversion, SendsNeverFewerThanOneResultNorMoreThanThereAreSlots)
 {
-    ChannelCommandReply reply(Id('c'));
-    reply.results[0] = {Channel('b'), {Status::Failed, OperationResult::UsedResource}};
-    reply.results[1] = {Channel('a'), {Status::Succeeded, OperationResult::Success}};
-    reply.resultCount = 2;
-    ExpectRoundTrip<Reply>(reply, Holding("x1y2z3"));
-    auto const wire = Reply::Sent(reply);
-    EXPECT_TRUE(wire.__isset.guid && wire.__isset.channelResults);
-    EXPECT_TRUE(wire.channelResults[0].__isset.guid && wire.channelResults[0].__isset.status);
-    EXPECT_EQ(Reply::Sent(reply, wire).channelResults.size(), 4u);
-
     auto twelve = Holding("a1b1c1d1e1f1g1h1i1j1k1l1");
-    ExpectRoundTrip<Reply>(twelve, ChannelCommandReply(Id('h')));
-
-    // Never fewer than one result is sent and never more than there are slots, whatever the count says.
-    EXPECT_EQ(Reply::Received(Reply::Sent(ChannelCommandReply(Id('c'))), reply), ChannelCommandReply(Id('c')));
+    EXPECT_EQ(Reply::Received(Reply::Sent(twelve), ChannelCommandReply(Id('x'))), twelve);
+    EXPECT_EQ(Reply::Received(Reply::Sent(ChannelCommandReply(Id('c'))), twelve), ChannelCommandReply(Id('c')));
     for (auto const count : {0, 1, -1, std::numeric_limits<std::int32_t>::min()})
     {
         twelve.resultCount = count;

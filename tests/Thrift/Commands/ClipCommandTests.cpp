@@ -1,8 +1,8 @@
 #include "tests/Thrift/Commands/ResultsItems.h"
 
 #include "Thrift/Data/Clips/FromClip.h"
+#include "records/Commands.h"
 #include "tests/Thrift/Data/Channels/Values.h"
-#include "tools/records/Commands.h"
 
 #include <gtest/gtest.h>
 
@@ -26,18 +26,9 @@ namespace Clips = Corvane::Data::Clips;
 
 using CreateClips = Converters<CreateClipsCommandParamsToThriftConverter, ThriftToCreateClipsCommandParamsConverter>;
 using UpdateClips = Converters<UpdateClipsCommandParamsToThriftConverter, ThriftToUpdateClipsCommandParamsConverter>;
-using DeleteClips = Converters<DeleteClipsCommandParamsToThriftConverter, ThriftToDeleteClipsCommandParamsConverter>;
-using CreateGroup =
-    Converters<CreateAnglesGroupCommandParamsToThriftConverter, ThriftToCreateAnglesGroupCommandParamsConverter>;
-using UpdateGroup =
-    Converters<UpdateAnglesGroupCommandParamsToThriftConverter, ThriftToUpdateAnglesGroupCommandParamsConverter>;
-using DeleteGroup =
-    Converters<DeleteAnglesGroupCommandParamsToThriftConverter, ThriftToDeleteAnglesGroupCommandParamsConverter>;
 using Item = Converters<ClipResultsItemToThriftConverter, ThriftToClipResultsItemConverter>;
 using Reply = Converters<ClipCommandReplyToThriftConverter, ThriftToClipCommandReplyConverter>;
 using GroupReply = Converters<AnglesGroupCommandReplyToThriftConverter, ThriftToAnglesGroupCommandReplyConverter>;
-
-auto const HasClips = [](auto const& wire) { return bool(wire.__isset.clips); };
 
 Clip NamedClip(char const* const umId)
 {
@@ -57,12 +48,8 @@ CreateClipsCommandParams FullCreation(char const id)
 TEST(CreateClipsConversion, FieldsOfAnEntryAreTakenWithoutFlagsAndWhateverTheClipReports)
 {
     auto const full = FullCreation('c');
-    ExpectList<CreateClips>(full, &CreateClipsCommandParams::clips, &Generated::CreateClipsCommandParams::clips,
-                            HasClips);
     auto wire = CreateClips::Sent(full);
-    auto& isset = wire.clips[0].__isset;
-    EXPECT_TRUE(isset.sourceId && isset.clip && isset.setTimecodes);
-    isset = {};
+    wire.clips[0].__isset = {};
     EXPECT_EQ(CreateClips::Received(wire, full), full);
 
     wire.clips[0].clip = {}; // fails as empty
@@ -76,11 +63,7 @@ TEST(UpdateClipsConversion, FieldsOfAnEntryAreTakenWithoutFlagsAndWhateverTheCli
     UpdateClipsCommandParams full;
     full.commandGuid = Id('c');
     full.clips = {{NamedClip("OLD"), NamedClip("NEW")}, {Clip(), NamedClip("SECOND")}};
-    ExpectList<UpdateClips>(full, &UpdateClipsCommandParams::clips, &Generated::UpdateClipsCommandParams::clips,
-                            HasClips);
     auto wire = UpdateClips::Sent(full);
-    EXPECT_EQ(wire.clips[0].oldClip.umId, "OLD");
-    EXPECT_TRUE(wire.clips[0].__isset.oldClip && wire.clips[0].__isset.newClip);
     wire.clips[0].__isset = {};
     EXPECT_EQ(UpdateClips::Received(wire, full), full);
 
@@ -90,58 +73,12 @@ TEST(UpdateClipsConversion, FieldsOfAnEntryAreTakenWithoutFlagsAndWhateverTheCli
     EXPECT_EQ(UpdateClips::Received(wire, full), expected);
 }
 
-TEST(DeleteClipsConversion, RoundTrip)
-{
-    DeleteClipsCommandParams full;
-    full.commandGuid = Id('c');
-    full.clips = {Id<Clips::Guid>('b'), Id<Clips::Guid>('a'), Id<Clips::Guid>('b')};
-    ExpectList<DeleteClips>(full, &DeleteClipsCommandParams::clips, &Generated::DeleteClipsCommandParams::clips,
-                            HasClips);
-}
-
-TEST(AnglesGroupParamsConversion, CreationIsTakenWithoutFlags)
-{
-    CreateAnglesGroupCommandParams full;
-    full.commandGuid = Id('c');
-    full.groupKviIndex = -7;
-    full.creationParams = FullCreation('d');
-    ExpectParams<CreateGroup>(full, full);
-    auto const wire = CreateGroup::Sent(full);
-    EXPECT_TRUE(wire.__isset.groupKviIndex && wire.__isset.creationParams);
-    EXPECT_EQ(CreateGroup::Sent(full, wire).creationParams.clips.size(), 4u);
-}
-
-TEST(AnglesGroupParamsConversion, AngleWithoutFlagStaysAsItWas)
-{
-    UpdateAnglesGroupCommandParams full;
-    full.commandGuid = Id('c');
-    full.groupGuid = Id<Clips::Groups::Guid>('g');
-    auto onlyPrimary = full;
-    auto const taken = full;
-    full.primaryAngle = onlyPrimary.primaryAngle = Id<Clips::Guid>('p');
-    full.secondaryAngle = Id<Clips::Guid>('s');
-    ExpectParams<UpdateGroup>(full, taken, full);
-    ExpectRoundTrip<UpdateGroup>(onlyPrimary);
-    EXPECT_EQ(Printed(UpdateGroup::Sent(onlyPrimary)),
-              "UpdateAnglesGroupCommandParams(commandGuid=Guid(value=cccccccccccccccc), "
-              "groupGuid=Guid(value=gggggggggggggggg), primaryAngle=Guid(value=pppppppppppppppp), "
-              "secondaryAngle=<null>)");
-
-    DeleteAnglesGroupCommandParams deletion;
-    deletion.commandGuid = Id('c');
-    deletion.groupGuid = Id<Clips::Groups::Guid>('g');
-    ExpectParams<DeleteGroup>(deletion, deletion);
-    EXPECT_EQ(DeleteGroup::Sent(deletion).groupGuid.value, std::string(16, 'g'));
-}
-
 using Tests::Shown;
 
 auto Shown(AnglesGroupCommandReply const& reply)
 {
     return std::tuple(reply.commandGuid, Guid(reply.groupGuid), reply.operationStatus, Shown(reply.clipCommandReply));
 }
-
-auto const Show = [](auto const& value) { return Shown(value); };
 
 TEST(ClipResultsItemConversion, OnlyAClipOfAnItemThatSucceededTravels)
 {
@@ -207,14 +144,10 @@ ClipCommandReply FullReply(char const id)
     return reply;
 }
 
-TEST(ClipCommandReplyConversion, RoundTripReplacesTheReplyAndNeedsBothFields)
-{
-    ExpectReplyOfItems<Reply>(FullReply, "ClipCommandReply");
-}
-
 TEST(ClipCommandReplyConversion, KeepsAnEmptyItemAsFailed)
 {
     auto wire = Reply::Sent(FullReply('c'));
+    EXPECT_EQ(Shown(Reply::Received(wire, FullReply('h'))), Shown(FullReply('c')));
     wire.results[1] = {};
     wire.results[2].__isset.operationStatus = false; // a clip alone would be dropped
     wire.results[2].__isset.clip = true;
@@ -235,33 +168,24 @@ AnglesGroupCommandReply FullGroupReply(char const id)
 
 TEST(AnglesGroupCommandReplyConversion, IdentifierTravelsTwiceAndThatOfTheGroupNever)
 {
-    auto const fresh = [] { return FullGroupReply('h'); };
-    ExpectReplyRoundTrip<GroupReply>([] { return FullGroupReply('c'); }, Show, fresh);
-
     auto source = FullGroupReply('c');
     source.groupGuid = Id<Clips::Groups::Guid>('g');
     auto wire = GroupReply::Sent(std::move(source));
     EXPECT_EQ(wire.commandGuid, WireId(std::string(16, 'c')));
     EXPECT_EQ(wire.groupGuid, WireId(std::string(16, 'c')));
-    auto const& isset = wire.__isset;
-    EXPECT_TRUE(isset.commandGuid && isset.groupGuid && isset.operationStatus && isset.clipCommandReply);
 
     wire.groupGuid = WireId(std::string(16, 'w')); // coming in the two are told apart
-    EXPECT_EQ(GroupReply::Received(wire, fresh()).groupGuid, Id<Clips::Groups::Guid>('w'));
+    EXPECT_EQ(GroupReply::Received(wire, FullGroupReply('h')).groupGuid, Id<Clips::Groups::Guid>('w'));
 }
 
-TEST(AnglesGroupCommandReplyConversion, NeedsBothIdentifiersAndReplacesTheReply)
+TEST(AnglesGroupCommandReplyConversion, RefusedRecordLeavesTheReplyAndAnyOtherReplacesIt)
 {
     auto const wire = GroupReply::Sent(FullGroupReply('c'));
-    for (auto const field : {0, 1, 2})
-    {
-        auto partial = wire;
-        partial.__isset.commandGuid = field == 1;
-        partial.__isset.groupGuid = field == 2;
-        auto reply = FullGroupReply('h');
-        EXPECT_EQ(GroupReply::Told(partial, reply), "AnglesGroupCommandReply is empty");
-        EXPECT_EQ(Shown(reply), Shown(FullGroupReply('h')));
-    }
+    auto partial = wire;
+    partial.__isset.commandGuid = false;
+    auto reply = FullGroupReply('h');
+    EXPECT_EQ(GroupReply::Told(partial, reply), "AnglesGroupCommandReply is empty");
+    EXPECT_EQ(Shown(reply), Shown(FullGroupReply('h')));
 
     auto const expectNoItems = [](Generated::AnglesGroupCommandReply const& sent)
     {

@@ -1,7 +1,7 @@
 #include "tests/Thrift/Commands/ResultsItems.h"
 
+#include "records/Commands.h"
 #include "tests/Thrift/Data/Sequences/Values.h"
-#include "tools/records/Commands.h"
 
 #include <gtest/gtest.h>
 
@@ -15,16 +15,11 @@ using namespace Corvane::Zelmar::Serialization::Thrift::Commands;
 using Corvane::Data::OperationStatus;
 using Corvane::Data::Sequences::Playlist;
 using WireStatusOf = Corvane::Data::Generated::OperationStatusStatus;
-using SequenceGuid = Corvane::Data::Sequences::Guid;
 
 using Create = Converters<CreatePlaylistsCommandParamsToThriftConverter, ThriftToCreatePlaylistsCommandParamsConverter>;
 using Update = Converters<UpdatePlaylistsCommandParamsToThriftConverter, ThriftToUpdatePlaylistsCommandParamsConverter>;
-using Delete = Converters<DeletePlaylistsCommandParamsToThriftConverter, ThriftToDeletePlaylistsCommandParamsConverter>;
 using Item = Converters<PlaylistResultsItemToThriftConverter, ThriftToPlaylistResultsItemConverter>;
 using Reply = Converters<PlaylistCommandReplyToThriftConverter, ThriftToPlaylistCommandReplyConverter>;
-
-auto const HasPlaylists = [](auto const& wire) { return bool(wire.__isset.playlists); };
-auto const HasParams = [](auto const& wire) { return bool(wire.__isset.params); };
 
 Playlist NamedPlaylist(char const* const umId)
 {
@@ -38,8 +33,6 @@ TEST(PlaylistParamsConversion, ListsTravelWhateverThePlaylistsReport)
     CreatePlaylistsCommandParams creation;
     creation.commandGuid = Id('c');
     creation.playlists = {FullPlaylist(), Playlist()};
-    ExpectList<Create>(creation, &CreatePlaylistsCommandParams::playlists,
-                       &Generated::CreatePlaylistsCommandParams::playlists, HasPlaylists);
     auto wireCreation = Create::Sent(creation);
     wireCreation.playlists[0] = {}; // fails as empty
     creation.playlists[0] = Playlist();
@@ -48,21 +41,11 @@ TEST(PlaylistParamsConversion, ListsTravelWhateverThePlaylistsReport)
     UpdatePlaylistsCommandParams update;
     update.commandGuid = Id('c');
     update.params = {{NamedPlaylist("OLD"), NamedPlaylist("NEW")}, {Playlist(), FullPlaylist()}};
-    ExpectList<Update>(update, &UpdatePlaylistsCommandParams::params, &Generated::UpdatePlaylistsCommandParams::params,
-                       HasParams);
     auto wireUpdate = Update::Sent(update);
-    EXPECT_EQ(wireUpdate.params[0].oldPlaylist.sequence.umId, "OLD");
-    EXPECT_TRUE(wireUpdate.params[0].__isset.oldPlaylist && wireUpdate.params[0].__isset.newPlaylist);
     wireUpdate.params[0].__isset = {}; // the inner flags are not read
     wireUpdate.params[1].newPlaylist = {};
     update.params[1].newPlaylist = Playlist();
     EXPECT_EQ(Update::Received(wireUpdate), update);
-
-    DeletePlaylistsCommandParams deletion;
-    deletion.commandGuid = Id('c');
-    deletion.playlists = {Id<SequenceGuid>('b'), Id<SequenceGuid>('a')};
-    ExpectList<Delete>(deletion, &DeletePlaylistsCommandParams::playlists,
-                       &Generated::DeletePlaylistsCommandParams::playlists, HasPlaylists);
 }
 
 TEST(PlaylistResultsItemConversion, EveryHeldPlaylistTravelsWhateverTheStatus)
@@ -116,11 +99,6 @@ PlaylistCommandReply FullReply(char const id)
     reply.results[1] = SomeItem<PlaylistResultsItem>(Refused, NamedPlaylist("FAILED"));
     reply.results[2] = SomeItem<PlaylistResultsItem>(Waiting);
     return reply;
-}
-
-TEST(PlaylistCommandReplyConversion, RoundTripReplacesTheReplyAndNeedsBothFields)
-{
-    ExpectReplyOfItems<Reply>(FullReply, "PlaylistCommandReply");
 }
 
 TEST(PlaylistCommandReplyConversion, KeepsAnEmptyItemAsFailed)

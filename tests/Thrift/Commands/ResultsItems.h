@@ -4,10 +4,7 @@
 #include "Domain/CorvaneData/Optional.h"
 #include "tests/Thrift/Commands/Values.h"
 
-#include <gtest/gtest.h>
-
 #include <memory>
-#include <string>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -62,33 +59,6 @@ auto Shown(auto const& reply) requires requires
     std::vector<decltype(Shown(reply.results[0]))> items;
     for (auto const& item : reply.results) items.push_back(Shown(item));
     return std::pair(reply.commandGuid, items);
-}
-
-/// What replies of items owe: they replace what the destination held, append to a wire record that is used again, and need
-/// both fields. `full` builds a reply of three items under an identifier.
-template<typename TConverters>
-void ExpectReplyOfItems(auto const& full, std::string const& name)
-{
-    auto const show = [](auto const& reply) { return Shown(reply); };
-    auto const sent = [&] { return full('c'); };
-    auto const held = [&] { return full('h'); };
-    auto const none = [] { return typename TConverters::Domain(Id('c'), 0); };
-    ExpectReplyRoundTrip<TConverters>(sent, show, held);
-    ExpectReplyRoundTrip<TConverters>(none, show, held);
-    EXPECT_TRUE(TConverters::Sent(none()).__isset.results);
-    auto const wire = TConverters::Sent(sent());
-    EXPECT_TRUE(wire.__isset.guid);
-    EXPECT_EQ(TConverters::Sent(sent(), wire).results.size(), 6u);
-
-    for (auto const field : {0, 1, 2})
-    {
-        auto partial = wire;
-        partial.__isset.guid = field == 1;
-        partial.__isset.results = field == 2;
-        auto reply = held();
-        EXPECT_EQ(TConverters::Told(partial, reply), name + " is empty");
-        EXPECT_EQ(Shown(reply), Shown(held()));
-    }
 }
 
 } // namespace Talvo::Tests

@@ -4,8 +4,8 @@
 #include "Thrift/Data/ToGuid.h"
 #include "Thrift/Data/ToOperationStatus.h"
 #include "generated/OperationStatus_types.h"
+#include "tests/Thrift/Converters.h"
 #include "tests/Thrift/Data/Values.h"
-#include "tests/Thrift/RoundTrip.h"
 
 #include <gtest/gtest.h>
 
@@ -31,17 +31,6 @@ using OfStatus = Converters<OperationStatusToThriftConverter, ThriftToOperationS
 Guid Bytes(std::string const& bytes)
 {
     return {reinterpret_cast<unsigned char const*>(bytes.data()), static_cast<unsigned int>(bytes.size())};
-}
-
-TEST(GuidConversion, RoundTrip)
-{
-    ExpectRoundTrip<OfGuid>(Bytes("\x01\x7F\x80\xFF"
-                                  "abcdefghijkl"));
-
-    // The empty identifier travels like any other.
-    auto const wire = OfGuid::Sent(Guid::Empty());
-    EXPECT_TRUE(wire.__isset.value);
-    EXPECT_EQ(wire.value, std::string(16, '\0'));
 }
 
 TEST(GuidConversion, OtherLengthsAreCutOrFilledAndAClearFlagIsEmpty)
@@ -92,7 +81,7 @@ TEST(OperationStatusConversion, OneFieldTravelsAndTheOtherIsMadeUp)
         auto const wire = OfStatus::Sent(sent);
         EXPECT_EQ(wire.__isset.result, sent.status == Status::Failed);
         EXPECT_EQ(wire.__isset.status, sent.status != Status::Failed);
-        EXPECT_EQ(OfStatus::Received(Read<Wire::OperationStatus>(Written(wire))), received);
+        EXPECT_EQ(OfStatus::Received(wire), received);
     }
 }
 

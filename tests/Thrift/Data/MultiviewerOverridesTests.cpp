@@ -7,7 +7,7 @@
 #include "Thrift/Data/ToPlayerDataOverrides.h"
 #include "generated/MultiviewerDataOverrides_types.h"
 #include "generated/PlayerDataOverrides_types.h"
-#include "tests/Thrift/RoundTrip.h"
+#include "tests/Thrift/Converters.h"
 
 #include <gtest/gtest.h>
 
@@ -25,58 +25,6 @@ namespace Wire = Corvane::Data::Generated;
 
 using OfPlayer = Converters<FromPlayerDataOverrides, ToPlayerDataOverrides>;
 using OfMultiviewer = Converters<FromMultiviewerDataOverrides, ToMultiviewerDataOverrides>;
-
-TEST(PlayerDataOverridesConversion, RoundTrip)
-{
-    ExpectRoundTrip<OfPlayer>(FullOverrides('p'));
-    ExpectRoundTrip<OfPlayer>(NoOverrides('p'));
-    EXPECT_EQ(Printed(OfPlayer::Sent(FullOverrides('p'))),
-              "PlayerDataOverrides(playerGuid=Guid(value=pppppppppppppppp), clipCreationIn=-3, clipCreationOut=4, "
-              "isFirstControlledMediaOutput=1, controlMode=2, programMode=1, isPostRollEnabled=1, message=A message)");
-
-    // An override may hold the value that a wire record starts with, and the empty time point.
-    auto overrides = NoOverrides('p');
-    overrides.GetClipCreationBoudaries().TimePointIn(TimePoints::TimePoint::Empty());
-    overrides.IsFirstControlledMediaOutput(false);
-    overrides.ControlMode(ControlType::Lever);
-    overrides.ProgramMode(ProgramType::Program);
-    overrides.IsPostRollEnabled(false);
-    overrides.Message("");
-    ExpectRoundTrip<OfPlayer>(overrides);
-}
-
-TEST(PlayerDataOverridesConversion, AbsentOverridesClearTheWiresFlagsButNotTheDomains)
-{
-    auto const wire = OfPlayer::Sent(NoOverrides('n'), OfPlayer::Sent(FullOverrides('p')));
-    EXPECT_EQ(Printed(wire), "PlayerDataOverrides(playerGuid=Guid(value=nnnnnnnnnnnnnnnn), clipCreationIn=<null>, "
-                             "clipCreationOut=<null>, isFirstControlledMediaOutput=<null>, controlMode=<null>, "
-                             "programMode=<null>, isPostRollEnabled=<null>, message=<null>)");
-    EXPECT_EQ(OfPlayer::Received(wire, FullOverrides('p')), FullOverrides('n'));
-}
-
-TEST(PlayerDataOverridesConversion, FieldsOfTheWireAreAppliedOneByOne)
-{
-    // The player is in every record, and each override in one of them.
-    auto const full = OfPlayer::Sent(FullOverrides('p'));
-    auto assembled = NoOverrides('p');
-    auto const apply = [&](auto flag)
-    {
-        auto wire = full;
-        wire.__isset = {};
-        flag(wire.__isset);
-        auto const before = assembled;
-        assembled = OfPlayer::Received(wire, before);
-        EXPECT_NE(assembled, before);
-    };
-    apply([](auto& isset) { isset.clipCreationIn = true; });
-    apply([](auto& isset) { isset.clipCreationOut = true; });
-    apply([](auto& isset) { isset.isFirstControlledMediaOutput = true; });
-    apply([](auto& isset) { isset.controlMode = true; });
-    apply([](auto& isset) { isset.programMode = true; });
-    apply([](auto& isset) { isset.isPostRollEnabled = true; });
-    apply([](auto& isset) { isset.message = true; });
-    EXPECT_EQ(assembled, FullOverrides('p'));
-}
 
 TEST(PlayerDataOverridesConversion, ModesHaveTheNumbersOfTheWireAndUnknownOnesChangeNothingButTheFlag)
 {
@@ -132,17 +80,6 @@ MultiviewerDataOverrides ThreePlayers()
     return multiviewer;
 }
 
-TEST(MultiviewerDataOverridesConversion, RoundTripReplacesTheWiresPlayers)
-{
-    ExpectRoundTrip<OfMultiviewer>(ThreePlayers(), MultiviewerDataOverrides(3));
-    MultiviewerDataOverrides const none(0);
-    ExpectRoundTrip<OfMultiviewer>(none, none);
-    auto const wire = OfMultiviewer::Sent(ThreePlayers(), OfMultiviewer::Sent(ThreePlayers()));
-    ASSERT_EQ(wire.playersData.size(), 3u);
-    EXPECT_EQ(wire.playersData[2].playerGuid.value, std::string(16, 'c'));
-    EXPECT_TRUE(OfMultiviewer::Sent(none, wire).playersData.empty());
-}
-
 TEST(MultiviewerDataOverridesConversion, TheDestinationDecidesTheNumberOfPlayers)
 {
     auto const wire = OfMultiviewer::Sent(ThreePlayers());
@@ -153,11 +90,6 @@ TEST(MultiviewerDataOverridesConversion, TheDestinationDecidesTheNumberOfPlayers
         EXPECT_EQ(OfMultiviewer::Told(wire, multiviewer), "Unexpected playerData count");
         EXPECT_EQ(multiviewer, before);
     }
-
-    // Entries are patched as those of a single player.
-    auto multiviewer = ThreePlayers();
-    multiviewer[1].Message("kept");
-    EXPECT_EQ(OfMultiviewer::Received(wire, multiviewer), multiviewer);
 }
 
 } // namespace

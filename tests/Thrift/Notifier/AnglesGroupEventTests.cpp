@@ -1,7 +1,7 @@
 #include "tests/Thrift/Notifier/Values.h"
 
 #include "Domain/CorvaneData/Notification/AnglesGroupCreationFailedEventArgs.h"
-#include "tools/records/Notifier.h"
+#include "records/Notifier.h"
 
 #include <gtest/gtest.h>
 
@@ -55,44 +55,25 @@ struct Creation : GroupEvent<Clips::Groups::AnglesGroup, AnglesGroupCreationEven
                              ThriftToAnglesGroupCreationEventArgsConverter>
 {
     static auto& Base(Wire& wire) { return wire; }
-    static constexpr auto Text = "<base>";
-    static constexpr auto BaseText = "AnglesGroupCreationEventArgs(clipCommandEventArgs=<block>, anglesGroup=<group>, "
-                                     "databaseRevision=-4294967301)";
 };
 
 struct CreationFinished : GroupEvent<Clips::Groups::AnglesGroup, AnglesGroupCreationFinishedEventArgsToThriftConverter,
                                      ThriftToAnglesGroupCreationFinishedEventArgsConverter>
 {
     static auto& Base(Wire& wire) { return wire.creationEventArgs; }
-    static constexpr auto Text = "AnglesGroupCreationFinishedEventArgs(creationEventArgs=<base>)";
-    static constexpr auto BaseText = Creation::BaseText;
 };
 
 struct UpdateFinished : GroupEvent<Clips::Groups::AnglesGroup, AnglesGroupUpdateFinishedEventArgsToThriftConverter,
                                    ThriftToAnglesGroupUpdateFinishedEventArgsConverter>
 {
     static auto& Base(Wire& wire) { return wire.updateEventArgs; }
-    static constexpr auto Text = "AnglesGroupUpdateFinishedEventArgs(updateEventArgs=<base>)";
-    static constexpr auto BaseText = "AnglesGroupUpdateEventArgs(clipCommandEventArgs=<block>, anglesGroup=<group>, "
-                                     "databaseRevision=-4294967301)";
 };
 
 struct DeletionFinished : GroupEvent<Clips::Groups::Guid, AnglesGroupDeletionFinishedEventArgsToThriftConverter,
                                      ThriftToAnglesGroupDeletionFinishedEventArgsConverter>
 {
     static auto& Base(Wire& wire) { return wire.deletionEventArgs; }
-    static constexpr auto Text = "AnglesGroupDeletionFinishedEventArgs(deletionEventArgs=<base>)";
-    static constexpr auto BaseText = "AnglesGroupDeletionEventArgs(clipCommandEventArgs=<block>, "
-                                     "anglesGroupId=Guid(value=ffffffffffffffff), databaseRevision=-4294967301)";
 };
-
-std::string ShownBase(auto const& wire)
-{
-    if constexpr (requires { wire.anglesGroup; })
-        return Shown(wire, {{Printed(wire.clipCommandEventArgs), "<block>"}, {Printed(wire.anglesGroup), "<group>"}});
-    else
-        return Shown(wire, {{Printed(wire.clipCommandEventArgs), "<block>"}});
-}
 
 template<typename TEvent>
 class AnglesGroupEventConversion : public testing::Test
@@ -100,15 +81,6 @@ class AnglesGroupEventConversion : public testing::Test
 };
 using GroupEvents = testing::Types<Creation, CreationFinished, UpdateFinished, DeletionFinished>;
 TYPED_TEST_SUITE(AnglesGroupEventConversion, GroupEvents, );
-
-TYPED_TEST(AnglesGroupEventConversion, RoundTripReplacesTheDestination)
-{
-    using Event = TypeParam;
-    ExpectRoundTrip<Event>(Event::Full(), Event::Held());
-    auto wire = Event::Sent(Event::Full());
-    EXPECT_EQ(Shown(wire, {{Printed(Event::Base(wire)), "<base>"}}), Event::Text);
-    EXPECT_EQ(ShownBase(Event::Base(wire)), Event::BaseText);
-}
 
 TYPED_TEST(AnglesGroupEventConversion, ABadBlockLeavesPlaceholdersInTheDestination)
 {
@@ -128,8 +100,8 @@ TEST(AnglesGroupCreationFailedConversion, GoesToTheWireOnly)
     event.internalResult = -7;
     Generated::AnglesGroupCreationFailedEventArgs wire;
     EXPECT_TRUE(AnglesGroupCreationFailedEventArgsToThriftConverter().To(event, wire).success);
-    EXPECT_EQ(Shown(wire, {{Printed(wire.creationEventArgs), "<base>"}}),
-              "AnglesGroupCreationFailedEventArgs(creationEventArgs=<base>, result=3, internalResult=-7)");
+    EXPECT_EQ(wire.result, Corvane::Data::Generated::OperationResult::ResourceNotFound);
+    EXPECT_EQ(wire.internalResult, -7);
     EXPECT_EQ(wire.creationEventArgs, Creation::Sent(Creation::Full()));
 }
 

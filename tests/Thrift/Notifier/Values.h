@@ -4,14 +4,7 @@
 #include "Domain/CorvaneData/Guid.h"
 #include "Domain/CorvaneData/Notification/ClipCommandEventArgs.h"
 #include "tests/Thrift/Commands/Values.h"
-#include "tests/Thrift/RoundTrip.h"
-
-#include <cstddef>
-#include <initializer_list>
-#include <string>
-#include <string_view>
-#include <utility>
-#include <vector>
+#include "tests/Thrift/Converters.h"
 
 namespace Talvo::Tests
 {
@@ -55,32 +48,6 @@ inline Block Placeholders()
     Block block;
     block.databaseRevision = FullBlock().databaseRevision;
     return block;
-}
-
-/// The printed record, in which a short name stands for each nested record.
-template<typename TWire>
-std::string Shown(TWire const& wire, std::initializer_list<std::pair<std::string, std::string_view>> const& names)
-{
-    auto text = Printed(wire);
-    for (auto const& [nested, name] : names)
-        if (auto const at = text.find(nested); at != std::string::npos) text.replace(at, nested.size(), name);
-    return text;
-}
-
-/// What a reader finds when one field was not sent, for each field in turn.
-template<typename TWire>
-std::vector<TWire> EachFieldMissing(TWire const& wire)
-{
-    auto const fields = FieldByField(wire);
-    std::vector<TWire> records;
-    for (std::size_t missing = 0; missing < fields.size(); ++missing)
-    {
-        std::string bytes;
-        for (std::size_t i = 0; i < fields.size(); ++i)
-            if (i != missing) bytes.append(fields[i], 0, fields[i].size() - 1);
-        records.push_back(Read<TWire>(bytes + '\0'));
-    }
-    return records;
 }
 
 } // namespace Talvo::Tests

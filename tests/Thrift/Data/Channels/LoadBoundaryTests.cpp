@@ -2,7 +2,7 @@
 #include "Thrift/Data/Channels/FromLoadBoundary.h"
 #include "Thrift/Data/Channels/ToLoadBoundary.h"
 #include "generated/LoadBoundary_types.h"
-#include "tests/Thrift/RoundTrip.h"
+#include "tests/Thrift/Converters.h"
 
 #include <gtest/gtest.h>
 
@@ -21,37 +21,6 @@ using enum Boundary::RelativeTo;
 using OfBoundary = Converters<LoadBoundaryToThriftConverter, ThriftToLoadBoundaryConverter>;
 
 Boundary const Before = Boundary::RelativeBoundary(RelativeToOppositeClipBoundary, 77);
-
-TEST(LoadBoundaryConversion, RoundTrip)
-{
-    struct Row
-    {
-        Boundary boundary;
-        LoadBoundaryType::type type;
-    };
-    for (auto const& [boundary, type] : {
-             Row{Boundary(), LoadBoundaryType::Absolute},
-             Row{Boundary::AbsoluteBoundary({-5}), LoadBoundaryType::Absolute},
-             Row{Boundary::RelativeBoundary(RelativeToCorrespondingClipBoundary, 0),
-                 LoadBoundaryType::RelativeToCorrespondingClipBoundary},
-             Row{Boundary::RelativeBoundary(RelativeToOppositeClipBoundary, 9),
-                 LoadBoundaryType::RelativeToOppositeClipBoundary},
-             Row{Boundary::RelativeBoundary(RelativeToOppositeLoadBoundary, 0xFFFFFFFF),
-                 LoadBoundaryType::RelativeToOppositeLoadBoundary},
-         })
-    {
-        SCOPED_TRACE(type);
-        ExpectRoundTrip<OfBoundary>(boundary, Before);
-        auto const wire = OfBoundary::Sent(boundary);
-        EXPECT_EQ(wire.type, type);
-        auto const& specialized = wire.specializedLoadBoundary;
-        EXPECT_EQ(specialized.__isset.absoluteLoadBoundary, boundary.IsAbsolute());
-        EXPECT_EQ(specialized.__isset.relativeLoadBoundary, !boundary.IsAbsolute());
-        EXPECT_EQ(specialized.absoluteLoadBoundary.__isset.timepoint, boundary.IsAbsolute());
-        EXPECT_EQ(specialized.relativeLoadBoundary.__isset.fieldCount, !boundary.IsAbsolute());
-        EXPECT_EQ(specialized.relativeLoadBoundary.fieldCount, std::int64_t{boundary.FieldCount()}); // never negative
-    }
-}
 
 TEST(LoadBoundaryConversion, ReusedWireRecordKeepsTheOtherMember)
 {

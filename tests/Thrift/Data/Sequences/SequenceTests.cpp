@@ -1,7 +1,7 @@
 #include "tests/Thrift/Data/Sequences/Values.h"
 
-#include "tests/Thrift/RoundTrip.h"
-#include "tools/records/Sequences.h"
+#include "records/Sequences.h"
+#include "tests/Thrift/Converters.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -27,7 +27,6 @@ using TimePoints::VideoRate;
 
 using WireArchiveStatus = Corvane::Zelmar::Serialization::Thrift::Data::Clips::Generated::ArchiveStatus;
 
-using OfSequenceId = Converters<SequenceIdToThriftConverter, ThriftToSequenceIdConverter>;
 using OfSequence = Converters<SequenceToThriftConverter, ThriftToSequenceConverter>;
 
 constexpr auto Min64 = std::numeric_limits<std::int64_t>::min();
@@ -36,49 +35,6 @@ constexpr auto Max64 = std::numeric_limits<std::int64_t>::max();
 std::string Text(auto const& payload)
 {
     return {payload.begin(), payload.end()};
-}
-
-TEST(SequenceIdConversion, RoundTripAndPatch)
-{
-    SequenceId const full(ServerId(0x7FFFFFFF), SequenceId::MaxLocation);
-    ExpectRoundTrip<OfSequenceId>(full);
-    ExpectRoundTrip<OfSequenceId>(SequenceId());
-    ExpectFieldByField<OfSequenceId>(full);
-
-    Generated::SequenceId wire;
-    wire.serverId = 5;
-    wire.location = 110; // its flag is clear
-    auto id = full;
-    EXPECT_EQ(OfSequenceId::Told(wire, id), "SequenceId is empty");
-    EXPECT_EQ(id, full);
-    wire.__isset.serverId = true;
-    EXPECT_EQ(OfSequenceId::Received(wire, full), SequenceId(ServerId(5), SequenceId::MaxLocation));
-}
-
-TEST(SequenceConversion, RoundTrip)
-{
-    ExpectRoundTrip<OfSequence>(FullSequence());
-    ExpectRoundTrip<OfSequence>(Sequence());
-    ExpectRoundTrip<OfSequence>(Sequence(), FullSequence());
-}
-
-TEST(SequenceConversion, EveryFieldIsAppliedByItsOwnFlagAndSixCount)
-{
-    Sequence assembled;
-    EXPECT_EQ(FieldByField(OfSequence::Sent(FullSequence())).size(), 16u);
-    EXPECT_EQ(FieldsThatCount<OfSequence>(FullSequence(), assembled, "Sequence is empty"), "1 2 3 4 6 17 ");
-    auto expected = FullSequence();
-    expected.playRate = {1, 1}; // takes both of its fields at once
-    EXPECT_EQ(assembled, expected);
-
-    Generated::Sequence wire;
-    EXPECT_EQ(OfSequence::Told(wire, assembled), "Sequence is empty");
-    wire.playRateNumerator = 60000;
-    wire.playRateDenominator = 1001;
-    wire.__isset.playRateNumerator = wire.__isset.playRateDenominator = true;
-    EXPECT_EQ(assembled, expected);
-    EXPECT_EQ(OfSequence::Told(wire, assembled), "Sequence is empty"); // applied, yet it does not count
-    EXPECT_EQ(assembled, FullSequence());
 }
 
 TEST(SequenceConversion, PlayRateGoesByItsNumeratorAlone)

@@ -1,12 +1,10 @@
 #include "tests/Thrift/Data/Sequences/Values.h"
 
 #include "Thrift/Data/Sequences/FromTag.h"
-#include "Thrift/Data/Sequences/FromTagProperty.h"
 #include "Thrift/Data/Sequences/ToTag.h"
-#include "Thrift/Data/Sequences/ToTagProperty.h"
 #include "generated/TagProperty_types.h"
 #include "generated/Tag_types.h"
-#include "tests/Thrift/RoundTrip.h"
+#include "tests/Thrift/Converters.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -28,7 +26,6 @@ using Corvane::Data::Sequences::TagProperty;
 using testing::ElementsAre;
 using testing::Pair;
 
-using OfProperty = Converters<TagPropertyToThriftConverter, ThriftToTagPropertyConverter>;
 using OfTag = Converters<TagToThriftConverter, ThriftToTagConverter>;
 
 Generated::TagProperty WireProperty(std::vector<int> const& value)
@@ -47,52 +44,6 @@ auto ByKey(auto const& properties)
     for (auto const& [key, property] : properties)
         values[static_cast<int>(key)].assign(property.value.begin(), property.value.end());
     return values;
-}
-
-TEST(TagPropertyConversion, RoundTripReplacesTheDestination)
-{
-    TagProperty const fresh(9);
-    EXPECT_EQ(fresh, Property(TagProperty::Type::Integer, {9}));
-    for (auto const& property : {Property(TagProperty::Type::String, {72, 105}),
-                                 Property(TagProperty::Type::Vector, {-2147483647 - 1, 0, 2147483647}),
-                                 Property(TagProperty::Type::Boolean, {})})
-        ExpectRoundTrip<OfProperty>(property, fresh);
-}
-
-TEST(TagPropertyConversion, BothFieldsAreNeeded)
-{
-    for (auto const missing : {0, 1, 2})
-    {
-        auto wire = WireProperty({1});
-        if (missing != 1) wire.__isset.dataType = false;
-        if (missing != 0) wire.__isset.value = false;
-        auto property = Property(TagProperty::Type::Vector, {7});
-        EXPECT_EQ(OfProperty::Told(wire, property), "TagProperty is empty");
-        EXPECT_EQ(property, Property(TagProperty::Type::Vector, {7}));
-    }
-}
-
-TEST(TagPropertyConversion, WireIntegersAreAppendedTo)
-{
-    auto wire = WireProperty({1, 2});
-    wire.__isset = {};
-    wire = OfProperty::Sent(Property(TagProperty::Type::Vector, {3}), wire);
-    EXPECT_THAT(wire.value, ElementsAre(1, 2, 3));
-    EXPECT_EQ(wire.dataType, Generated::TagPropertyType::Vector);
-    EXPECT_TRUE(wire.__isset.dataType && wire.__isset.value);
-
-    EXPECT_TRUE(OfProperty::Sent(Property(TagProperty::Type::Vector, {})).__isset.value);
-}
-
-TEST(TagConversion, RoundTripResetsTheDestination)
-{
-    Tag const custom(Tag::CommandType::Custom);
-    for (auto const& [value, fresh] : {std::pair(FullTag(), custom), {custom, custom}, {custom, FullTag()}})
-        ExpectRoundTrip<OfTag>(value, fresh);
-
-    auto const wire = OfTag::Sent(custom);
-    EXPECT_EQ(FieldByField(wire).size(), 4u);
-    EXPECT_TRUE(wire.__isset.id && wire.__isset.commandType && wire.__isset.field && wire.__isset.properties);
 }
 
 TEST(TagConversion, CommandTypeResetsBeforeTheOtherFieldsPatch)

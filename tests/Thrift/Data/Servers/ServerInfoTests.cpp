@@ -3,7 +3,7 @@
 #include "Thrift/Data/Servers/FromServerInfo.h"
 #include "Thrift/Data/Servers/ToServerInfo.h"
 #include "generated/ServerInfo_types.h"
-#include "tests/Thrift/RoundTrip.h"
+#include "tests/Thrift/Converters.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -21,7 +21,6 @@ namespace
 using namespace Corvane::Zelmar::Serialization::Thrift::Data::Servers;
 using Corvane::Data::Servers::IpAddress;
 using Corvane::Data::Servers::ServerChassis;
-using Corvane::Data::Servers::ServerId;
 using Corvane::Data::Servers::ServerInfo;
 using testing::ElementsAre;
 
@@ -33,45 +32,6 @@ ServerInfo Received(Generated::ServerInfo const& wire, std::string const& failur
     auto info = FullServerInfo();
     EXPECT_EQ(Info::Told(wire, info), failure);
     return info;
-}
-
-TEST(ServerInfoConversion, RoundTrip)
-{
-    ExpectRoundTrip<Info>(FullServerInfo());
-    ExpectRoundTrip<Info>(ServerInfo(), FullServerInfo());
-    ServerInfo shortest;
-    SetText(shortest.corvaneVersion, "v");
-    SetText(shortest.hardwareRevision, "r");
-    SetText(shortest.hostName, "h");
-    ExpectRoundTrip<Info>(shortest, FullServerInfo());
-    EXPECT_EQ(Printed(Info::Sent(FullServerInfo())),
-              "ServerInfo(serverId=-7, userNumber=-8, corvaneVersion=A version text of 32 bytes, full, "
-              "serverChassis=18, hardwareRevision=16 bytes of text, hostName=" +
-                  std::string(254, 'h') +
-                  ", kronoIpAddress=-1062731518, gbeIpAddresses=[167772161, -66052], isLocal=1)");
-}
-
-TEST(ServerInfoConversion, ANewOneIsNoServer)
-{
-    ServerInfo const info;
-    EXPECT_EQ(info.serverId, ServerId(-1));
-    EXPECT_TRUE(info.hasNoGbeAddresses);
-    EXPECT_FALSE(info.isLocal);
-    auto const wire = Info::Sent(info);
-    EXPECT_FALSE(wire.__isset.corvaneVersion || wire.__isset.hardwareRevision || wire.__isset.hostName ||
-                 wire.__isset.gbeIpAddresses);
-}
-
-TEST(ServerInfoConversion, ReusedWireRecordKeepsTextsAndAppendsAddresses)
-{
-    auto wire = Info::Sent(FullServerInfo());
-    wire = Info::Sent(ServerInfo(), wire);
-    EXPECT_EQ(wire.hostName, std::string(254, 'h'));
-    EXPECT_EQ(wire.corvaneVersion, "A version text of 32 bytes, full");
-    EXPECT_EQ(wire.hardwareRevision, "16 bytes of text");
-    EXPECT_EQ(wire.serverId, -1);
-    EXPECT_THAT(wire.gbeIpAddresses, ElementsAre(0x0A000001, -66052));
-    EXPECT_THAT(Info::Sent(FullServerInfo(), wire).gbeIpAddresses, ElementsAre(0x0A000001, -66052, 0x0A000001, -66052));
 }
 
 TEST(ServerInfoConversion, AddressesAreFourOctetsMostSignificantFirst)
@@ -166,21 +126,6 @@ TEST(ServerInfoConversion, AddressesComeInTwosOrNotAtAll)
     EXPECT_EQ(Received(wire), expected); // they are enough
     wire.__isset.gbeIpAddresses = false; // the flag decides
     EXPECT_EQ(Received(wire, "ServerInfo is empty"), ServerInfo());
-}
-
-TEST(ServerInfoConversion, EachFieldAloneIsEnoughAndNoOtherIsKept)
-{
-    for (auto const& bytes : FieldByField(Info::Sent(FullServerInfo())))
-    {
-        auto const info = Received(Read<Generated::ServerInfo>(bytes));
-        auto const full = FullServerInfo();
-        int const kept = (info.serverId == full.serverId) + (info.userNumber == full.userNumber) +
-                         (info.corvaneVersion == full.corvaneVersion) + (info.serverChassis == full.serverChassis) +
-                         (info.hardwareRevision == full.hardwareRevision) + (info.hostName == full.hostName) +
-                         (info.kronoIpAddress == full.kronoIpAddress) +
-                         (info.gbeIpAddressPair == full.gbeIpAddressPair) + (info.isLocal == full.isLocal);
-        EXPECT_EQ(kept, 1);
-    }
 }
 
 } // namespace
