@@ -25,7 +25,6 @@ using Channel = Corvane::Data::Channels::Guid;
 
 struct Player : Converters<PlayerStateChangedEventArgsToThriftConverter, ThriftToPlayerStateChangedEventArgsConverter>
 {
-    static constexpr auto Name = "PlayerStateChanged";
     static constexpr auto Type = Channel::Type::ChannelGuidTypePlayer;
     static auto State() { return FullPlayerState(); }
     static auto& Clip(Wire& wire)
@@ -38,7 +37,6 @@ struct Player : Converters<PlayerStateChangedEventArgsToThriftConverter, ThriftT
 struct Recorder
     : Converters<RecorderStateChangedEventArgsToThriftConverter, ThriftToRecorderStateChangedEventArgsConverter>
 {
-    static constexpr auto Name = "RecorderStateChanged";
     static constexpr auto Type = Channel::Type::ChannelGuidTypeRecorder;
     static auto State() { return FullRecorderState(); }
     static auto& Clip(Wire& wire) { return wire.status.recorderTrain; }
