@@ -126,7 +126,7 @@ std::uint32_t RecordFiller::skip(TType)
     return 0;
 }
 
-std::uint32_t RecordFiller::readListBegin(TType&, std::uint32_t& size)
+std::uint32_t RecordFiller::readListBegin(TType&, std::uint32_t& size) const
 {
     size = isZero_ ? 0 : ContainerSize;
     return 0;
@@ -137,7 +137,7 @@ std::uint32_t RecordFiller::readListEnd()
     return 0;
 }
 
-std::uint32_t RecordFiller::readSetBegin(TType&, std::uint32_t& size)
+std::uint32_t RecordFiller::readSetBegin(TType&, std::uint32_t& size) const
 {
     size = isZero_ ? 0 : ContainerSize;
     return 0;
@@ -148,7 +148,7 @@ std::uint32_t RecordFiller::readSetEnd()
     return 0;
 }
 
-std::uint32_t RecordFiller::readMapBegin(TType&, TType&, std::uint32_t& size)
+std::uint32_t RecordFiller::readMapBegin(TType&, TType&, std::uint32_t& size) const
 {
     size = isZero_ ? 0 : ContainerSize;
     return 0;

@@ -66,12 +66,12 @@ public:
     std::uint32_t readFieldEnd();
     std::uint32_t skip(apache::thrift::protocol::TType type);
 
-    std::uint32_t readListBegin(apache::thrift::protocol::TType& elements, std::uint32_t& size);
+    std::uint32_t readListBegin(apache::thrift::protocol::TType& elements, std::uint32_t& size) const;
     std::uint32_t readListEnd();
-    std::uint32_t readSetBegin(apache::thrift::protocol::TType& elements, std::uint32_t& size);
+    std::uint32_t readSetBegin(apache::thrift::protocol::TType& elements, std::uint32_t& size) const;
     std::uint32_t readSetEnd();
     std::uint32_t readMapBegin(apache::thrift::protocol::TType& keys, apache::thrift::protocol::TType& values,
-                               std::uint32_t& size);
+                               std::uint32_t& size) const;
     std::uint32_t readMapEnd();
 
     std::uint32_t readBool(bool& value);
