@@ -169,6 +169,18 @@ using ClipEvents = testing::Types<CreationStarted, CreationFinished, CreationFai
                                   MassDeletionFinished, MassDeletionFailed, MoveStarted, MoveFinished, MoveFailed>;
 TYPED_TEST_SUITE(ClipEventConversion, ClipEvents, );
 
+TYPED_TEST(ClipEventConversion, SendsTheFirstClipFirst)
+{
+    auto wire = TypeParam::Sent(TypeParam::Full());
+    std::string names;
+    for (auto const* const clip : ClipsOf(wire)) names += clip->umId + ' ';
+    EXPECT_TRUE(names == "UMID0001 SECOND " || names == "UMID0001 " || names.empty()) << names;
+    if constexpr (requires { wire.fromUCode; })
+    {
+        EXPECT_TRUE(wire.fromUCode && !wire.forceForPlaylist);
+    }
+}
+
 TYPED_TEST(ClipEventConversion, RevisionIsTakenWithoutItsFlagAndTheInternalResultIsNot)
 {
     using Event = TypeParam;
