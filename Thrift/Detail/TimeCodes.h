@@ -19,7 +19,6 @@ using TimePoints::WriteTimeCode;
 /// Unguarded in: a bad text is a BadValue, which ends the process in `To`.
 inline TimePoints::TimeCode ParseTimeCode(char const* const field, std::string const& text)
 {
-    if (auto const timeCode = ReadTimeCode(text)) return *timeCode;
     return OrBadValue(field, [&] { return TimePoints::TalvoTimeCodeParser().Parse(text); });
 }
 
