@@ -80,7 +80,7 @@ struct RecordType
     RoundTrip (*throughDomain)(WireRecord const&);
 };
 
-/// Every record, by namespace and name.
+/// Every record, by namespace, those of data and outer ones first, and name.
 std::vector<RecordType> const& RecordTypes();
 
 /// Whether both records convert, each into a newly built domain object, and these are equal.

@@ -231,8 +231,9 @@ void VisitFields([[maybe_unused]] ::{schema.namespace}::{record} const& record, 
 """)
             group = schema.namespace.removesuffix("::Generated").rpartition("::")[2]
             records.append((schema.namespace, record, group))
+    records.sort(key=lambda of: ("::Data::" not in of[0], of[0].count("::"), of))
     visits = [f'    visit(std::type_identity<::{namespace}::{record}>(), "{record}", "{group}");\n'
-              for namespace, record, group in sorted(records)]
+              for namespace, record, group in records]
     return f"""\
 #ifndef TALVO_RECORD_FIELDS_H
 #define TALVO_RECORD_FIELDS_H
@@ -245,7 +246,7 @@ namespace Talvo::Records {{
 // Calls visit(id, name, flag, value) for each field, in the order of the schema; the flag of a required field is true.
 
 {chr(10).join(views)}
-// Calls visit(type_identity, name, group) for each record, by namespace and name.
+// Calls visit(type_identity, name, group) for each record, by namespace, those of data and outer ones first, and name.
 template<typename TVisit>
 void VisitRecords(TVisit&& visit)
 {{
