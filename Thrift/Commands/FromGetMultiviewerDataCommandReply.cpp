@@ -25,7 +25,8 @@ ConversionResult GetMultiviewerDataCommandReplyToThriftConverter::To(
         return Nested(result);
     if (auto const result = fromStatus.To(source.operationStatus, destination.status); !result.success)
         return Nested(result);
-    return SendOverrides(source.playersDataOverrides, [&](auto&& channel, auto&& overrides)
+    return SendOverrides(source.playersDataOverrides, [&](Corvane::Data::Generated::Guid&& channel,
+                                                          Corvane::Data::Generated::PlayerDataOverrides&& overrides)
                          { destination.playersDataOverrides.emplace(std::move(channel), std::move(overrides)); });
 }
 

@@ -17,7 +17,8 @@ ConversionResult SetMultiviewerDataCommandParamsToThriftConverter::To(
 {
     // The identifier does not travel. Peers rely on it.
     return SendOverrides(
-        source.playersDataOverrides, [&](auto&& channel, auto&& overrides)
+        source.playersDataOverrides,
+        [&](Corvane::Data::Generated::Guid&& channel, Corvane::Data::Generated::PlayerDataOverrides&& overrides)
         { destination.playersDataOverrides.insert_or_assign(std::move(channel), std::move(overrides)); });
 }
 
