@@ -7,7 +7,8 @@ The Thrift compiler does most of the work. This step finishes what it leaves ope
 
   <file>_types.h       enumerations get the fixed underlying type int, since any 32-bit number is legal on the wire; each
                        record declares its fields first, then destructor, fingerprint constants, constructors and setters
-  <file>_types.tcc     as the compiler writes it
+  <file>_types.tcc     before and after the elements of a container, `read` calls `beginElements(container, size)` and
+                       `endElements(container)` of protocols that have them: those that bound memory
   <file>_types.cpp     printing of records and enumerations, fingerprints and the constants object are appended
   <file>_constants.h   the class <file>Constants and the object g_<file>_constants
 
@@ -129,6 +130,24 @@ def finish_header(schema, text):
         raise StepError(f"{where}an enumeration that the schema does not name")
     if len(re.findall(r"^class \w+ {", text, re.MULTILINE)) != len(schema.records):
         raise StepError(f"{where}a record that the schema does not name")
+    return text
+
+
+def finish_template(schema, text):
+    def with_hooks(match):
+        begin, end = (f"if constexpr (requires {{ iprot->{call}; }}) iprot->{call};\n"
+                      for call in (f"beginElements({match['container']}, {match['size']})",
+                                   f"endElements({match['container']})"))
+        indentation = match["indentation"]
+        return match["begin"] + indentation + begin + match["elements"] + match["end"] + indentation + end
+
+    text, count = re.subn(r"(?P<begin>(?P<indentation> +)(?P<container>this->\w+)\.clear\(\);\n[^\n]* (?P<size>_size\d+);\n"
+                          r"[^{}]*?read(?P<kind>List|Set|Map)Begin\([^\n]*, (?P=size)\);\n)"
+                          r"(?P<elements>.*?)(?P<end> +xfer \+= iprot->read(?P=kind)End\(\);\n)",
+                          with_hooks, text, flags=re.DOTALL)
+    containers = sum(field.get("type") in ("list", "set", "map") for fields in schema.records.values() for field in fields)
+    if count != containers:
+        raise StepError(f"{schema.name}_types.tcc: {count} containers are read, expected {containers}")
     return text
 
 
@@ -299,7 +318,7 @@ def make_records(thrift, schema_files, output):
                 if include not in schemas:
                     raise StepError(f"{name}.thrift: includes {include}.thrift, which is not among the schema files")
             texts[f"{name}_types.h"] = finish_header(schema, read_text(scratch / f"{name}_types.h"))
-            texts[f"{name}_types.tcc"] = read_text(scratch / f"{name}_types.tcc")
+            texts[f"{name}_types.tcc"] = finish_template(schema, read_text(scratch / f"{name}_types.tcc"))
             texts[f"{name}_types.cpp"] = finish_source(schemas, schema, read_text(scratch / f"{name}_types.cpp"))
             texts[f"{name}_constants.h"] = constants_header(schema)
         texts["RecordFields.h"] = fields_header(schemas)

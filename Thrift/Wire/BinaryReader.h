@@ -1,0 +1,367 @@
+#pragma once
+
+#include "Thrift/Wire/Bounds.h"
+#include "Thrift/Wire/Collisions.h"
+#include "Thrift/Wire/NoTransport.h"
+
+#include <boost/endian/conversion.hpp>
+#include <thrift/protocol/TProtocolException.h>
+#include <thrift/protocol/TVirtualProtocol.h>
+#include <thrift/transport/TTransportException.h>
+
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <span>
+#include <string>
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Wire
+{
+
+/// Reads records and message headers, strict and old ones, in Thrift's binary protocol from bytes in memory. Give it to
+/// the `read` of a record:
+///
+///     BinaryReader reader(bytes);
+///     record.read(&reader);
+///
+/// It accepts what `TBinaryProtocolT` accepts with the same bounds, and bounds the memory of the whole message too. Its
+/// members have the names and results of Thrift's protocols. They throw
+///
+/// - TProtocolException (SIZE_LIMIT) where a bound is exceeded; the text names the bound and what exceeded it;
+/// - TProtocolException (DEPTH_LIMIT) where records nest too deep;
+/// - TProtocolException (NEGATIVE_SIZE, BAD_VERSION, INVALID_DATA) where the bytes are no record;
+/// - TTransportException (END_OF_FILE) where the bytes end within the record.
+///
+/// After an exception the record may hold a part of what was sent.
+class BinaryReader final : public apache::thrift::protocol::TVirtualProtocol<BinaryReader>
+{
+public:
+    using TType = apache::thrift::protocol::TType;
+    using TMessageType = apache::thrift::protocol::TMessageType;
+    using TProtocolException = apache::thrift::protocol::TProtocolException;
+
+    /// Reads one message, `bytes`, which have to outlive the reader. Throws where they are more than a message may have.
+    explicit BinaryReader(std::span<std::uint8_t const> const bytes, Bounds const& bounds = {})
+        : TVirtualProtocol(Detail::NoTransport())
+        , next_(bytes.data())
+        , end_(bytes.data() + bytes.size())
+        , bounds_(bounds)
+        , memory_(bounds.memory + bounds.memoryPerByte * bytes.size())
+        , memoryLeft_(memory_)
+    {
+        setRecurisionLimit(bounds.depth);
+        if (bytes.size() > bounds.message) Exceeded("a message", bytes.size(), "bytes", bounds.message);
+    }
+
+    /// What was not read yet.
+    [[nodiscard]] std::span<std::uint8_t const> Rest() const noexcept { return {next_, end_}; }
+
+    std::uint32_t readMessageBegin(std::string& name, TMessageType& type, std::int32_t& sequence)
+    {
+        auto const* const start = next_;
+        auto const version = TakeI32();
+        if (version >= 0) // the size of the name, in a header without version
+        {
+            ReadText(name, static_cast<std::uint32_t>(version));
+            type = static_cast<TMessageType>(TakeByte());
+        }
+        else
+        {
+            if ((static_cast<std::uint32_t>(version) & 0xFFFF0000U) != 0x80010000U)
+                throw TProtocolException(TProtocolException::BAD_VERSION, "a message has an unknown version");
+            readString(name);
+            type = static_cast<TMessageType>(version & 0xFF);
+        }
+        sequence = TakeI32();
+        return Since(start);
+    }
+    std::uint32_t readMessageEnd() { return 0; }
+
+    std::uint32_t readStructBegin(std::string&) { return 0; }
+    std::uint32_t readStructEnd() { return 0; }
+
+    [[gnu::always_inline]] std::uint32_t readFieldBegin(std::string&, TType& type, std::int16_t& id)
+    {
+        auto const byte = TakeByte();
+        if (byte == apache::thrift::protocol::T_STOP)
+        {
+            type = apache::thrift::protocol::T_STOP;
+            id = 0;
+            return 1;
+        }
+        type = TypeOf(byte);
+        id = boost::endian::load_big_s16(Take(2));
+        return 3;
+    }
+    std::uint32_t readFieldEnd() { return 0; }
+
+    std::uint32_t readMapBegin(TType& keyType, TType& valueType, std::uint32_t& size)
+    {
+        keyType = TypeOf(TakeByte());
+        valueType = TypeOf(TakeByte());
+        size = TakeSize("a map", "entries", bounds_.entries, 2);
+        return 6;
+    }
+    std::uint32_t readMapEnd() { return 0; }
+
+    std::uint32_t readListBegin(TType& type, std::uint32_t& size)
+    {
+        type = TypeOf(TakeByte());
+        size = TakeSize("a list", "elements", bounds_.elements, 1);
+        return 5;
+    }
+    std::uint32_t readListEnd() { return 0; }
+
+    std::uint32_t readSetBegin(TType& type, std::uint32_t& size)
+    {
+        type = TypeOf(TakeByte());
+        size = TakeSize("a set", "entries", bounds_.entries, 1);
+        return 5;
+    }
+    std::uint32_t readSetEnd() { return 0; }
+
+    /// Called by the records before they take memory for `size` elements of `container`.
+    template<typename TContainer>
+    void beginElements(TContainer const&, std::uint32_t const size)
+    {
+        std::size_t element = sizeof(typename TContainer::value_type);
+        if constexpr (requires { typename TContainer::key_type; }) element += NodeSize;
+        CountMemory(std::uint64_t{size} * element);
+    }
+    /// Called by the records when the elements of `container` were read.
+    template<typename TContainer>
+    void endElements(TContainer const& container)
+    {
+        if constexpr (Detail::IsKeyedByChannel<TContainer>())
+        {
+            if (container.size() > Bounds().entries && Detail::PilesUp(container)) [[unlikely]]
+                throw TProtocolException(TProtocolException::SIZE_LIMIT, "too many of " +
+                                                                             std::to_string(container.size()) +
+                                                                             " channels have colliding identifiers");
+        }
+    }
+
+    [[gnu::always_inline]] std::uint32_t readBool(bool& value)
+    {
+        value = TakeByte() != 0;
+        return 1;
+    }
+    using TVirtualProtocol::readBool;
+    std::uint32_t readByte(std::int8_t& value)
+    {
+        value = static_cast<std::int8_t>(TakeByte());
+        return 1;
+    }
+    [[gnu::always_inline]] std::uint32_t readI16(std::int16_t& value)
+    {
+        value = boost::endian::load_big_s16(Take(2));
+        return 2;
+    }
+    [[gnu::always_inline]] std::uint32_t readI32(std::int32_t& value)
+    {
+        value = TakeI32();
+        return 4;
+    }
+    [[gnu::always_inline]] std::uint32_t readI64(std::int64_t& value)
+    {
+        value = boost::endian::load_big_s64(Take(8));
+        return 8;
+    }
+    std::uint32_t readDouble(double& value)
+    {
+        value = std::bit_cast<double>(boost::endian::load_big_s64(Take(8)));
+        return 8;
+    }
+    [[gnu::always_inline]] std::uint32_t readString(std::string& text) { return 4 + ReadText(text, TakeTextSize()); }
+    std::uint32_t readBinary(std::string& bytes) { return readString(bytes); }
+
+    std::uint32_t skip(TType const type)
+    {
+        auto const* const start = next_;
+        Skip(type);
+        return Since(start);
+    }
+
+private:
+    /// Of each entry of a set or map, besides its value: what the tree and the heap keep of it.
+    static constexpr std::size_t NodeSize = 6 * sizeof(void*);
+    /// Of each string that is not kept in its object, besides its bytes.
+    static constexpr std::size_t TextSize = 4 * sizeof(void*);
+    static constexpr std::size_t InPlaceText = 15;
+
+    static constexpr std::uint32_t KnownTypes =
+        1U << apache::thrift::protocol::T_STOP | 1U << apache::thrift::protocol::T_VOID |
+        1U << apache::thrift::protocol::T_BOOL | 1U << apache::thrift::protocol::T_BYTE |
+        1U << apache::thrift::protocol::T_DOUBLE | 1U << apache::thrift::protocol::T_I16 |
+        1U << apache::thrift::protocol::T_I32 | 1U << apache::thrift::protocol::T_I64 |
+        1U << apache::thrift::protocol::T_STRING | 1U << apache::thrift::protocol::T_STRUCT |
+        1U << apache::thrift::protocol::T_MAP | 1U << apache::thrift::protocol::T_SET |
+        1U << apache::thrift::protocol::T_LIST;
+
+    [[noreturn, gnu::noinline, gnu::cold]] static void Exceeded(std::string const& what, std::uint64_t const size,
+                                                                std::string const& unit, std::uint64_t const bound)
+    {
+        throw TProtocolException(TProtocolException::SIZE_LIMIT, what + " of " + std::to_string(size) + ' ' + unit +
+                                                                     " exceeds the bound of " + std::to_string(bound));
+    }
+    [[noreturn, gnu::noinline, gnu::cold]] static void Invalid(std::string const& why)
+    {
+        throw TProtocolException(TProtocolException::INVALID_DATA, why);
+    }
+    [[noreturn, gnu::noinline, gnu::cold]] static void Negative(std::string const& what)
+    {
+        throw TProtocolException(TProtocolException::NEGATIVE_SIZE, what + " has a negative size");
+    }
+    [[noreturn, gnu::noinline, gnu::cold]] static void Ended()
+    {
+        using apache::thrift::transport::TTransportException;
+        throw TTransportException(TTransportException::END_OF_FILE, "the bytes end within the record");
+    }
+
+    [[gnu::always_inline]] std::uint8_t const* Take(std::size_t const count)
+    {
+        auto const* const start = next_;
+        if (static_cast<std::size_t>(end_ - start) < count) [[unlikely]]
+            Ended();
+        next_ = start + count;
+        return start;
+    }
+    [[gnu::always_inline]] std::uint8_t TakeByte() { return *Take(1); }
+    [[gnu::always_inline]] std::int32_t TakeI32() { return boost::endian::load_big_s32(Take(4)); }
+
+    std::uint32_t Since(std::uint8_t const* const start) const { return static_cast<std::uint32_t>(next_ - start); }
+
+    static TType TypeOf(std::uint8_t const byte)
+    {
+        if (byte > apache::thrift::protocol::T_LIST || (KnownTypes >> byte & 1U) == 0) [[unlikely]]
+            Invalid("a value has the unknown type " + std::to_string(byte));
+        return static_cast<TType>(byte);
+    }
+
+    std::uint32_t TakeSize(char const* const what, char const* const unit, std::uint32_t const bound,
+                           std::size_t const leastBytes)
+    {
+        auto const size = TakeI32();
+        if (size < 0) [[unlikely]]
+            Negative(what);
+        auto const count = static_cast<std::uint32_t>(size);
+        if (count > bound) [[unlikely]]
+            Exceeded(what, count, unit, bound);
+        if (count > Rest().size() / leastBytes) [[unlikely]]
+            Ended();
+        return count;
+    }
+
+    std::uint32_t TakeTextSize()
+    {
+        auto const size = TakeI32();
+        if (size < 0) [[unlikely]]
+            Negative("a string");
+        return static_cast<std::uint32_t>(size);
+    }
+
+    std::uint8_t const* TakeText(std::uint32_t const size)
+    {
+        if (size > bounds_.text) [[unlikely]]
+            Exceeded("a string", size, "bytes", bounds_.text);
+        return Take(size);
+    }
+
+    std::uint32_t ReadText(std::string& text, std::uint32_t const size)
+    {
+        auto const* const start = TakeText(size);
+        if (size > InPlaceText) CountMemory(size + TextSize);
+        auto const* const characters = reinterpret_cast<char const*>(start);
+        if (size <= text.capacity())
+            text.assign(characters, size);
+        else
+            text = std::string(characters, size);
+        return size;
+    }
+
+    void CountMemory(std::uint64_t const size)
+    {
+        if (size > memoryLeft_) [[unlikely]]
+            Exceeded("the memory of a message", memory_ - memoryLeft_ + size, "bytes", memory_);
+        memoryLeft_ -= size;
+    }
+
+    /// Takes no memory, and counts the depth as reading would.
+    void Skip(TType const type)
+    {
+        apache::thrift::protocol::TInputRecursionTracker const tracker(*this);
+        switch (type)
+        {
+        case apache::thrift::protocol::T_BOOL:
+        case apache::thrift::protocol::T_BYTE:
+            Take(1);
+            return;
+        case apache::thrift::protocol::T_I16:
+            Take(2);
+            return;
+        case apache::thrift::protocol::T_I32:
+            Take(4);
+            return;
+        case apache::thrift::protocol::T_I64:
+        case apache::thrift::protocol::T_DOUBLE:
+            Take(8);
+            return;
+        case apache::thrift::protocol::T_STRING:
+            TakeText(TakeTextSize());
+            return;
+        case apache::thrift::protocol::T_STRUCT:
+            SkipFields();
+            return;
+        case apache::thrift::protocol::T_MAP:
+            SkipEntries();
+            return;
+        case apache::thrift::protocol::T_SET:
+        case apache::thrift::protocol::T_LIST:
+            SkipElements(type);
+            return;
+        default:
+            Invalid("a value has the type " + std::to_string(type) + ", which has no values");
+        }
+    }
+
+    void SkipFields()
+    {
+        std::string name;
+        TType type{};
+        std::int16_t id = 0;
+        while (readFieldBegin(name, type, id), type != apache::thrift::protocol::T_STOP) Skip(type);
+    }
+
+    void SkipEntries()
+    {
+        TType keyType{};
+        TType valueType{};
+        std::uint32_t size = 0;
+        readMapBegin(keyType, valueType, size);
+        for (std::uint32_t i = 0; i < size; ++i)
+        {
+            Skip(keyType);
+            Skip(valueType);
+        }
+    }
+
+    void SkipElements(TType const container)
+    {
+        TType type{};
+        std::uint32_t size = 0;
+        if (container == apache::thrift::protocol::T_LIST)
+            readListBegin(type, size);
+        else
+            readSetBegin(type, size);
+        for (std::uint32_t i = 0; i < size; ++i) Skip(type);
+    }
+
+    std::uint8_t const* next_;
+    std::uint8_t const* end_;
+    Bounds bounds_;
+    std::uint64_t memory_;
+    std::uint64_t memoryLeft_;
+};
+
+} // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Wire
