@@ -364,4 +364,30 @@ private:
     std::uint64_t memoryLeft_;
 };
 
+/// Takes a frame, as `TFramedTransport` sends it, from the start of `bytes`, and returns what it holds; `bytes` becomes
+/// what follows. Throws where the frame is larger than a message may be (TProtocolException, SIZE_LIMIT), has a negative
+/// size (TProtocolException, NEGATIVE_SIZE) or is not there as a whole (TTransportException, END_OF_FILE): then `bytes`
+/// stays as it is.
+inline std::span<std::uint8_t const> TakeFrame(std::span<std::uint8_t const>& bytes, Bounds const& bounds = {})
+{
+    using apache::thrift::protocol::TProtocolException;
+    using apache::thrift::transport::TTransportException;
+    static constexpr std::size_t SizeBytes = sizeof(std::int32_t);
+
+    if (bytes.size() < SizeBytes)
+        throw TTransportException(TTransportException::END_OF_FILE, "the bytes end within a frame");
+    auto const size = boost::endian::load_big_s32(bytes.data());
+    if (size < 0) throw TProtocolException(TProtocolException::NEGATIVE_SIZE, "a frame has a negative size");
+    auto const count = static_cast<std::uint32_t>(size);
+    if (count > bounds.message)
+        throw TProtocolException(TProtocolException::SIZE_LIMIT, "a frame of " + std::to_string(count) +
+                                                                     " bytes exceeds the bound of " +
+                                                                     std::to_string(bounds.message));
+    if (count > bytes.size() - SizeBytes)
+        throw TTransportException(TTransportException::END_OF_FILE, "the bytes end within a frame");
+    auto const frame = bytes.subspan(SizeBytes, count);
+    bytes = bytes.subspan(SizeBytes + count);
+    return frame;
+}
+
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Wire
