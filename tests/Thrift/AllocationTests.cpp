@@ -5,23 +5,28 @@
 #include "Thrift/Data/Clips/ToClip.h"
 #include "Thrift/Data/FromOperationStatus.h"
 #include "Thrift/Data/ToOperationStatus.h"
+#include "Thrift/Wire/Codec.h"
 #include "TimePoints/TalvoTimeCodeFormatter.h"
 #include "TimePoints/TalvoTimeCodeParser.h"
 #include "TimePoints/TimeCodeText.h"
 #include "generated/Clip_types.h"
+#include "generated/GetClipsCommandReply_types.h"
 #include "generated/OperationStatus_types.h"
 
 #include <gtest/gtest.h>
 
 #include <cstddef>
+#include <cstdint>
 #include <cstdlib>
 #include <new>
+#include <span>
 #include <string>
 
 namespace
 {
 
 std::size_t allocationCount = 0;
+std::size_t allocatedBytes = 0;
 
 } // namespace
 
@@ -29,16 +34,17 @@ std::size_t allocationCount = 0;
 void* operator new(std::size_t const size)
 {
     ++allocationCount;
+    allocatedBytes += size;
     if (auto* const memory = std::malloc(size)) return memory;
     throw std::bad_alloc();
 }
 
-void operator delete(void* const memory) noexcept
+[[gnu::noinline]] void operator delete(void* const memory) noexcept
 {
     std::free(memory);
 }
 
-void operator delete(void* const memory, std::size_t) noexcept
+[[gnu::noinline]] void operator delete(void* const memory, std::size_t) noexcept
 {
     std::free(memory);
 }
@@ -121,6 +127,55 @@ TEST(Allocations, OfASuccessAreNone)
                       ASSERT_TRUE(ThriftToOperationStatusConverter().To(wire, status).success);
                   }),
               0);
+}
+
+TEST(Allocations, OfTheWholeRoadWithWhatIsUsedAgainAreTheContainersOnly)
+{
+    namespace Wire = Corvane::Zelmar::Serialization::Thrift::Wire;
+    auto const clip = FullClip();
+    auto back = NtscClip();
+    Clips::Generated::Clip record;
+    Wire::BinaryWriter writer;
+    auto const encode = [&]
+    {
+        writer.Truncate();
+        ASSERT_TRUE(Wire::Encode(Clips::ClipToThriftConverter(), clip, record, writer).Success());
+    };
+    auto const decode = [&]
+    { ASSERT_TRUE(Wire::Decode(Clips::ThriftToClipConverter(), writer.Bytes(), record, back).Success()); };
+    encode();
+    decode();
+
+    EXPECT_EQ(Allocations(encode), 2) << "keywords and userBits";
+    EXPECT_EQ(Allocations(decode), 2);
+}
+
+TEST(Allocations, OfARefusedMessageDoNotDependOnWhatItClaims)
+{
+    namespace Wire = Corvane::Zelmar::Serialization::Thrift::Wire;
+    using Corvane::Zelmar::Serialization::Thrift::Commands::Generated::GetClipsCommandReply;
+    std::string const clips("\x0f\0\3\x0c", 4); // a list of records
+    for (auto const& message : {
+             clips + std::string("\0\0\x20\0", 4) + std::string(0x2001, '\0'), // 8192 empty clips, all there
+             clips + std::string("\0\1\x86\xa0", 4) + std::string(1000, '\0'), // 100,000 clips
+             std::string("\x0c\0\1\x0b\0\1\0\x0f\xff\xff", 10),                // a string of nearly 1 MiB
+             std::string("\x0b\0\x63\0\x0f\xff\xff", 7),                       // the same, skipped
+             std::string("\x0d\0\x63\x0b\x0b\0\0\x03\xe8", 9),                 // a map of 1000 entries, skipped
+         })
+    {
+        auto const before = allocatedBytes;
+        try
+        {
+            GetClipsCommandReply reply;
+            Wire::BinaryReader reader(std::span(reinterpret_cast<std::uint8_t const*>(message.data()), message.size()));
+            reply.read(&reader);
+            ADD_FAILURE() << message.size();
+        }
+        catch (apache::thrift::TException const&)
+        {
+        }
+        EXPECT_LT(allocatedBytes - before, 2000U) << message.size();
+    }
 }
 
 } // namespace
