@@ -14,13 +14,10 @@
 #include "Thrift/Commands/ToCreateClipsCommandParams.h"
 #include "Thrift/Notifier/FromClipCreationFailedEventArgs.h"
 #include "Thrift/Notifier/FromClipCreationFinishedEventArgs.h"
-#include "Thrift/TryTo.h"
+#include "Thrift/Wire/Codec.h"
 #include "generated/ClipCommandReply_types.h"
 #include "generated/ClipCreationEventArgs_types.h"
 #include "generated/CreateClipsCommandParams_types.h"
-
-#include <thrift/protocol/TBinaryProtocol.h>
-#include <thrift/transport/TBufferTransports.h>
 
 #include <algorithm>
 #include <cstddef>
@@ -31,15 +28,13 @@
 #include <iostream>
 #include <iterator>
 #include <memory>
+#include <span>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
 namespace
 {
-
-using apache::thrift::transport::TMemoryBuffer;
-using Protocol = apache::thrift::protocol::TBinaryProtocolT<TMemoryBuffer>;
 
 using Talvo::Corvane::Data::OperationResult;
 using Talvo::Corvane::Data::OperationStatus;
@@ -50,7 +45,7 @@ using Talvo::Corvane::Notification::ClipCreationFailedEventArgs;
 using Talvo::Corvane::Notification::ClipCreationFinishedEventArgs;
 using Talvo::Corvane::Zelmar::HighLevelOperations::Commands::ClipCommandReply;
 using Talvo::Corvane::Zelmar::HighLevelOperations::Commands::CreateClipsCommandParams;
-using Talvo::Corvane::Zelmar::Serialization::Thrift::TryTo;
+namespace Wire = Talvo::Corvane::Zelmar::Serialization::Thrift::Wire;
 namespace WireCommands = Talvo::Corvane::Zelmar::Serialization::Thrift::Commands;
 namespace WireEvents = Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier;
 
@@ -73,6 +68,12 @@ private:
     std::vector<Clip> clips_;
 };
 
+/// What Decode() and Encode() report, as an exception.
+void Require(Wire::CodecResult const& result)
+{
+    if (!result.Success()) throw std::runtime_error(result.message);
+}
+
 /// Writes the wire records that leave the server, a file each.
 class Outbox
 {
@@ -84,46 +85,35 @@ public:
         list_.open(folder_ / "samples.txt");
     }
 
-    template<typename TWireRecord>
-    void Send(std::string const& name, std::string const& recordName, TWireRecord const& record)
+    void Send(std::string const& name, std::string const& recordName, auto const& converter, auto const& source)
     {
-        auto const buffer = std::make_shared<TMemoryBuffer>();
-        Protocol protocol(buffer);
-        auto const size = record.write(&protocol);
-        std::ofstream(folder_ / (name + ".binary"), std::ios::binary) << buffer->getBufferAsString();
+        writer_.Truncate();
+        Require(Wire::Encode(converter, source, writer_));
+        std::ofstream(folder_ / (name + ".binary"), std::ios::binary) << writer_.Text();
         list_ << name << ".binary " << recordName << std::endl;
         if (!list_) throw std::runtime_error("can't write into " + folder_.string());
-        std::cout << "sent      " << recordName << ", " << size << " bytes\n";
+        std::cout << "sent      " << recordName << ", " << writer_.Size() << " bytes\n";
     }
 
 private:
     std::filesystem::path folder_;
     std::ofstream list_;
+    Wire::BinaryWriter writer_;
 };
 
-/// What a conversion reports, as an exception.
-void Require(Talvo::Common::Serialization::ConversionResult const& result)
-{
-    if (!result.success) throw std::runtime_error(result.message);
-}
-
-WireCommands::Generated::CreateClipsCommandParams ReadRequest(char const* const path)
+std::string ReadFile(char const* const path)
 {
     std::ifstream file(path, std::ios::binary);
-    std::string bytes(std::istreambuf_iterator<char>(file), {});
-    auto const buffer = std::make_shared<TMemoryBuffer>(reinterpret_cast<std::uint8_t*>(bytes.data()),
-                                                        static_cast<std::uint32_t>(bytes.size()));
-    Protocol protocol(buffer);
-    WireCommands::Generated::CreateClipsCommandParams request;
-    request.read(&protocol);
-    return request;
+    return std::string(std::istreambuf_iterator<char>(file), {});
 }
 
 void Serve(char const* const requestPath, char const* const folder)
 {
     // 1. The request comes from the wire into the domain.
+    auto const message = ReadFile(requestPath);
+    std::span const bytes(reinterpret_cast<std::uint8_t const*>(message.data()), message.size());
     CreateClipsCommandParams request;
-    Require(TryTo(WireCommands::ThriftToCreateClipsCommandParamsConverter(), ReadRequest(requestPath), request));
+    Require(Wire::Decode(WireCommands::ThriftToCreateClipsCommandParamsConverter(), bytes, request));
     std::cout << "received  CreateClipsCommandParams, " << request.clips.size() << " clips\n";
 
     // 2. The server carries it out, and says of each clip what became of it.
@@ -150,9 +140,8 @@ void Serve(char const* const requestPath, char const* const folder)
                 310042, ClipCommandEventArgs::RequestSource::Network, static_cast<unsigned int>(i), 1,
                 request.commandGuid, store.Revision(), Clip::Empty(), clip, ClipCreationEventArgs::CreationType::Make,
                 ClipCreationEventArgs::NetworkType::Unknown);
-            WireEvents::Generated::ClipCreationFinishedEventArgs wireEvent;
-            Require(WireEvents::ClipCreationFinishedEventArgsToThriftConverter().To(event, wireEvent));
-            outbox.Send(name, "ClipCreationFinishedEventArgs", wireEvent);
+            outbox.Send(name, "ClipCreationFinishedEventArgs",
+                        WireEvents::ClipCreationFinishedEventArgsToThriftConverter(), event);
         }
         else
         {
@@ -160,16 +149,13 @@ void Serve(char const* const requestPath, char const* const folder)
                 310042, ClipCommandEventArgs::RequestSource::Network, static_cast<unsigned int>(i), 1,
                 request.commandGuid, store.Revision(), result, 0, Clip::Empty(), clip,
                 ClipCreationEventArgs::CreationType::Make, ClipCreationEventArgs::NetworkType::Unknown);
-            WireEvents::Generated::ClipCreationFailedEventArgs wireEvent;
-            Require(WireEvents::ClipCreationFailedEventArgsToThriftConverter().To(event, wireEvent));
-            outbox.Send(name, "ClipCreationFailedEventArgs", wireEvent);
+            outbox.Send(name, "ClipCreationFailedEventArgs", WireEvents::ClipCreationFailedEventArgsToThriftConverter(),
+                        event);
         }
     }
 
     // 4. The reply goes back to the wire.
-    WireCommands::Generated::ClipCommandReply wireReply;
-    Require(WireCommands::ClipCommandReplyToThriftConverter().To(reply, wireReply));
-    outbox.Send("clip-command-reply", "ClipCommandReply", wireReply);
+    outbox.Send("clip-command-reply", "ClipCommandReply", WireCommands::ClipCommandReplyToThriftConverter(), reply);
 }
 
 } // namespace

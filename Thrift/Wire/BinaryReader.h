@@ -283,7 +283,7 @@ private:
     void CountMemory(std::uint64_t const size)
     {
         if (size > memoryLeft_) [[unlikely]]
-            Exceeded("the memory of a message", memory_ - memoryLeft_ + size, "bytes", memory_);
+            Exceeded("a message", memory_ - memoryLeft_ + size, "bytes in memory", memory_);
         memoryLeft_ -= size;
     }
 

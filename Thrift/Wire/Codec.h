@@ -80,9 +80,10 @@ CodecResult Decode(TConverter const& converter, std::span<std::uint8_t const> co
     }
     catch (TProtocolException const& error)
     {
-        auto const type = error.getType();
-        if (type == TProtocolException::SIZE_LIMIT || type == TProtocolException::DEPTH_LIMIT)
+        if (error.getType() == TProtocolException::SIZE_LIMIT)
             return {Fault::Bounds, std::string("bound exceeded: ") + error.what()};
+        if (error.getType() == TProtocolException::DEPTH_LIMIT)
+            return {Fault::Bounds, "bound exceeded: values nest deeper than " + std::to_string(bounds.depth)};
         return {Fault::Bytes, std::string("invalid bytes: ") + error.what()};
     }
     catch (apache::thrift::TException const& error)

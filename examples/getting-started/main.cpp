@@ -3,25 +3,20 @@
 #include "Domain/CorvaneData/Clips/Clip.h"
 #include "Thrift/Data/Clips/FromClip.h"
 #include "Thrift/Data/Clips/ToClip.h"
-#include "Thrift/TryTo.h"
+#include "Thrift/Wire/Codec.h"
 #include "TimePoints/TalvoTimeCodeFormatter.h"
 #include "TimePoints/TimeCodeBuilder.h"
 #include "generated/Clip_types.h"
 
-#include <thrift/protocol/TBinaryProtocol.h>
-#include <thrift/transport/TBufferTransports.h>
-
 #include <fstream>
 #include <iostream>
-#include <memory>
 
 namespace Domain = Talvo::Corvane::Data::Clips;
-namespace Wire = Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips;
-using apache::thrift::transport::TMemoryBuffer;
-using Talvo::Corvane::Zelmar::Serialization::Thrift::TryTo;
+namespace Wire = Talvo::Corvane::Zelmar::Serialization::Thrift::Wire;
+using Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips::ClipToThriftConverter;
+using Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips::ThriftToClipConverter;
 using Talvo::TimePoints::TalvoTimeCodeFormatter;
 using Talvo::TimePoints::TimeCodeBuilder;
-using Protocol = apache::thrift::protocol::TBinaryProtocolT<TMemoryBuffer>;
 
 int main()
 {
@@ -34,21 +29,15 @@ int main()
     // A new clip is Pal, with which 25 frames a second agree.
     if (!clip.TrySetInBoundTodTimecode(kickOff.Build())) return 1;
 
-    Wire::Generated::Clip record;
-    auto const sent = Wire::ClipToThriftConverter().To(clip, record);
-    if (!sent.success) std::cerr << sent.message << '\n';
+    Wire::BinaryWriter writer;
+    auto const sent = Wire::Encode(ClipToThriftConverter(), clip, writer);
+    if (!sent.Success()) std::cerr << sent.message << '\n';
+    std::ofstream("my-clip.binary", std::ios::binary) << writer.Text();
 
-    auto const buffer = std::make_shared<TMemoryBuffer>();
-    Protocol protocol(buffer);
-    auto const size = record.write(&protocol);
-    std::ofstream("my-clip.binary", std::ios::binary) << buffer->getBufferAsString();
-
-    Wire::Generated::Clip received;
-    received.read(&protocol);
     Domain::Clip copy;
-    auto const result = TryTo(Wire::ThriftToClipConverter(), received, copy);
-    if (!result.success) std::cerr << result.message << '\n';
+    auto const received = Wire::Decode(ThriftToClipConverter(), writer.Bytes(), copy);
+    if (!received.Success()) std::cerr << received.message << '\n';
 
-    std::cout << size << " bytes, in at " << TalvoTimeCodeFormatter().Format(copy.InBoundTodTimecode())
+    std::cout << writer.Size() << " bytes, in at " << TalvoTimeCodeFormatter().Format(copy.InBoundTodTimecode())
               << (copy == clip ? ", came back as it was\n" : ", came back changed\n");
 }

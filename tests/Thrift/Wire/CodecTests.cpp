@@ -68,7 +68,7 @@ TEST(Codec, ReportsWhatIsAtFault)
     expect(Wire::Decode(toClip, BytesOf(bytes), clip, {.message = 100}), Fault::Bounds,
            "bound exceeded: a message of " + std::to_string(bytes.size()) + " bytes exceeds the bound of 100");
     expect(Wire::Decode(toClip, BytesOf(bytes), clip, {.depth = 1}), Fault::Bounds,
-           "bound exceeded: TProtocolException: Exceeded depth limit");
+           "bound exceeded: values nest deeper than 1");
     expect(Wire::Decode(toClip, BytesOf(std::string_view("\0", 1)), clip), Fault::Conversion,
            "conversion failed: Clip is empty");
     EXPECT_EQ(clip, Corvane::Data::Clips::Clip());

@@ -238,7 +238,7 @@ TEST(BinaryReader, NamesTheBoundThatIsExceeded)
     EXPECT_EQ(Refusal(dial, {.elements = 0, .entries = 3}), "");
     EXPECT_EQ(Refusal(dial, {.entries = 2}), "a set of 3 entries exceeds the bound of 2");
     EXPECT_THAT(Refusal(clip, {.memory = 200, .memoryPerByte = 0}),
-                "the memory of a message of 232 bytes exceeds the bound of 200");
+                "a message of 232 bytes in memory exceeds the bound of 200");
     EXPECT_EQ(Refusal(clip, {.memory = 232, .memoryPerByte = 0}), "");
 }
 
@@ -248,12 +248,12 @@ TEST(BinaryReader, CountsWhatElementsTakeInMemory)
     clips.clips.resize(10);
     auto const ofClips = 10 * sizeof(WireClip);
     EXPECT_EQ(Refusal(clips, {.memory = ofClips, .memoryPerByte = 0}), "");
-    EXPECT_THAT(Refusal(clips, {.memory = ofClips - 1, .memoryPerByte = 0}), HasSubstr("the memory"));
+    EXPECT_THAT(Refusal(clips, {.memory = ofClips - 1, .memoryPerByte = 0}), HasSubstr("bytes in memory"));
 
     auto const dial = Dial({"A", "B", "C"});
     auto const ofPlayers = 3 * (sizeof(Corvane::Data::Generated::Guid) + 6 * sizeof(void*));
     EXPECT_EQ(Refusal(dial, {.memory = ofPlayers, .memoryPerByte = 0}), "");
-    EXPECT_THAT(Refusal(dial, {.memory = ofPlayers - 1, .memoryPerByte = 0}), HasSubstr("the memory"));
+    EXPECT_THAT(Refusal(dial, {.memory = ofPlayers - 1, .memoryPerByte = 0}), HasSubstr("bytes in memory"));
 }
 
 /// So many identifiers of sixteen bytes, all of them with one hash: a byte more in one place is 31 less in the next.
