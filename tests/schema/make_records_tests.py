@@ -78,7 +78,7 @@ class MakeRecords(unittest.TestCase):
 
     def test_refuses_compiler_output_without_what_the_schema_names(self):
         schema_text = ('namespace cpp A.B\nenum E { None = 0 }\n'
-                       'struct R { 1: i32 first, 2: required E second }')
+                       'struct R { 1: i32 first, 2: required E second, 3: list<i32> numbers }')
         self.make(schema_text)
         run_compiler = make_records.run_compiler
         self.addCleanup(setattr, make_records, "run_compiler", run_compiler)
@@ -89,6 +89,7 @@ class MakeRecords(unittest.TestCase):
             ("New_types.h", "virtual ~R()", "~R()", "New_types.h: record R found 0 times"),
             ("New_types.h", "int32_t first;", "int32_t other;", "New_types.h: record R does not declare the fields"),
             ("New_types.h", "void swap(", "class S {\n};\nvoid swap(", "New_types.h: a record that the schema does"),
+            ("New_types.tcc", "readListBegin(", "readBegin(", "New_types.tcc: 0 containers are read, expected 1"),
             ("New_types.cpp", "R::~R()", "", "New_types.cpp: record R is missing"),
             ("New_types.cpp", "_E_VALUES_TO_NAMES", "", "New_types.cpp: names of enumeration E are missing"),
             ("New_types.cpp", "TToString.h", "T.h", "New_types.cpp: includes are missing"),
