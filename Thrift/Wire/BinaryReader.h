@@ -47,7 +47,7 @@ public:
         , next_(bytes.data())
         , end_(bytes.data() + bytes.size())
         , bounds_(bounds)
-        , memory_(bounds.memory + bounds.memoryPerByte * bytes.size())
+        , memory_(MemoryOf(bounds, bytes.size()))
         , memoryLeft_(memory_)
     {
         setRecurisionLimit(bounds.depth);
@@ -199,6 +199,15 @@ private:
         1U << apache::thrift::protocol::T_MAP | 1U << apache::thrift::protocol::T_SET |
         1U << apache::thrift::protocol::T_LIST;
 
+    static std::uint64_t MemoryOf(Bounds const& bounds, std::uint64_t const size) noexcept
+    {
+        std::uint64_t ofBytes = 0;
+        std::uint64_t memory = 0;
+        bool const isEndless = __builtin_mul_overflow(bounds.memoryPerByte, size, &ofBytes) ||
+                               __builtin_add_overflow(bounds.memory, ofBytes, &memory);
+        return isEndless ? std::numeric_limits<std::uint64_t>::max() : memory;
+    }
+
     [[noreturn, gnu::noinline, gnu::cold]] static void Exceeded(std::string const& what, std::uint64_t const size,
                                                                 std::string const& unit, std::uint64_t const bound)
     {
@@ -276,7 +285,7 @@ private:
         if (size <= text.capacity())
             text.assign(characters, size);
         else
-            text = std::string(characters, size);
+            text = std::string(characters, size); // which takes just its size, where assign() grows
         return size;
     }
 

@@ -43,9 +43,15 @@ namespace Detail
 {
 
 template<typename TSource, typename TDestination>
-TSource SourceOf(Common::Serialization::Converter<TSource, TDestination> const&);
+TSource SourceOfFrame(Common::Serialization::Converter<TSource, TDestination> const&);
 template<typename TSource, typename TDestination>
-TDestination DestinationOf(Common::Serialization::Converter<TSource, TDestination> const&);
+TDestination DestinationOfFrame(Common::Serialization::Converter<TSource, TDestination> const&);
+
+/// What a converter reads, and what it fills.
+template<typename TConverter>
+using SourceOf = decltype(SourceOfFrame(std::declval<TConverter const&>()));
+template<typename TConverter>
+using DestinationOf = decltype(DestinationOfFrame(std::declval<TConverter const&>()));
 
 inline CodecResult ResultOf(Common::Serialization::ConversionResult&& result)
 {
@@ -53,26 +59,14 @@ inline CodecResult ResultOf(Common::Serialization::ConversionResult&& result)
     return {Fault::Conversion, "conversion failed: " + std::move(result.message)};
 }
 
-} // namespace Detail
-
-/// Reads one record from all of `bytes`, within `bounds`, and converts it to the domain: what BinaryReader, the record's
-/// `read` and TryTo() do, with one result. `converter` is given as its own class.
-///
-/// `record` is the record in between, which is emptied before: give the same one again to reuse the memory of its
-/// strings. On a failure `destination` holds what was converted before it. Throws std::bad_alloc where memory runs out,
-/// except in a converter in which no value ends the process: there it ends the process.
-///
-///     Domain::Clip clip;
-///     auto const result = Wire::Decode(ThriftToClipConverter(), bytes, clip);
-///     if (!result.Success()) std::cerr << result.message << '\n';
-template<typename TConverter, typename TRecord, typename TDestination>
-CodecResult Decode(TConverter const& converter, std::span<std::uint8_t const> const bytes, TRecord& record,
-                   TDestination& destination, Bounds const& bounds = {})
+/// `record` is empty.
+template<typename TConverter>
+CodecResult Decode(TConverter const& converter, std::span<std::uint8_t const> const bytes, SourceOf<TConverter>& record,
+                   DestinationOf<TConverter>& destination, Bounds const& bounds)
 {
     using apache::thrift::protocol::TProtocolException;
     try
     {
-        record = TRecord();
         BinaryReader reader(bytes, bounds);
         record.read(&reader);
         if (auto const rest = reader.Rest().size(); rest > 0)
@@ -84,7 +78,11 @@ CodecResult Decode(TConverter const& converter, std::span<std::uint8_t const> co
             return {Fault::Bounds, std::string("bound exceeded: ") + error.what()};
         if (error.getType() == TProtocolException::DEPTH_LIMIT)
             return {Fault::Bounds, "bound exceeded: values nest deeper than " + std::to_string(bounds.depth)};
-        return {Fault::Bytes, std::string("invalid bytes: ") + error.what()};
+        // The records throw this one, and without a text.
+        bool const lacksField =
+            std::string_view(error.what()) == TProtocolException(TProtocolException::INVALID_DATA).what();
+        return {Fault::Bytes,
+                std::string("invalid bytes: ") + (lacksField ? "a required field is missing" : error.what())};
     }
     catch (apache::thrift::TException const& error)
     {
@@ -95,7 +93,7 @@ CodecResult Decode(TConverter const& converter, std::span<std::uint8_t const> co
     {
         try
         {
-            return Detail::ResultOf(converter.ToOrThrow(record, destination));
+            return ResultOf(converter.ToOrThrow(record, destination));
         }
         catch (BadValue const& badValue)
         {
@@ -103,29 +101,15 @@ CodecResult Decode(TConverter const& converter, std::span<std::uint8_t const> co
         }
     }
     else
-        return Detail::ResultOf(converter.To(record, destination));
+        return ResultOf(converter.To(record, destination));
 }
 
-/// The same with a new record.
-template<typename TConverter, typename TDestination>
-CodecResult Decode(TConverter const& converter, std::span<std::uint8_t const> const bytes, TDestination& destination,
-                   Bounds const& bounds = {})
+/// `record` is empty.
+template<typename TConverter>
+CodecResult Encode(TConverter const& converter, SourceOf<TConverter> const& source, DestinationOf<TConverter>& record,
+                   BinaryWriter& writer)
 {
-    decltype(Detail::SourceOf(converter)) record;
-    return Decode(converter, bytes, record, destination, bounds);
-}
-
-/// Converts a domain object to a record and appends that to what `writer` holds. On a failure the writer holds what it
-/// held before. `record` is the record in between, as for Decode().
-///
-///     Wire::BinaryWriter writer;
-///     auto const result = Wire::Encode(ClipToThriftConverter(), clip, writer);
-///     if (result.Success()) Send(writer.Bytes());
-template<typename TConverter, typename TSource, typename TRecord>
-CodecResult Encode(TConverter const& converter, TSource const& source, TRecord& record, BinaryWriter& writer)
-{
-    record = TRecord();
-    auto result = Detail::ResultOf(converter.To(source, record));
+    auto result = ResultOf(converter.To(source, record));
     if (!result.Success()) return result;
 
     auto const size = writer.Size();
@@ -141,12 +125,56 @@ CodecResult Encode(TConverter const& converter, TSource const& source, TRecord& 
     return result;
 }
 
-/// The same with a new record.
-template<typename TConverter, typename TSource>
-CodecResult Encode(TConverter const& converter, TSource const& source, BinaryWriter& writer)
+} // namespace Detail
+
+/// Reads one record from all of `bytes`, within `bounds`, and converts it to the domain: what BinaryReader, the record's
+/// `read` and TryTo() do, with one result. `converter` is given as its own class.
+///
+/// On a failure `destination` holds what was converted before it. Throws std::bad_alloc where memory runs out, except in a
+/// converter in which no value ends the process: there it ends the process.
+///
+///     Domain::Clip clip;
+///     auto const result = Wire::Decode(ThriftToClipConverter(), bytes, clip);
+///     if (!result.Success()) std::cerr << result.message << '\n';
+template<typename TConverter>
+CodecResult Decode(TConverter const& converter, std::span<std::uint8_t const> const bytes,
+                   Detail::DestinationOf<TConverter>& destination, Bounds const& bounds = {})
 {
-    decltype(Detail::DestinationOf(converter)) record;
-    return Encode(converter, source, record, writer);
+    Detail::SourceOf<TConverter> record;
+    return Detail::Decode(converter, bytes, record, destination, bounds);
+}
+
+/// The same with the record in between, which is emptied before: given again, its strings keep their memory. Nothing of
+/// an earlier message is left in it.
+template<typename TConverter>
+CodecResult Decode(TConverter const& converter, std::span<std::uint8_t const> const bytes,
+                   Detail::SourceOf<TConverter>& record, Detail::DestinationOf<TConverter>& destination,
+                   Bounds const& bounds = {})
+{
+    record = {};
+    return Detail::Decode(converter, bytes, record, destination, bounds);
+}
+
+/// Converts a domain object to a record and appends that to what `writer` holds. On a failure the writer holds what it
+/// held before. Throws and ends the process as Decode() does.
+///
+///     Wire::BinaryWriter writer;
+///     auto const result = Wire::Encode(ClipToThriftConverter(), clip, writer);
+///     if (result.Success()) Send(writer.Bytes());
+template<typename TConverter>
+CodecResult Encode(TConverter const& converter, Detail::SourceOf<TConverter> const& source, BinaryWriter& writer)
+{
+    Detail::DestinationOf<TConverter> record;
+    return Detail::Encode(converter, source, record, writer);
+}
+
+/// The same with the record in between, which is emptied before: given again, its strings keep their memory.
+template<typename TConverter>
+CodecResult Encode(TConverter const& converter, Detail::SourceOf<TConverter> const& source,
+                   Detail::DestinationOf<TConverter>& record, BinaryWriter& writer)
+{
+    record = {};
+    return Detail::Encode(converter, source, record, writer);
 }
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Wire

@@ -1,11 +1,14 @@
 #include "tests/Thrift/Data/Clips/Values.h"
 #include "tests/Thrift/Wire/Differential.h"
 
+#include "Domain/CorvaneData/Clips/Groups/AnglesGroup.h"
 #include "Domain/HighLevelOperations/Commands/CreateClipsCommandParams.h"
 #include "Thrift/Commands/ToCreateClipsCommandParams.h"
 #include "Thrift/Data/Clips/FromClip.h"
+#include "Thrift/Data/Clips/ToAnglesGroup.h"
 #include "Thrift/Data/Clips/ToClip.h"
 #include "Thrift/Wire/Codec.h"
+#include "generated/AnglesGroup_types.h"
 #include "generated/Clip_types.h"
 #include "generated/CreateClipsCommandParams_types.h"
 
@@ -58,16 +61,20 @@ TEST(Codec, ReportsWhatIsAtFault)
         EXPECT_EQ(result.message, message);
     };
     Corvane::Data::Clips::Clip clip;
+    Corvane::Data::Clips::Groups::AnglesGroup group{Corvane::Data::Clips::Groups::Guid()};
     auto const bytes = Written(WireClip());
+    Wire::Bounds bounds{.depth = 1};
 
     expect(Wire::Decode(toClip, BytesOf(bytes).first(3), clip), Fault::Bytes,
            "invalid bytes: the bytes end within the record");
     expect(Wire::Decode(toClip, BytesOf(bytes + "xy"), clip), Fault::Bytes, "invalid bytes: 2 more follow the record");
     expect(Wire::Decode(toClip, BytesOf("\x10 clip"), clip), Fault::Bytes,
            "invalid bytes: a value has the unknown type 16");
+    expect(Wire::Decode(Data::Clips::ThriftToAnglesGroupConverter(), BytesOf(std::string_view("\0", 1)), group),
+           Fault::Bytes, "invalid bytes: a required field is missing");
     expect(Wire::Decode(toClip, BytesOf(bytes), clip, {.message = 100}), Fault::Bounds,
            "bound exceeded: a message of " + std::to_string(bytes.size()) + " bytes exceeds the bound of 100");
-    expect(Wire::Decode(toClip, BytesOf(bytes), clip, {.depth = 1}), Fault::Bounds,
+    expect(Wire::Decode(toClip, BytesOf(bytes), clip, bounds), Fault::Bounds,
            "bound exceeded: values nest deeper than 1");
     expect(Wire::Decode(toClip, BytesOf(std::string_view("\0", 1)), clip), Fault::Conversion,
            "conversion failed: Clip is empty");

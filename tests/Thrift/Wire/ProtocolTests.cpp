@@ -13,6 +13,7 @@
 #include <thrift/protocol/TProtocolException.h>
 #include <thrift/transport/TTransportException.h>
 
+#include <limits>
 #include <random>
 #include <string>
 #include <vector>
@@ -240,6 +241,8 @@ TEST(BinaryReader, NamesTheBoundThatIsExceeded)
     EXPECT_THAT(Refusal(clip, {.memory = 200, .memoryPerByte = 0}),
                 "a message of 232 bytes in memory exceeds the bound of 200");
     EXPECT_EQ(Refusal(clip, {.memory = 232, .memoryPerByte = 0}), "");
+    EXPECT_EQ(Refusal(clip, {.memory = std::numeric_limits<std::uint64_t>::max()}), "");
+    EXPECT_EQ(Refusal(clip, {.memoryPerByte = std::numeric_limits<std::uint64_t>::max()}), "");
 }
 
 TEST(BinaryReader, CountsWhatElementsTakeInMemory)
