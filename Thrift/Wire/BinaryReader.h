@@ -37,10 +37,6 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Wire
 class BinaryReader final : public apache::thrift::protocol::TVirtualProtocol<BinaryReader>
 {
 public:
-    using TType = apache::thrift::protocol::TType;
-    using TMessageType = apache::thrift::protocol::TMessageType;
-    using TProtocolException = apache::thrift::protocol::TProtocolException;
-
     /// Reads one message, `bytes`, which have to outlive the reader. Throws where they are more than a message may have.
     explicit BinaryReader(std::span<std::uint8_t const> const bytes, Bounds const& bounds = {})
         : TVirtualProtocol(Detail::NoTransport())
@@ -56,6 +52,11 @@ public:
 
     /// What was not read yet.
     [[nodiscard]] std::span<std::uint8_t const> Rest() const noexcept { return {next_, end_}; }
+
+    /// @cond The members of Thrift's protocols, which records call.
+    using TType = apache::thrift::protocol::TType;
+    using TMessageType = apache::thrift::protocol::TMessageType;
+    using TProtocolException = apache::thrift::protocol::TProtocolException;
 
     std::uint32_t readMessageBegin(std::string& name, TMessageType& type, std::int32_t& sequence)
     {
@@ -182,6 +183,7 @@ public:
         Skip(type);
         return Since(start);
     }
+    /// @endcond
 
 private:
     /// Of each entry of a set or map, besides its value: what the tree and the heap keep of it.

@@ -33,9 +33,6 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Wire
 class BinaryWriter final : public apache::thrift::protocol::TVirtualProtocol<BinaryWriter>
 {
 public:
-    using TType = apache::thrift::protocol::TType;
-    using TMessageType = apache::thrift::protocol::TMessageType;
-
     /// How a message begins: with the version of the protocol, or as before there were versions.
     enum class Header
     {
@@ -43,6 +40,7 @@ public:
         Old
     };
 
+    /// Writes message headers of that form.
     explicit BinaryWriter(Header const header = Header::Strict)
         : TVirtualProtocol(Detail::NoTransport())
         , header_(header)
@@ -56,6 +54,7 @@ public:
     {
         return {reinterpret_cast<char const*>(memory_.get()), Size()};
     }
+    /// How many bytes were written.
     [[nodiscard]] std::size_t Size() const noexcept { return static_cast<std::size_t>(next_ - memory_.get()); }
 
     /// Removes what was written after the first `size` bytes, and keeps the memory.
@@ -74,6 +73,10 @@ public:
         auto const size = CheckedSize("a frame", Size() - start - sizeof(std::int32_t));
         boost::endian::store_big_u32(memory_.get() + start, size);
     }
+
+    /// @cond The members of Thrift's protocols, which records call.
+    using TType = apache::thrift::protocol::TType;
+    using TMessageType = apache::thrift::protocol::TMessageType;
 
     std::uint32_t writeMessageBegin(std::string const& name, TMessageType const type, std::int32_t const sequence)
     {
@@ -140,6 +143,7 @@ public:
         return 4 + size;
     }
     std::uint32_t writeBinary(std::string const& bytes) { return writeString(bytes); }
+    /// @endcond
 
 private:
     static std::uint32_t CheckedSize(char const* const what, std::size_t const size)
@@ -196,13 +200,13 @@ private:
         lastGrowth_ = end_ - Spare;
     }
 
-    /// No value but a string has more bytes.
+    /// No value except a string has more bytes.
     static constexpr std::size_t Spare = 8;
 
     std::unique_ptr<std::uint8_t[]> memory_ = std::make_unique_for_overwrite<std::uint8_t[]>(Spare);
     std::uint8_t* next_ = memory_.get();
     std::uint8_t* end_ = memory_.get() + Spare;
-    std::uint8_t* lastGrowth_ = memory_.get(); ///< Up to here there is room for any value but a string.
+    std::uint8_t* lastGrowth_ = memory_.get(); ///< Up to here there is room for any value except a string.
     Header header_;
 };
 

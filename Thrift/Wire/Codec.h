@@ -36,6 +36,7 @@ struct [[nodiscard]] CodecResult
     /// and may repeat the peer's text, unescaped.
     std::string message;
 
+    /// Whether the whole road was taken.
     [[nodiscard]] bool Success() const noexcept { return fault == Fault::None; }
 };
 
