@@ -65,7 +65,7 @@ public:
         if (version >= 0) // the size of the name, in a header without version
         {
             ReadText(name, static_cast<std::uint32_t>(version));
-            type = static_cast<TMessageType>(TakeByte());
+            type = static_cast<TMessageType>(static_cast<std::int8_t>(TakeByte()));
         }
         else
         {
