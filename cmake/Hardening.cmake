@@ -1,0 +1,16 @@
+# Optimised builds that may be shipped: what makes faults harder to exploit. Not with sanitizers, which see more.
+include(CheckCXXCompilerFlag)
+include(CheckPIESupported)
+
+check_pie_supported()
+if(CMAKE_BUILD_TYPE STREQUAL Release AND NOT CMAKE_CXX_FLAGS MATCHES -fsanitize)
+    foreach(option -fstack-protector-strong -fstack-clash-protection -fcf-protection)
+        string(MAKE_C_IDENTIFIER "TALVO_HAS${option}" has)
+        check_cxx_compiler_flag(${option} ${has})
+        if(${has})
+            add_compile_options(${option})
+        endif()
+    endforeach()
+    add_compile_options(-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2)
+    add_link_options(-Wl,-z,relro,-z,now)
+endif()
