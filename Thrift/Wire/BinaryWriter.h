@@ -160,7 +160,7 @@ private:
     [[gnu::always_inline]] std::uint8_t* Grow()
     {
         static_assert(Count <= Spare);
-        if (next_ > lastGrowth_) [[unlikely]]
+        if (next_ >= full_) [[unlikely]]
             Enlarge(Count);
         auto* const start = next_;
         next_ = start + Count;
@@ -189,7 +189,7 @@ private:
 
     [[gnu::noinline, gnu::cold]] void Enlarge(std::size_t const count)
     {
-        static constexpr std::size_t Least = 1024;
+        static constexpr std::size_t Least = 4096;
         auto const size = Size();
         auto const capacity = std::max({Least, 2 * size, size + count + Spare});
         auto larger = std::make_unique_for_overwrite<std::uint8_t[]>(capacity);
@@ -197,16 +197,16 @@ private:
         memory_ = std::move(larger);
         next_ = memory_.get() + size;
         end_ = memory_.get() + capacity;
-        lastGrowth_ = end_ - Spare;
+        full_ = end_ - Spare + 1;
     }
 
     /// No value except a string has more bytes.
     static constexpr std::size_t Spare = 8;
 
-    std::unique_ptr<std::uint8_t[]> memory_ = std::make_unique_for_overwrite<std::uint8_t[]>(Spare);
-    std::uint8_t* next_ = memory_.get();
-    std::uint8_t* end_ = memory_.get() + Spare;
-    std::uint8_t* lastGrowth_ = memory_.get(); ///< Up to here there is room for any value except a string.
+    std::unique_ptr<std::uint8_t[]> memory_;
+    std::uint8_t* next_ = nullptr;
+    std::uint8_t* end_ = nullptr;
+    std::uint8_t* full_ = nullptr; ///< From here on there may be no room for a value.
     Header header_;
 };
 
