@@ -1,13 +1,13 @@
 #include "benchmarks/Comparison.h"
 #include "benchmarks/PeakGrowth.h"
 #include "benchmarks/Records.h"
+#include "benchmarks/Samples.h"
 
 #include "Domain/CorvaneData/Clips/Clip.h"
 #include "Thrift/Data/Clips/EnumConverter.h"
 #include "Thrift/Data/Clips/FromClip.h"
 #include "Thrift/Data/Clips/ToClip.h"
 #include "generated/Clip_types.h"
-#include "tests/Thrift/Data/Clips/Values.h"
 
 #include <benchmark/benchmark.h>
 
@@ -27,14 +27,6 @@ using namespace Corvane::Zelmar::Serialization::Thrift::Data::Clips;
 using Corvane::Data::Clips::Clip;
 
 constexpr std::size_t ListSize = 100'000;
-
-/// All texts, both time codes, two essences.
-Clip ClipWithTwoEssences()
-{
-    auto clip = Tests::FullClip();
-    clip.lowResEssence.Clear(Corvane::Data::Clips::Essences::Type::LowRes);
-    return clip;
-}
 
 std::vector<Generated::Clip> ToWire(std::vector<Clip> const& clips)
 {

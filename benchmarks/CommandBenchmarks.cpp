@@ -1,6 +1,7 @@
 #include "benchmarks/Comparison.h"
 #include "benchmarks/PeakGrowth.h"
 #include "benchmarks/Records.h"
+#include "benchmarks/Samples.h"
 
 #include "Domain/HighLevelOperations/Commands/CommandParams.h"
 #include "Domain/HighLevelOperations/Commands/CreateClipsCommandParams.h"
@@ -15,13 +16,11 @@
 #include "generated/CreateClipsCommandParams_types.h"
 #include "generated/GetClipsCommandReply_types.h"
 #include "generated/PlayCommandParams_types.h"
-#include "tests/Thrift/Data/Clips/Values.h"
 
 #include <benchmark/benchmark.h>
 
 #include <cstddef>
 #include <cstdio>
-#include <list>
 #include <memory>
 #include <tuple>
 #include <vector>
@@ -33,18 +32,12 @@ namespace
 {
 
 using namespace Corvane::Zelmar::Serialization::Thrift::Commands;
-using Corvane::Data::Clips::Clip;
 using Corvane::Zelmar::HighLevelOperations::Commands::CommandParams;
 using Corvane::Zelmar::HighLevelOperations::Commands::CreateClipsCommandParams;
 using Corvane::Zelmar::HighLevelOperations::Commands::GetClipsCommandReply;
 using Corvane::Zelmar::HighLevelOperations::Commands::PlayCommandParams;
 
 constexpr std::size_t ListSize = 100'000;
-
-GetClipsCommandReply ReplyOf(std::size_t const count)
-{
-    return {Corvane::Data::Guid::Generate(), 1, std::list<Clip>(count, Tests::FullClip())};
-}
 
 /// A reply is read once, so each conversion takes a copy, which shares the clips.
 void ToWire(GetClipsCommandReply const reply, Generated::GetClipsCommandReply& wire)
@@ -55,7 +48,7 @@ void ToWire(GetClipsCommandReply const reply, Generated::GetClipsCommandReply& w
 
 GetClipsCommandReply ToDomain(Generated::GetClipsCommandReply const& wire)
 {
-    GetClipsCommandReply reply(Corvane::Data::Guid::Empty(), 0, {});
+    auto reply = FreshReply();
     std::ignore = Corvane::Zelmar::Serialization::Thrift::TryTo(ThriftToGetClipsCommandReplyConverter(), wire, reply);
     return reply;
 }

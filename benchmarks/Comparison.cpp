@@ -1,10 +1,12 @@
 #include "benchmarks/Comparison.h"
 
 #include <benchmark/benchmark.h>
+#include <malloc.h>
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdio>
+#include <limits>
 #include <map>
 #include <string>
 #include <vector>
@@ -75,6 +77,12 @@ void Print(Comparisons const& rows, TimesReporter const& times)
 }
 
 } // namespace
+
+void KeepHeap()
+{
+    mallopt(M_MMAP_MAX, 0);
+    mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
+}
 
 int Run(int const argc, char** const argv, Comparisons (*const add)())
 {

@@ -20,12 +20,17 @@ using Comparisons = std::vector<Comparison>;
 /// Runs what `add` registers, with the options of the command line, and prints the rows it gives. The status to exit with.
 int Run(int argc, char** argv, Comparisons (*add)());
 
+/// From here on the process keeps the memory it has: long lists get memory that is warm, as in a server that runs on. What
+/// the kernel takes to hand out new memory is none of ours, and as much for every way to fill it.
+void KeepHeap();
+
 // Each registers its benchmarks and adds the rows that show them.
 void AddTimeCodes(Comparisons& rows);
 void AddClips(Comparisons& rows);
 void AddStatesAndEvents(Comparisons& rows);
 void AddPlaylists(Comparisons& rows);
 void AddCommands(Comparisons& rows);
+void AddWireProtocol(Comparisons& rows);
 
 /// Registers what is measured of every record that converts both ways, as "every/RECORD/WHAT".
 void AddEveryRecord();

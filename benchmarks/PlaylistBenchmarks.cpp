@@ -1,11 +1,11 @@
 #include "benchmarks/Comparison.h"
 #include "benchmarks/Records.h"
+#include "benchmarks/Samples.h"
 
 #include "Domain/CorvaneData/Sequences/Playlist.h"
 #include "Thrift/Data/Sequences/FromPlaylist.h"
 #include "Thrift/Data/Sequences/ToPlaylist.h"
 #include "generated/Playlist_types.h"
-#include "tests/Thrift/Data/Sequences/Values.h"
 
 #include <cstddef>
 #include <memory>
@@ -14,31 +14,8 @@
 namespace Talvo::Benchmarks
 {
 
-namespace
-{
-
 using namespace Corvane::Zelmar::Serialization::Thrift::Data::Sequences;
 using Corvane::Data::Sequences::Playlist;
-using Corvane::Data::Sequences::Tag;
-using Corvane::Data::Sequences::TagProperty;
-
-/// A playlist of `count` elements with three tags each, of two properties each.
-Playlist PlaylistOf(std::size_t const count)
-{
-    Tag tag(Tag::CommandType::GpiOut);
-    tag.id = 1;
-    tag.field = 1200;
-    tag.properties.emplace(TagProperty::Key::OutputNumber, TagProperty(3));
-    tag.properties.emplace(TagProperty::Key::Duration, TagProperty(50));
-    auto element = Tests::FullElement();
-    element.tags.assign(3, tag);
-
-    auto playlist = Tests::FullPlaylist();
-    playlist.audioVideoTrack.elements.assign(count, element);
-    return playlist;
-}
-
-} // namespace
 
 void AddPlaylists(Comparisons& rows)
 {

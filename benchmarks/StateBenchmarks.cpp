@@ -1,41 +1,18 @@
 #include "benchmarks/Comparison.h"
 #include "benchmarks/Records.h"
+#include "benchmarks/Samples.h"
 
-#include "Domain/CorvaneData/Notification/ClipCreationFinishedEventArgs.h"
 #include "Thrift/Data/Channels/FromPlayerState.h"
 #include "Thrift/Data/Channels/ToPlayerState.h"
 #include "Thrift/Notifier/FromClipCreationFinishedEventArgs.h"
 #include "Thrift/Notifier/ToClipCreationFinishedEventArgs.h"
 #include "generated/ClipCreationEventArgs_types.h"
 #include "generated/PlayerState_types.h"
-#include "tests/Thrift/Data/Channels/Values.h"
 
 namespace Talvo::Benchmarks
 {
 
-namespace
-{
-
 using namespace Corvane::Zelmar::Serialization::Thrift;
-using Corvane::Data::Channels::PlayerState;
-using Corvane::Data::Clips::Clip;
-using Event = Corvane::Notification::ClipCreationFinishedEventArgs;
-
-Event CreationOf(Clip const& source, Clip const& created)
-{
-    return {310042,
-            Event::RequestSource::Network,
-            7,
-            1,
-            Corvane::Data::Guid::Generate(),
-            12,
-            source,
-            created,
-            Event::CreationType::Copy,
-            Event::NetworkType::PushGbe};
-}
-
-} // namespace
 
 void AddStatesAndEvents(Comparisons& rows)
 {
@@ -58,11 +35,7 @@ void AddStatesAndEvents(Comparisons& rows)
             wire.sourceClip.userBits.clear();
             wire.newClip.userBits.clear();
         },
-        []
-        {
-            static auto const fresh = CreationOf(Clip(), Clip());
-            return fresh;
-        });
+        &FreshCreation);
 }
 
 } // namespace Talvo::Benchmarks
