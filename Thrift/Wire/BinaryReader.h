@@ -57,6 +57,9 @@ public:
     /// What was not read yet.
     [[nodiscard]] std::span<std::uint8_t const> Rest() const noexcept { return {next_, end_}; }
 
+    /// How many fields the records did not have, or not with that type.
+    [[nodiscard]] std::size_t SkippedFields() const noexcept { return skippedFields_; }
+
     std::uint32_t readMessageBegin(std::string& name, TMessageType& type, std::int32_t& sequence)
     {
         auto const* const start = next_;
@@ -179,6 +182,7 @@ public:
     std::uint32_t skip(TType const type)
     {
         auto const* const start = next_;
+        ++skippedFields_;
         Skip(type);
         return Since(start);
     }
@@ -362,6 +366,7 @@ private:
     Bounds bounds_;
     std::uint64_t memory_;
     std::uint64_t memoryLeft_;
+    std::size_t skippedFields_ = 0;
 };
 
 } // namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Wire
