@@ -5,8 +5,8 @@
 // The first byte chooses the record, the second the protocol.
 
 #include "tools/Failure.h"
-#include "tools/FieldList.h"
 #include "tools/Protocols.h"
+#include "tools/Text.h"
 
 #include <algorithm>
 #include <array>
@@ -14,6 +14,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -37,7 +38,7 @@ std::unique_ptr<WireRecord> Read(std::string const& bytes, Protocol const protoc
 {
     try
     {
-        return Decode(bytes, protocol, type).record;
+        return Decode(Message(bytes, protocol, type)).record;
     }
     catch (Failure const&)
     {
@@ -80,20 +81,25 @@ bool LosesOnTheWayBack(WireRecord const& record, RecordType const& type)
 {
     if (std::ranges::find(TravelUnderConditions, type.name) != TravelUnderConditions.end()) return true;
 
-    auto const fields = ListFields(record).fields;
-    auto const isLost = [&](Field const& field)
+    std::map<std::string, Value> values;
+    record.VisitValues(record, Talvo::Records::FieldSet::Written,
+                       [&](Place const& place)
+                       {
+                           if (place.after) values.emplace(PathText(place.path), *place.after);
+                       });
+    auto const isLost = [&](auto const& entry)
     {
-        if (field.path.ends_with("hdrProfile")) return !IsKnown(field.value, 5);
-        if (auto const essence = field.path.find("Essence."); essence != std::string::npos)
+        auto const& [path, value] = entry;
+        if (path.ends_with("hdrProfile")) return !IsKnown(value, 5);
+        if (auto const essence = path.find("Essence."); essence != std::string::npos)
         {
-            auto const status = field.path.substr(0, essence) + "Essence.recordingStatus";
-            auto const found = std::ranges::find(fields, status, &Field::path);
-            return found == fields.end() || !IsKnown(found->value, 4);
+            auto const status = values.find(path.substr(0, essence) + "Essence.recordingStatus");
+            return status == values.end() || !IsKnown(status->second, 4);
         }
-        auto const* const text = std::get_if<std::string>(&field.value);
-        return !field.path.ends_with("uid.value") && text != nullptr && text->find('\0') != std::string::npos;
+        auto const* const text = std::get_if<std::string_view>(&value);
+        return !path.ends_with("uid.value") && text != nullptr && text->find('\0') != std::string_view::npos;
     };
-    return std::ranges::any_of(fields, isLost);
+    return std::ranges::any_of(values, isLost);
 }
 
 bool Converts(RecordType const& type, WireRecord const& record)

@@ -1,8 +1,10 @@
 #include "records/RecordType.h"
 
 #include "Thrift/TryTo.h"
+#include "Thrift/Wire/BinaryReader.h"
 #include "records/All.h"
 #include "records/NewDomain.h"
+#include "records/ValueWalk.h"
 #include "records/ViewOf.h"
 
 #include <concepts>
@@ -29,6 +31,7 @@ class HeldRecord final : public WireRecord
 public:
     // Through the virtual protocol: one copy of the generated code serves every protocol.
     void Read(apache::thrift::protocol::TProtocol& protocol) override { record.read(&protocol); }
+    void Read(Corvane::Zelmar::Serialization::Thrift::Wire::BinaryReader& reader) override { record.read(&reader); }
     void Write(apache::thrift::protocol::TProtocol& protocol) const override { record.write(&protocol); }
 
     View Fields() const override { return ViewOf(record); }
@@ -40,6 +43,13 @@ public:
     }
 
     TWire record;
+
+private:
+    void VisitValues(WireRecord const* const after, FieldSet const fieldsAfter, ValueVisit const& visit) const override
+    {
+        auto const* const same = static_cast<HeldRecord const*>(after);
+        ValueWalk(fieldsAfter, visit).Pass(&record, same == nullptr ? nullptr : &same->record);
+    }
 };
 
 template<typename TDomain>

@@ -2,6 +2,7 @@
 
 #include "Common/Serialization/ConversionResult.h"
 #include "records/RecordView.h"
+#include "records/Values.h"
 
 #include <cstdint>
 #include <memory>
@@ -15,6 +16,10 @@ namespace apache::thrift::protocol
 {
 class TProtocol;
 }
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Wire
+{
+class BinaryReader;
+}
 
 namespace Talvo::Records
 {
@@ -26,12 +31,25 @@ public:
     virtual ~WireRecord() = default;
 
     virtual void Read(apache::thrift::protocol::TProtocol& protocol) = 0;
+    /// Within all bounds of that reader, which counts memory only where it is not called through its base class.
+    virtual void Read(Corvane::Zelmar::Serialization::Thrift::Wire::BinaryReader& reader) = 0;
     virtual void Write(apache::thrift::protocol::TProtocol& protocol) const = 0;
 
     /// All fields with their flags.
     virtual View Fields() const = 0;
+    /// Visits the values that were read into this record, in the order of the schema.
+    void VisitValues(ValueVisit const& visit) const { VisitValues(nullptr, FieldSet::Read, visit); }
+    /// The same, and beside them those of `after`, a record of the same type.
+    void VisitValues(WireRecord const& after, FieldSet const fieldsAfter, ValueVisit const& visit) const
+    {
+        VisitValues(&after, fieldsAfter, visit);
+    }
+
     /// False for a record of another type.
     virtual bool operator==(WireRecord const& other) const = 0;
+
+private:
+    virtual void VisitValues(WireRecord const* after, FieldSet fieldsAfter, ValueVisit const& visit) const = 0;
 };
 
 /// One domain object, likewise.

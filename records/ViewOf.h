@@ -47,9 +47,9 @@ View ViewOf(T const& value)
     else
     {
         View view{View::Kind::Record, NameOf(value), {}};
-        VisitFields(value,
-                    [&view](int const id, char const* const name, bool const isSet, auto const& field) {
-                        view.parts.push_back({std::to_string(id) + ' ' + name, isSet, ViewOf(field)});
+        VisitFields(std::type_identity<T>(),
+                    [&](int const id, char const* const name, Requirement, auto const member, auto const isSet) {
+                        view.parts.push_back({std::to_string(id) + ' ' + name, isSet(value), ViewOf(value.*member)});
                     });
         return view;
     }

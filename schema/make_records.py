@@ -235,8 +235,10 @@ def fields_header(schemas):
             visits = []
             for field in fields:
                 name = field.get("name")
-                flag = "true" if field.get("required") == "required" else f"record.__isset.{name}"
-                visits.append(f'    visit({field.get("field-id")}, "{name}", {flag}, record.{name});\n')
+                requirement = {"required": "Required", "optional": "Optional"}.get(field.get("required"), "Default")
+                flag = "true" if requirement == "Required" else f"record.__isset.{name}"
+                visits.append(f'    visit({field.get("field-id")}, "{name}", Requirement::{requirement}, &Record::{name},\n'
+                              f'          []([[maybe_unused]] Record const& record) -> bool {{ return {flag}; }});\n')
             views.append(f"""\
 constexpr char const* NameOf(::{schema.namespace}::{record} const&)
 {{
@@ -244,8 +246,9 @@ constexpr char const* NameOf(::{schema.namespace}::{record} const&)
 }}
 
 template<typename TVisit>
-void VisitFields([[maybe_unused]] ::{schema.namespace}::{record} const& record, [[maybe_unused]] TVisit&& visit)
+void VisitFields(std::type_identity<::{schema.namespace}::{record}>, [[maybe_unused]] TVisit&& visit)
 {{
+    using Record [[maybe_unused]] = ::{schema.namespace}::{record};
 {''.join(visits)}}}
 """)
             group = schema.namespace.removesuffix("::Generated").rpartition("::")[2]
@@ -262,7 +265,15 @@ void VisitFields([[maybe_unused]] ::{schema.namespace}::{record} const& record, 
 
 namespace Talvo::Records {{
 
-// Calls visit(id, name, flag, value) for each field, in the order of the schema; the flag of a required field is true.
+enum class Requirement
+{{
+    Required,
+    Default, ///< Written always.
+    Optional ///< Written where its flag is set.
+}};
+
+// Calls visit(id, name, requirement, member, isSet) for each field, in the order of the schema: a pointer to the field, and
+// a function that gives the flag of a record's field, for a required one true.
 
 {chr(10).join(views)}
 // Calls visit(type_identity, name, group) for each record, by namespace, those of data and outer ones first, and name.

@@ -4,12 +4,12 @@
 #include "TimePoints/TimeCode.h"
 #include "TimePoints/TimePoint.h"
 
-#include <algorithm>
-#include <charconv>
+#include <cstddef>
+#include <cstdint>
 #include <limits>
 #include <string_view>
 #include <type_traits>
-#include <unordered_set>
+#include <variant>
 
 namespace Talvo::Tools
 {
@@ -26,7 +26,7 @@ std::string Why(T const&, U const&)
     return Changed;
 }
 
-std::string Why(std::string const& before, std::string const& after)
+std::string Why(std::string_view const before, std::string_view const after)
 {
     static std::string const noTimeCode = TimePoints::TalvoTimeCodeFormatter().Format(TimePoints::TimeCode::Empty());
     if (after.empty()) return "emptied";
@@ -55,72 +55,17 @@ std::string Why(bool, bool)
     return Changed;
 }
 
-/// An empty container that the other record has too, filled.
-bool IsFilledIn(FieldList const& other, Field const& field)
-{
-    return std::holds_alternative<Empty>(field.value) && other.containers.contains(field.path);
-}
-
-std::string WhyGone(Field const& field, FieldList const& after)
-{
-    if (IsFilledIn(after, field)) return "no longer empty";
-    auto const& path = field.path;
-    for (auto open = path.find('['); open != std::string::npos; open = path.find('[', open + 1))
-    {
-        auto const list = after.containers.find(path.substr(0, open));
-        if (list == after.containers.end() || !list->second) continue;
-        std::size_t index = 0;
-        std::from_chars(path.data() + open + 1, path.data() + path.size(), index);
-        if (index >= *list->second) return "list cut to " + std::to_string(*list->second) + " elements";
-    }
-    return "dropped";
-}
-
-std::string WhyAdded(Field const& field, FieldList const& before)
-{
-    return IsFilledIn(before, field) ? "emptied" : "not in the file";
-}
-
-std::unordered_set<std::string_view> Paths(FieldList const& list)
-{
-    std::unordered_set<std::string_view> paths;
-    for (auto const& field : list.fields) paths.insert(field.path);
-    return paths;
-}
-
 } // namespace
 
-std::vector<FieldChange> Compare(FieldList const& before, FieldList const& after)
+std::string Why(Records::Place const& place)
 {
-    std::vector<FieldChange> changes;
-    auto const pathsBefore = Paths(before);
-    auto const pathsAfter = Paths(after);
-    auto added = after.fields.begin();
-    auto const takeAdded = [&]
+    if (!place.before) return place.inBoth ? "emptied" : "not in the file";
+    if (!place.after)
     {
-        for (; added != after.fields.end() && !pathsBefore.contains(added->path); ++added)
-            changes.push_back({added->path, std::nullopt, added->value, WhyAdded(*added, before)});
-    };
-
-    // Both lists follow the schema, so the paths that they share stand in the same order.
-    for (auto const& field : before.fields)
-    {
-        if (!pathsAfter.contains(field.path))
-        {
-            changes.push_back({field.path, field.value, std::nullopt, WhyGone(field, after)});
-            continue;
-        }
-        takeAdded();
-        if (added->value != field.value)
-        {
-            auto why =
-                std::visit([](auto const& was, auto const& is) { return Why(was, is); }, field.value, added->value);
-            changes.push_back({field.path, field.value, added->value, std::move(why)});
-        }
-        ++added;
+        if (place.inBoth) return "no longer empty";
+        return place.cutTo ? "list cut to " + std::to_string(*place.cutTo) + " elements" : "dropped";
     }
-    takeAdded();
-    return changes;
+    return std::visit([](auto const& was, auto const& is) { return Why(was, is); }, *place.before, *place.after);
 }
 
 } // namespace Talvo::Tools

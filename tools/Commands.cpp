@@ -2,24 +2,28 @@
 
 #include "tools/Changes.h"
 #include "tools/Failure.h"
-#include "tools/FieldList.h"
 #include "tools/Files.h"
 #include "tools/Json.h"
+#include "tools/Text.h"
 
-#include <cstdint>
+#include <algorithm>
+#include <cstddef>
 #include <iomanip>
 #include <iostream>
 #include <limits>
 #include <memory>
 #include <optional>
+#include <string>
 #include <utility>
-#include <vector>
 
 namespace Talvo::Tools
 {
 
 namespace
 {
+
+using Common::Serialization::ConversionResult;
+using Records::FieldSet;
 
 std::string_view Directions(RecordType const& type)
 {
@@ -29,34 +33,33 @@ std::string_view Directions(RecordType const& type)
     return "-";
 }
 
-std::string FileName(Source const& source)
+/// Calls `read`; a failure of that names the file.
+template<typename TRead>
+auto Naming(Source const& source, TRead const& read)
 {
-    return source.path == "-" ? "standard input" : source.path;
-}
-
-/// Reads a file and calls `decode` with its bytes; a failure of that names the file.
-template<typename TDecode>
-auto Load(Source const& source, TDecode const& decode)
-{
-    auto const bytes = ReadFile(source.path, source.limits.bytes);
     try
     {
-        return decode(bytes);
+        return read();
     }
     catch (Failure const& failure)
     {
-        throw Failure(FileName(source) + ": " + failure.what());
+        throw Failure(InputName(source.path) + ": " + failure.what());
     }
 }
 
-Decoded LoadRecord(Source const& source, RecordType const& type)
+Message Load(Source const& source, RecordType const& type)
 {
-    auto decoded =
-        Load(source, [&](std::string const& bytes) { return Decode(bytes, source.protocol, type, source.limits); });
+    auto bytes = ReadFile(source.path, source.limits.bytes);
+    return Naming(source, [&] { return Message(std::move(bytes), source.protocol, type, source.limits); });
+}
+
+std::unique_ptr<WireRecord> ReadRecord(Source const& source, Message const& message)
+{
+    auto decoded = Naming(source, [&] { return Decode(message); });
     if (decoded.skippedFields > 0)
-        std::cerr << "talvo-wire: note: " << FileName(source) << " holds " << decoded.skippedFields
-                  << " fields that the record does not have; they were skipped\n";
-    return decoded;
+        Report("note: " + InputName(source.path) + " holds " + std::to_string(decoded.skippedFields) +
+               " fields that the record does not have; they were skipped");
+    return std::move(decoded.record);
 }
 
 /// What became of the values of a record on a round trip.
@@ -71,145 +74,250 @@ struct Tally
 /// A record's way to the domain and back, as far as it came.
 struct Journey
 {
-    std::optional<Common::Serialization::ConversionResult> toDomain;
-    std::optional<Common::Serialization::ConversionResult> toWire;
-    std::unique_ptr<WireRecord> record; ///< Null unless both conversions succeeded.
-    std::vector<FieldChange> changes;
-    Tally tally;
+    ConversionResult toDomain;
+    std::optional<ConversionResult> toWire;
+    std::unique_ptr<WireRecord> before; ///< These two are null unless both conversions succeeded.
+    std::unique_ptr<WireRecord> after;
+
+    /// Visits every value of the two.
+    template<typename TVisit>
+    void VisitValues(TVisit const& visit) const
+    {
+        if (after != nullptr) before->VisitValues(*after, FieldSet::Written, visit);
+    }
+
+    /// Visits those that differ.
+    template<typename TVisit>
+    void VisitChanges(TVisit const& visit) const
+    {
+        VisitValues(
+            [&](Place const& place)
+            {
+                if (place.before != place.after) visit(place);
+            });
+    }
 };
 
-Journey Travel(RecordType const& type, Decoded const& decoded)
+/// Of the record, the domain object and the record that comes back, two are in memory at once and no more.
+Journey Travel(Source const& source, Message const& message)
 {
+    auto const& type = message.Type();
     Journey journey;
-    auto trip = type.throughDomain(*decoded.record);
-    journey.toDomain = std::move(trip.toDomain);
-    journey.toWire = std::move(trip.toWire);
-    journey.record = std::move(trip.record);
-    if (journey.record == nullptr) return journey;
+    auto record = ReadRecord(source, message);
+    auto domain = type.makeDomain(*record);
+    journey.toDomain = type.convertToDomain(*record, *domain, Records::Form::Checked);
+    record.reset();
+    if (!journey.toDomain.success) return journey;
 
-    auto const before = ListFields(decoded);
-    journey.changes = Compare(before, ListFields(*journey.record));
-    auto& tally = journey.tally;
-    for (auto const& change : journey.changes)
-        ++(!change.after ? tally.gone : !change.before ? tally.added : tally.changed);
-    tally.kept = before.fields.size() - tally.changed - tally.gone;
+    auto back = type.make();
+    journey.toWire = type.convertToWire(*domain, *back, Records::Form::Movable);
+    domain.reset();
+    if (!journey.toWire->success) return journey;
+
+    journey.before = Decode(message).record;
+    journey.after = std::move(back);
     return journey;
 }
 
-/// Tells on standard error what kept a record from coming back.
+Tally TallyOf(Journey const& journey)
+{
+    Tally tally;
+    journey.VisitValues(
+        [&](Place const& place)
+        {
+            ++(!place.after                  ? tally.gone
+               : !place.before               ? tally.added
+               : place.before == place.after ? tally.kept
+                                             : tally.changed);
+        });
+    return tally;
+}
+
+/// Reports on standard error what kept a record from coming back.
 void ReportFailures(RecordType const& type, Journey const& journey)
 {
-    auto const report = [&](std::string const& text)
-    { std::cerr << "talvo-wire: " << type.name << ' ' << text << '\n'; };
-    if (journey.toDomain && !journey.toDomain->success)
-        report("wire to domain failed: " + Escaped(journey.toDomain->message));
-    if (journey.toWire && !journey.toWire->success)
-        report("domain to wire failed: " + Escaped(journey.toWire->message));
+    auto const report = [&](std::string const& direction, ConversionResult const& result)
+    {
+        if (!result.success) Report(std::string(type.name) + ' ' + direction + " failed: " + result.message);
+    };
+    report("wire to domain", journey.toDomain);
+    if (journey.toWire) report("domain to wire", *journey.toWire);
 }
 
 void PrintAsText(Journey const& journey, Style const& style)
 {
-    auto const print = [&](char const* direction, std::optional<Common::Serialization::ConversionResult> const& result)
+    auto const print = [&](char const* const direction, ConversionResult const& result)
     {
-        if (!result) return;
         std::cout << direction << ": "
-                  << (result->success ? Painted("success", Colour::Green, style)
-                                      : Painted("failure", Colour::Red, style))
+                  << (result.success ? Painted("success", Colour::Green, style)
+                                     : Painted("failure", Colour::Red, style))
                   << '\n';
     };
     print("wire to domain", journey.toDomain);
-    print("domain to wire", journey.toWire);
-    if (journey.record == nullptr) return;
+    if (journey.toWire) print("domain to wire", *journey.toWire);
+    if (journey.after == nullptr) return;
 
-    std::vector<Row> rows{{{"path", "before", "after", "why"}, Colour::Bold}};
-    auto const text = [](std::optional<Value> const& value) { return value ? ValueText(*value) : "-"; };
-    for (auto const& change : journey.changes)
-        rows.push_back({{change.path, text(change.before), text(change.after), change.why},
-                        !change.after    ? Colour::Red
-                        : !change.before ? Colour::Green
-                                         : Colour::Yellow});
-    if (!journey.changes.empty()) PrintTable(rows, style);
-    auto const& tally = journey.tally;
+    auto const tally = TallyOf(journey);
+    if (tally.changed + tally.gone + tally.added > 0)
+    {
+        auto const text = [](std::optional<Value> const& value) { return value ? ValueText(*value) : "-"; };
+        auto const cells = [&](Place const& place) -> Table::Cells {
+            return {PathText(place.path), text(place.before), text(place.after), Why(place)};
+        };
+        Table::Cells const titles{"path", "before", "after", "why"};
+        Table table(style);
+        table.Measure(titles);
+        journey.VisitChanges([&](Place const& place) { table.Measure(cells(place)); });
+        table.Print(titles, Colour::Bold);
+        journey.VisitChanges(
+            [&](Place const& place) {
+                table.Print(cells(place), !place.after ? Colour::Red : !place.before ? Colour::Green : Colour::Yellow);
+            });
+    }
     std::cout << "values: " << tally.kept << " kept, " << tally.changed << " changed, " << tally.gone << " gone, "
               << tally.added << " added\n";
 }
 
+void PrintResult(ConversionResult const& result)
+{
+    std::cout << R"({"success":)" << (result.success ? "true" : "false") << R"(,"message":)";
+    PrintJson(std::cout, result.message);
+    std::cout << '}';
+}
+
 void PrintAsJson(RecordType const& type, Journey const& journey)
 {
-    auto const& tally = journey.tally;
-    PrintObject(
-        {{"record", type.name},
-         {"toDomain", ToJson(journey.toDomain)},
-         {"toWire", ToJson(journey.toWire)},
-         {"values", {{"kept", tally.kept}, {"changed", tally.changed}, {"gone", tally.gone}, {"added", tally.added}}}},
-        "changes", journey.changes);
+    auto const tally = TallyOf(journey);
+    std::cout << R"({"record": ")" << type.name << "\",\n\"toDomain\": ";
+    PrintResult(journey.toDomain);
+    std::cout << ",\n\"toWire\": ";
+    if (journey.toWire)
+        PrintResult(*journey.toWire);
+    else
+        std::cout << "null";
+    std::cout << ",\n\"values\": {\"kept\":" << tally.kept << ",\"changed\":" << tally.changed
+              << ",\"gone\":" << tally.gone << ",\"added\":" << tally.added << "},\n\"changes\": ";
+
+    JsonArray changes;
+    journey.VisitChanges(
+        [&](Place const& place)
+        {
+            changes.Next();
+            std::cout << R"({"path":)";
+            PrintJson(std::cout, PathText(place.path));
+            std::cout << R"(,"before":)";
+            PrintJsonValue(std::cout, place.before);
+            std::cout << R"(,"after":)";
+            PrintJsonValue(std::cout, place.after);
+            std::cout << R"(,"why":")" << Why(place) << "\"}";
+        });
+    changes.End();
+    std::cout << "}\n";
 }
 
 } // namespace
 
 void List(Style const& style)
 {
-    if (style.json)
+    if (!style.json)
     {
-        PrintArray(RecordTypes());
-        std::cout << '\n';
+        for (auto const& type : RecordTypes())
+            std::cout << std::left << std::setw(42) << type.name << std::setw(11) << type.group << Directions(type)
+                      << '\n';
         return;
     }
+
+    JsonArray types;
     for (auto const& type : RecordTypes())
-        std::cout << std::left << std::setw(42) << type.name << std::setw(11) << type.group << Directions(type) << '\n';
+    {
+        types.Next();
+        std::cout << R"({"name":")" << type.name << R"(","namespace":")" << type.group << R"(","toDomain":)"
+                  << (type.toDomain ? "true" : "false") << R"(,"toWire":)" << (type.toWire ? "true" : "false") << '}';
+    }
+    types.End();
+    std::cout << '\n';
 }
 
 void Print(Source const& source, Style const& style)
 {
     auto const& type = FindRecordType(source.record);
-    auto const list = ListFields(LoadRecord(source, type));
-    if (style.json)
+    auto const record = ReadRecord(source, Load(source, type));
+    if (!style.json)
     {
-        PrintObject({{"record", type.name}}, "values", list.fields);
+        std::cout << Painted(std::string(type.name), Colour::Bold, style) << '\n';
+        record->VisitValues(
+            [&](Place const& place)
+            {
+                std::cout << "  " << Painted(PathText(place.path), Colour::Cyan, style) << " = ";
+                PrintValue(std::cout, *place.before);
+                std::cout << '\n';
+            });
         return;
     }
-    std::cout << Painted(std::string(type.name), Colour::Bold, style) << '\n';
-    for (auto const& field : list.fields)
-        std::cout << "  " << Painted(field.path, Colour::Cyan, style) << " = " << ValueText(field.value) << '\n';
+
+    std::cout << R"({"record": ")" << type.name << "\",\n\"values\": ";
+    JsonArray values;
+    record->VisitValues(
+        [&](Place const& place)
+        {
+            values.Next();
+            std::cout << R"({"path":)";
+            PrintJson(std::cout, PathText(place.path));
+            std::cout << R"(,"value":)";
+            PrintJsonValue(std::cout, place.before);
+            std::cout << '}';
+        });
+    values.End();
+    std::cout << "}\n";
 }
 
-ExitStatus Convert(Source const& source, Target const& target, Style const& style)
+ExitStatus Convert(Source source, Target const& target, Style const& style)
 {
     auto const& type = FindRecordType(source.record);
     if (type.throughDomain == nullptr)
         throw Failure(std::string(type.name) +
                       " has no converters in both directions; talvo-wire list tells which have");
 
-    auto const journey = Travel(type, LoadRecord(source, type));
+    // The domain object takes about as much as the record.
+    source.limits.memory /= 2;
+    source.limits.memoryPerByte /= 2;
+    auto const journey = Travel(source, Load(source, type));
     if (style.json)
         PrintAsJson(type, journey);
     else
         PrintAsText(journey, style);
     ReportFailures(type, journey);
-    if (journey.record == nullptr) return ExitStatus::ConversionFailed;
+    if (journey.after == nullptr) return ExitStatus::ConversionFailed;
 
-    if (!target.path.empty()) WriteFile(target.path, Encode(*journey.record, target.protocol));
+    if (!target.path.empty()) WriteFile(target.path, Encode(*journey.after, target.protocol));
     return ExitStatus::Done;
 }
 
 void Transcode(Source const& source, Target const& target)
 {
     auto const& type = FindRecordType(source.record);
-    auto const [before, bytes] =
-        Load(source,
-             [&](std::string const& read)
-             {
-                 return std::pair(ListFields(Decode(read, source.protocol, type, source.limits)),
-                                  Transcode(read, source.protocol, type, source.limits, target.protocol));
-             });
+    auto const message = Load(source, type);
+    Naming(source, [&] { return Decode(message); });
+    auto bytes = Naming(source, [&] { return Transcode(message, target.protocol); });
     WriteFile(target.path, bytes);
 
     // Thrift's JSON reader drops zero bytes, so not every record comes back from it.
-    Limits const anySize{std::numeric_limits<std::int32_t>::max(), source.limits.elements};
-    auto const lost = Compare(before, ListFields(Decode(bytes, target.protocol, type, anySize)));
-    if (!lost.empty())
-        std::cerr << "talvo-wire: note: " << Name(target.protocol) << " does not keep this record; " << lost.size()
-                  << " of its values read back different, such as " << lost.front().path << '\n';
+    auto anySize = source.limits;
+    anySize.bytes = std::numeric_limits<std::int32_t>::max();
+    Message const back(std::move(bytes), target.protocol, type, anySize);
+    if (std::ranges::equal(back.Bytes(), message.Bytes())) return;
+
+    std::size_t lost = 0;
+    std::string first;
+    Decode(message).record->VisitValues(*Decode(back).record, FieldSet::Read,
+                                        [&](Place const& place)
+                                        {
+                                            if (place.before == place.after || lost++ > 0) return;
+                                            first = PathText(place.path);
+                                        });
+    if (lost > 0)
+        Report("note: " + std::string(Name(target.protocol)) + " does not keep this record; " + std::to_string(lost) +
+               " of its values read back different, such as " + first);
 }
 
 } // namespace Talvo::Tools

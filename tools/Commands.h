@@ -43,7 +43,7 @@ void Print(Source const& source, Style const& style);
 
 /// Converts a record to the domain and back, prints what each conversion said and every value that came back different,
 /// and writes the record that came back. To the domain it converts with TryTo().
-ExitStatus Convert(Source const& source, Target const& target, Style const& style);
+ExitStatus Convert(Source source, Target const& target, Style const& style);
 
 /// Writes a record in another protocol. Notes on standard error where that protocol can't carry it unchanged.
 void Transcode(Source const& source, Target const& target);

@@ -5,9 +5,11 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <cstdio>
 #include <cstring>
 #include <fstream>
 #include <iostream>
+#include <memory>
 
 namespace Talvo::Tools
 {
@@ -15,38 +17,44 @@ namespace Talvo::Tools
 namespace
 {
 
-std::string ReadAll(std::istream& input, std::size_t const maxSize)
+struct Close
 {
-    std::string bytes;
-    std::array<char, 65536> block;
-    while (bytes.size() <= maxSize && input)
-    {
-        auto const wanted = std::min(block.size(), maxSize + 1 - bytes.size());
-        input.read(block.data(), static_cast<std::streamsize>(wanted));
-        bytes.append(block.data(), static_cast<std::size_t>(input.gcount()));
-    }
-    return bytes;
-}
+    void operator()(std::FILE* const file) const { std::fclose(file); }
+};
 
-Failure SystemFailure(std::string const& action, std::string const& path)
+Failure SystemFailure(std::string const& action, std::string const& name)
 {
-    return Failure(action + " " + path + ": " + std::strerror(errno));
+    return Failure(action + " " + name + ": " + std::strerror(errno));
 }
 
 } // namespace
 
+std::string InputName(std::string const& path)
+{
+    return path == "-" ? "standard input" : path;
+}
+
 std::string ReadFile(std::string const& path, std::size_t const maxSize)
 {
-    if (path == "-") return ReadAll(std::cin, maxSize);
+    std::unique_ptr<std::FILE, Close> const opened(path == "-" ? nullptr : std::fopen(path.c_str(), "rb"));
+    auto* const file = path == "-" ? stdin : opened.get();
+    if (file == nullptr) throw SystemFailure("can't read", path);
 
-    std::ifstream file(path, std::ios::binary);
-    if (!file) throw SystemFailure("can't read", path);
-    auto bytes = ReadAll(file, maxSize);
-    if (file.bad()) throw SystemFailure("can't read", path);
+    std::string bytes;
+    std::array<char, 65536> block;
+    while (bytes.size() <= maxSize)
+    {
+        auto const wanted = std::min(block.size(), maxSize + 1 - bytes.size());
+        auto const count = std::fread(block.data(), 1, wanted, file);
+        bytes.append(block.data(), count);
+        if (count == wanted) continue;
+        if (std::ferror(file) != 0) throw SystemFailure("can't read", InputName(path));
+        break;
+    }
     return bytes;
 }
 
-void WriteFile(std::string const& path, std::string const& bytes)
+void WriteFile(std::string const& path, std::string_view const bytes)
 {
     if (path == "-")
     {

@@ -1,71 +1,70 @@
 #include "tools/Json.h"
 
-#include <cstdint>
+#include <cstddef>
+#include <iostream>
+#include <string>
 #include <type_traits>
 #include <variant>
 
 namespace Talvo::Tools
 {
 
-Json BytesToJson(std::string const& bytes)
+void PrintJson(std::ostream& output, std::string_view const bytes)
 {
-    std::string utf8;
+    static constexpr std::string_view Digits = "0123456789abcdef";
+    static constexpr std::string_view ShortlyEscaped = "\b\t\n\f\r\"\\";
+    static constexpr std::size_t MaxPieceSize = 4096;
+    static constexpr std::string_view ShortForms = "btnfr\"\\";
+
+    std::string piece = "\"";
     for (char const byte : bytes)
     {
         auto const character = static_cast<unsigned char>(byte);
-        if (character < 0x80U)
-            utf8 += byte;
+        if (auto const found = ShortlyEscaped.find(byte); found != std::string_view::npos)
+            piece += {'\\', ShortForms[found]};
+        else if (character >= 0x20U && character < 0x7FU)
+            piece += byte;
         else
-            utf8 += {static_cast<char>(0xC0U | character >> 6U), static_cast<char>(0x80U | (character & 0x3FU))};
+            piece += {'\\', 'u', '0', '0', Digits[character >> 4U], Digits[character & 0xFU]};
+        if (piece.size() < MaxPieceSize) continue;
+        output << piece;
+        piece.clear();
     }
-    return utf8;
+    output << piece << '"';
 }
 
-Json ToJson(Value const& value)
+void PrintJsonValue(std::ostream& output, std::optional<Records::Value> const& value)
 {
-    return std::visit(
-        []<typename T>(T const& held) -> Json
+    if (!value)
+    {
+        output << "null";
+        return;
+    }
+    std::visit(
+        [&]<typename T>(T const& held)
         {
-            if constexpr (std::is_same_v<T, std::string>)
-                return BytesToJson(held);
+            using Records::Empty;
+            if constexpr (std::is_same_v<T, bool>)
+                output << (held ? "true" : "false");
+            else if constexpr (std::is_same_v<T, std::string_view>)
+                PrintJson(output, held);
             else if constexpr (std::is_same_v<T, Empty>)
-                return held == Empty::List || held == Empty::Set ? Json::array() : Json::object();
+                output << (held == Empty::List || held == Empty::Set ? "[]" : "{}");
             else
-                return held;
+                output << held;
         },
-        value);
+        *value);
 }
 
-Json ToJson(std::optional<Value> const& value)
+void JsonArray::Next()
 {
-    return value ? ToJson(*value) : Json();
+    std::cout << (isEmpty_ ? "[\n" : ",\n");
+    isEmpty_ = false;
 }
 
-Json ToJson(Field const& field)
+void JsonArray::End()
 {
-    return {{"path", field.path}, {"value", ToJson(field.value)}};
-}
-
-Json ToJson(FieldChange const& change)
-{
-    return {
-        {"path", change.path}, {"before", ToJson(change.before)}, {"after", ToJson(change.after)}, {"why", change.why}};
-}
-
-Json ToJson(RecordType const& type)
-{
-    return {{"name", type.name}, {"namespace", type.group}, {"toDomain", type.toDomain}, {"toWire", type.toWire}};
-}
-
-Json ToJson(std::optional<Common::Serialization::ConversionResult> const& result)
-{
-    if (!result) return {};
-    return {{"success", result->success}, {"message", BytesToJson(result->message)}};
-}
-
-std::string Text(Json const& json)
-{
-    return json.dump(-1, ' ', true);
+    std::cout << (isEmpty_ ? "[]" : "\n]");
 }
 
 } // namespace Talvo::Tools

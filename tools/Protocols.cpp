@@ -1,8 +1,8 @@
 #include "tools/Protocols.h"
 
+#include "Thrift/Wire/BinaryReader.h"
+#include "Thrift/Wire/BinaryWriter.h"
 #include "tools/Failure.h"
-#include "tools/FieldList.h"
-#include "tools/FieldPath.h"
 
 #include <thrift/TConfiguration.h>
 #include <thrift/protocol/TBinaryProtocol.h>
@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 #include <new>
 #include <utility>
 
@@ -23,7 +24,8 @@ namespace Talvo::Tools
 namespace
 {
 
-namespace Wire = apache::thrift::protocol;
+namespace Thrift = apache::thrift::protocol;
+namespace Wire = Corvane::Zelmar::Serialization::Thrift::Wire;
 using apache::thrift::transport::TMemoryBuffer;
 using apache::thrift::transport::TTransport;
 using apache::thrift::transport::TTransportException;
@@ -32,185 +34,66 @@ constexpr std::array<std::pair<std::string_view, Protocol>, 3> Protocols{
     {{"binary", Protocol::Binary}, {"compact", Protocol::Compact}, {"json", Protocol::Json}}};
 
 /// `limit`, in bytes and in elements, bounds what is read; 0 is no limit.
-std::shared_ptr<Wire::TProtocol> MakeProtocol(Protocol protocol, std::shared_ptr<TTransport> transport,
-                                              std::int32_t limit = 0)
+std::shared_ptr<Thrift::TProtocol> MakeProtocol(Protocol protocol, std::shared_ptr<TTransport> transport,
+                                                std::int32_t limit = 0)
 {
     switch (protocol)
     {
     case Protocol::Compact:
-        return std::make_shared<Wire::TCompactProtocolT<TTransport>>(std::move(transport), limit, limit);
+        return std::make_shared<Thrift::TCompactProtocolT<TTransport>>(std::move(transport), limit, limit);
     case Protocol::Json:
-        return std::make_shared<Wire::TJSONProtocol>(std::move(transport));
+        return std::make_shared<Thrift::TJSONProtocol>(std::move(transport));
     default:
-        return std::make_shared<Wire::TBinaryProtocolT<TTransport>>(std::move(transport), limit, limit, false, true);
+        return std::make_shared<Thrift::TBinaryProtocolT<TTransport>>(std::move(transport), limit, limit, false, true);
     }
 }
 
-/// Watches another protocol read a record: refuses containers that claim more than the bytes can hold, and keeps what
-/// was there.
-class WatchedProtocol : public Wire::TProtocolDecorator
-{
-public:
-    WatchedProtocol(std::shared_ptr<TProtocol> watched, std::uint32_t maxElements, std::size_t byteCount)
-        : TProtocolDecorator(std::move(watched))
-        , maxElements_(maxElements)
-        , elementsLeft_(byteCount)
-    {
-    }
-
-    PathSet TakeHeld() { return std::move(held_); }
-    std::size_t SkippedCount() const { return skippedCount_; }
-
-    std::uint32_t readStructBegin_virt(std::string& name) override
-    {
-        return Begun(FieldPath::Kind::Struct, TProtocolDecorator::readStructBegin_virt(name));
-    }
-
-    std::uint32_t readStructEnd_virt() override { return Ended(TProtocolDecorator::readStructEnd_virt()); }
-
-    std::uint32_t readFieldBegin_virt(std::string& name, Wire::TType& type, std::int16_t& id) override
-    {
-        auto const size = TProtocolDecorator::readFieldBegin_virt(name, type, id);
-        if (!skipping_ && type != Wire::T_STOP) path_.Field(std::to_string(id));
-        return size;
-    }
-
-    std::uint32_t readMapBegin_virt(Wire::TType& keyType, Wire::TType& valueType, std::uint32_t& size) override
-    {
-        auto const result = TProtocolDecorator::readMapBegin_virt(keyType, valueType, size);
-        Count(size);
-        return Begun(FieldPath::Kind::Map, result);
-    }
-
-    std::uint32_t readMapEnd_virt() override { return Ended(TProtocolDecorator::readMapEnd_virt()); }
-
-    std::uint32_t readListBegin_virt(Wire::TType& elementType, std::uint32_t& size) override
-    {
-        auto const result = TProtocolDecorator::readListBegin_virt(elementType, size);
-        Count(size);
-        return Begun(FieldPath::Kind::Elements, result);
-    }
-
-    std::uint32_t readListEnd_virt() override { return Ended(TProtocolDecorator::readListEnd_virt()); }
-
-    std::uint32_t readSetBegin_virt(Wire::TType& elementType, std::uint32_t& size) override
-    {
-        auto const result = TProtocolDecorator::readSetBegin_virt(elementType, size);
-        Count(size);
-        return Begun(FieldPath::Kind::Elements, result);
-    }
-
-    std::uint32_t readSetEnd_virt() override { return Ended(TProtocolDecorator::readSetEnd_virt()); }
-
-    std::uint32_t readBool_virt(bool& value) override
-    {
-        auto const size = TProtocolDecorator::readBool_virt(value);
-        return Read(size, value);
-    }
-
-    std::uint32_t readI16_virt(std::int16_t& value) override
-    {
-        auto const size = TProtocolDecorator::readI16_virt(value);
-        return Read(size, value);
-    }
-
-    std::uint32_t readI32_virt(std::int32_t& value) override
-    {
-        auto const size = TProtocolDecorator::readI32_virt(value);
-        return Read(size, value);
-    }
-
-    std::uint32_t readI64_virt(std::int64_t& value) override
-    {
-        auto const size = TProtocolDecorator::readI64_virt(value);
-        return Read(size, value);
-    }
-
-    std::uint32_t readString_virt(std::string& value) override
-    {
-        auto const size = TProtocolDecorator::readString_virt(value);
-        return Read(size, value);
-    }
-
-    /// Only skipped fields are read as bytes, which in JSON are no texts; but the schema has nothing else than texts.
-    std::uint32_t readBinary_virt(std::string& value) override { return readString_virt(value); }
-
-    std::uint32_t skip_virt(Wire::TType type) override
-    {
-        ++skippedCount_;
-        skipping_ = true;
-        auto const size = TProtocolDecorator::skip_virt(type);
-        skipping_ = false;
-        return size;
-    }
-
-private:
-    /// A generated `read` makes room for all elements at once, and Thrift itself takes a record for no byte at all and
-    /// multiplies sizes in 32 bits. Every element takes at least one byte.
-    void Count(std::uint32_t elements)
-    {
-        if (elements > maxElements_ || elements > elementsLeft_)
-            throw Wire::TProtocolException(Wire::TProtocolException::SIZE_LIMIT);
-        elementsLeft_ -= elements;
-    }
-
-    std::uint32_t Begun(FieldPath::Kind kind, std::uint32_t size)
-    {
-        if (!skipping_) Keep(path_.Begin(kind));
-        return size;
-    }
-
-    std::uint32_t Ended(std::uint32_t size)
-    {
-        if (!skipping_) path_.End();
-        return size;
-    }
-
-    template<typename T>
-    std::uint32_t Read(std::uint32_t size, T const& value)
-    {
-        if (!skipping_) Keep(path_.Value(ValueText(value)));
-        return size;
-    }
-
-    void Keep(std::optional<std::string> path)
-    {
-        if (path && !path->empty()) held_.insert(std::move(*path));
-    }
-
-    FieldPath path_;
-    PathSet held_;
-    std::uint32_t maxElements_;
-    std::size_t elementsLeft_;
-    std::size_t skippedCount_ = 0;
-    bool skipping_ = false;
-};
-
 /// The compact protocol does not carry the types of an empty map, and JSON has no name for none. Any will do: a reader
 /// looks at them only to read entries.
-class TypedEmptyMaps : public Wire::TProtocolDecorator
+class TypedEmptyMaps : public Thrift::TProtocolDecorator
 {
 public:
     using TProtocolDecorator::TProtocolDecorator;
 
-    std::uint32_t writeMapBegin_virt(Wire::TType const keyType, Wire::TType const valueType,
+    std::uint32_t writeMapBegin_virt(Thrift::TType const keyType, Thrift::TType const valueType,
                                      std::uint32_t const size) override
     {
-        if (size == 0) return TProtocolDecorator::writeMapBegin_virt(Wire::T_STRUCT, Wire::T_STRUCT, 0);
+        if (size == 0) return TProtocolDecorator::writeMapBegin_virt(Thrift::T_STRUCT, Thrift::T_STRUCT, 0);
         return TProtocolDecorator::writeMapBegin_virt(keyType, valueType, size);
     }
 };
 
-std::string Reason(Wire::TProtocolException const& error)
+/// Texts of fields that a record does not have are read and written as bytes, which in JSON are no texts; but the schema
+/// has nothing else than texts.
+class BytesAsTexts : public Thrift::TProtocolDecorator
+{
+public:
+    explicit BytesAsTexts(std::shared_ptr<TProtocol> const& decorated)
+        : TProtocolDecorator(decorated)
+    {
+        setRecurisionLimit(MaxDepth);
+    }
+
+    std::uint32_t readBinary_virt(std::string& value) override { return readString_virt(value); }
+};
+
+/// Copies one record from protocol to protocol, value for value, whatever it is. It takes no memory for what a size claims.
+void Copy(std::shared_ptr<Thrift::TProtocol> const& source, std::shared_ptr<Thrift::TProtocol> const& sink)
+{
+    BytesAsTexts(std::make_shared<Thrift::TProtocolTap>(source, sink)).skip(Thrift::T_STRUCT);
+}
+
+std::string Reason(Thrift::TProtocolException const& error)
 {
     switch (error.getType())
     {
-    case Wire::TProtocolException::SIZE_LIMIT:
-    case Wire::TProtocolException::NEGATIVE_SIZE:
-        return "a size in it is more than the file can hold, or more than --max-elements";
-    case Wire::TProtocolException::DEPTH_LIMIT:
+    case Thrift::TProtocolException::SIZE_LIMIT:
+        return std::string("it exceeds a limit, maybe --max-elements: ") + error.what();
+    case Thrift::TProtocolException::NEGATIVE_SIZE:
+        return "a size in it is negative";
+    case Thrift::TProtocolException::DEPTH_LIMIT:
         return "it nests too deep";
-    case Wire::TProtocolException::INVALID_DATA:
+    case Thrift::TProtocolException::INVALID_DATA:
         return "its bytes make no sense, or a required field is missing";
     default:
         return error.what();
@@ -219,13 +102,52 @@ std::string Reason(Wire::TProtocolException const& error)
 
 std::string Reason(TTransportException const& error)
 {
-    switch (error.getType())
+    return error.getType() == TTransportException::END_OF_FILE ? "it ends in the middle of the record" : error.what();
+}
+
+Failure Refusal(RecordType const& type, Protocol const protocol, std::string const& reason)
+{
+    return Failure("holds no " + std::string(type.name) + " in the " + std::string(Name(protocol)) +
+                   " protocol: " + reason);
+}
+
+/// Reads, and throws what goes wrong as Failure.
+template<typename TRead>
+void ReadOrRefuse(RecordType const& type, Protocol const protocol, TRead const& read)
+{
+    try
     {
-    case TTransportException::END_OF_FILE:
-        return "it ends in the middle of the record";
-    default:
-        return error.what();
+        read();
     }
+    catch (Thrift::TProtocolException const& error)
+    {
+        throw Refusal(type, protocol, Reason(error));
+    }
+    catch (TTransportException const& error)
+    {
+        throw Refusal(type, protocol, Reason(error));
+    }
+    catch (std::bad_alloc const&)
+    {
+        throw;
+    }
+    catch (std::exception const& error)
+    {
+        throw Refusal(type, protocol, error.what());
+    }
+}
+
+void ExpectEnd(RecordType const& type, Protocol const protocol, std::size_t const bytesLeft)
+{
+    if (bytesLeft > 0) throw Refusal(type, protocol, std::to_string(bytesLeft) + " more bytes follow the record");
+}
+
+/// What a message holds is bounded by its own bytes, but for the elements and the memory of a record.
+Wire::BinaryReader ReaderOf(Message const& message)
+{
+    static constexpr auto Any = std::numeric_limits<std::uint32_t>::max();
+    auto const elements = message.Bounds().elements;
+    return Wire::BinaryReader(message.Bytes(), {Any, Any, elements, elements, MaxDepth, message.Memory(), 0});
 }
 
 /// A text editor's line end after JSON is no second record.
@@ -257,76 +179,62 @@ std::string_view Name(Protocol protocol)
     return Protocols.at(static_cast<std::size_t>(protocol)).first;
 }
 
-namespace
+Message::Message(std::string bytes, Protocol const protocol, RecordType const& type, Limits const& limits)
+    : protocol_(protocol)
+    , type_(type)
+    , limits_(limits)
+    , memory_(limits.memory + limits.memoryPerByte * bytes.size())
 {
-
-/// Decodes, and writes all that it reads to `sink` unless that is null.
-Decoded Decode(std::string const& bytes, Protocol protocol, RecordType const& type, Limits const& limits,
-               std::shared_ptr<Wire::TProtocol> sink)
-{
-    auto const refuse = [&](std::string const& reason)
-    {
-        return Failure("holds no " + std::string(type.name) + " in the " + std::string(Name(protocol)) +
-                       " protocol: " + reason);
-    };
-
-    if (bytes.empty()) throw refuse("it is empty");
+    if (bytes.empty()) throw Refusal(type, protocol, "it is empty");
     if (bytes.size() > limits.bytes)
-        throw refuse("it has more than the " + std::to_string(limits.bytes) + " bytes of --max-bytes");
+        throw Refusal(type, protocol, "it has more than the " + std::to_string(limits.bytes) + " bytes of --max-bytes");
+    if (protocol == Protocol::Binary)
+    {
+        bytes_ = std::move(bytes);
+        return;
+    }
 
-    auto const limit = static_cast<std::int32_t>(bytes.size());
+    auto const size = static_cast<std::uint32_t>(bytes.size());
+    auto const limit = static_cast<std::int32_t>(size);
     auto const configuration = std::make_shared<apache::thrift::TConfiguration>(limit, limit, MaxDepth);
-    std::string unread = bytes;
-    auto const buffer = std::make_shared<TMemoryBuffer>(reinterpret_cast<std::uint8_t*>(unread.data()),
-                                                        static_cast<std::uint32_t>(unread.size()),
+    auto const buffer = std::make_shared<TMemoryBuffer>(reinterpret_cast<std::uint8_t*>(bytes.data()), size,
                                                         TMemoryBuffer::OBSERVE, configuration);
-    auto reader = MakeProtocol(protocol, buffer, limit);
-    if (sink != nullptr) reader = std::make_shared<Wire::TProtocolTap>(std::move(reader), std::move(sink));
-    WatchedProtocol watched(std::move(reader), limits.elements, bytes.size());
+    copy_ = std::make_shared<Wire::BinaryWriter>();
+    ReadOrRefuse(type, protocol, [&] { Copy(MakeProtocol(protocol, buffer, limit), copy_); });
 
-    auto record = type.make();
-    try
-    {
-        record->Read(watched);
-    }
-    catch (Wire::TProtocolException const& error)
-    {
-        throw refuse(Reason(error));
-    }
-    catch (TTransportException const& error)
-    {
-        throw refuse(Reason(error));
-    }
-    catch (std::bad_alloc const&)
-    {
-        throw refuse("it needs more memory than there is");
-    }
-    catch (std::exception const& error)
-    {
-        throw refuse(error.what());
-    }
+    auto const rest = std::string_view(bytes).substr(size - buffer->available_read());
+    if (protocol != Protocol::Json || !OnlyBlanks(rest)) ExpectEnd(type, protocol, rest.size());
+}
 
-    auto const rest = std::string_view(bytes).substr(bytes.size() - buffer->available_read());
-    if (!rest.empty() && !(protocol == Protocol::Json && OnlyBlanks(rest)))
-        throw refuse(std::to_string(rest.size()) + " more bytes follow the record");
+std::span<std::uint8_t const> Message::Bytes() const
+{
+    if (copy_ != nullptr) return copy_->Bytes();
+    return {reinterpret_cast<std::uint8_t const*>(bytes_.data()), bytes_.size()};
+}
 
-    Decoded decoded{std::move(record), watched.TakeHeld(), watched.SkippedCount()};
-    if (decoded.skippedFields > 0 && decoded.held.empty()) throw refuse("it holds none of that record's fields");
+Decoded Decode(Message const& message)
+{
+    auto const& type = message.Type();
+    auto const protocol = message.CameIn();
+    auto reader = ReaderOf(message);
+    Decoded decoded{type.make(), 0};
+    ReadOrRefuse(type, protocol, [&] { decoded.record->Read(reader); });
+    ExpectEnd(type, protocol, reader.Rest().size());
+
+    decoded.skippedFields = reader.SkippedFields();
+    bool isEmpty = true;
+    if (decoded.skippedFields > 0) decoded.record->VisitValues([&](auto const&) { isEmpty = false; });
+    if (decoded.skippedFields > 0 && isEmpty) throw Refusal(type, protocol, "it holds none of that record's fields");
     return decoded;
 }
 
-} // namespace
-
-Decoded Decode(std::string const& bytes, Protocol protocol, RecordType const& type, Limits const& limits)
-{
-    return Decode(bytes, protocol, type, limits, nullptr);
-}
-
-std::string Transcode(std::string const& bytes, Protocol protocol, RecordType const& type, Limits const& limits,
-                      Protocol to)
+std::string Transcode(Message const& message, Protocol const to)
 {
     auto const buffer = std::make_shared<TMemoryBuffer>();
-    Decode(bytes, protocol, type, limits, std::make_shared<TypedEmptyMaps>(MakeProtocol(to, buffer)));
+    auto const reader = std::make_shared<Wire::BinaryReader>(ReaderOf(message));
+    ReadOrRefuse(message.Type(), message.CameIn(),
+                 [&] { Copy(reader, std::make_shared<TypedEmptyMaps>(MakeProtocol(to, buffer))); });
+    ExpectEnd(message.Type(), message.CameIn(), reader->Rest().size());
     return buffer->getBufferAsString();
 }
 

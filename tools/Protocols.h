@@ -5,9 +5,14 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
-#include <unordered_set>
+
+namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Wire
+{
+class BinaryWriter;
+}
 
 namespace Talvo::Tools
 {
@@ -26,11 +31,16 @@ enum class Protocol
     Json
 };
 
-/// What is refused before it is read. Reading takes about a hundred times the memory of the bytes.
+/// What a file may be, and cost.
 struct Limits
 {
     std::uint32_t bytes = 64 * 1024 * 1024; ///< The largest file; at most 2^31 - 1.
-    std::uint32_t elements = 100'000;       ///< The most elements that one list, set or map may claim.
+    std::uint32_t elements = 100'000;       ///< The most elements of one list, set or map.
+
+    /// Bytes of memory that the record may take, and for each byte of the file. A reply that gives no clips takes 43 times
+    /// its bytes in the binary protocol.
+    std::uint64_t memory = 20 * 1024 * 1024;
+    std::uint64_t memoryPerByte = 32;
 };
 
 /// No record nests deeper than this, nor does what a newer peer might add to one.
@@ -41,28 +51,43 @@ Protocol ParseProtocol(std::string_view name);
 
 std::string_view Name(Protocol protocol);
 
-/// Paths of fields by their ids, such as `1[3].2`.
-using PathSet = std::unordered_set<std::string>;
+/// One record's bytes in the binary protocol, whichever they came in.
+class Message
+{
+public:
+    /// Throws Failure where `bytes` are empty, too many or, in another protocol than the binary one, no record alone.
+    Message(std::string bytes, Protocol protocol, RecordType const& type, Limits const& limits = {});
+
+    std::span<std::uint8_t const> Bytes() const;
+    Protocol CameIn() const { return protocol_; }
+    RecordType const& Type() const { return type_; }
+    Limits const& Bounds() const { return limits_; }
+    /// What a record of it may take.
+    std::uint64_t Memory() const { return memory_; }
+
+private:
+    Protocol protocol_;
+    RecordType const& type_;
+    Limits limits_;
+    std::uint64_t memory_;
+    std::string bytes_; ///< In the binary protocol, as they came;
+    std::shared_ptr<Corvane::Zelmar::Serialization::Thrift::Wire::BinaryWriter> copy_; ///< else null.
+};
 
 /// A record and what else its bytes tell.
 struct Decoded
 {
     std::unique_ptr<WireRecord> record;
-    PathSet held;              ///< Every value, container and nested record that was there.
     std::size_t skippedFields; ///< Fields of an id or type that the record does not have.
 };
 
-/// Reads one record from all of `bytes`. Throws Failure where they are empty, cut off, followed by more, not of that
-/// protocol or hold no field of such a record.
-///
-/// A claimed size allocates nothing beyond what the bytes could hold: Thrift's limits are set to their number, and the
-/// elements of all containers are counted against it.
-Decoded Decode(std::string const& bytes, Protocol protocol, RecordType const& type, Limits const& limits = {});
+/// Reads one record from all of a message, within its limits. Throws Failure where it is cut off, followed by more, not of
+/// that protocol or holds no field of such a record.
+Decoded Decode(Message const& message);
 
-/// Does the same and returns what was read in another protocol: every field that was there and no other, those that the
-/// record does not have included.
-std::string Transcode(std::string const& bytes, Protocol protocol, RecordType const& type, Limits const& limits,
-                      Protocol to);
+/// The message in another protocol: every field that is there and no other, those that the record does not have included.
+/// Throws Failure where its types contradict themselves.
+std::string Transcode(Message const& message, Protocol to);
 
 /// The record as one message without frame.
 std::string Encode(WireRecord const& record, Protocol protocol);

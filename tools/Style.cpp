@@ -1,7 +1,6 @@
 #include "tools/Style.h"
 
 #include <algorithm>
-#include <cstddef>
 #include <cstdlib>
 #include <iostream>
 
@@ -23,25 +22,23 @@ std::string Painted(std::string const& text, Colour const colour, Style const& s
     return "\x1b[" + std::to_string(static_cast<int>(colour)) + 'm' + text + "\x1b[0m";
 }
 
-void PrintTable(std::vector<Row> const& rows, Style const& style)
+void Table::Measure(Cells const& cells)
 {
     static constexpr std::size_t MaxWidth = 40;
-    std::array<std::size_t, std::tuple_size_v<decltype(Row::cells)>> widths{};
-    for (auto const& row : rows)
-        for (std::size_t column = 0; column < widths.size(); ++column)
-            widths[column] = std::clamp(row.cells[column].size(), widths[column], MaxWidth);
+    for (std::size_t column = 0; column < cells.size(); ++column)
+        widths_[column] = std::clamp(cells[column].size(), widths_[column], MaxWidth);
+}
 
-    for (auto const& row : rows)
+void Table::Print(Cells const& cells, Colour const colour) const
+{
+    std::string line;
+    for (std::size_t column = 0; column < cells.size(); ++column)
     {
-        std::string line;
-        for (std::size_t column = 0; column < widths.size(); ++column)
-        {
-            auto const& cell = row.cells[column];
-            line += cell;
-            if (column + 1 < widths.size()) line.append(std::max(widths[column], cell.size()) - cell.size() + 2, ' ');
-        }
-        std::cout << Painted(line, row.colour, style) << '\n';
+        auto const& cell = cells[column];
+        line += cell;
+        if (column + 1 < cells.size()) line.append(std::max(widths_[column], cell.size()) - cell.size() + 2, ' ');
     }
+    std::cout << Painted(line, colour, style_) << '\n';
 }
 
 } // namespace Talvo::Tools

@@ -1,9 +1,10 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <string>
 #include <string_view>
-#include <vector>
+#include <tuple>
 
 namespace Talvo::Tools
 {
@@ -33,15 +34,24 @@ bool HasColour(std::string_view mode);
 /// `text`, coloured where `style` has colour.
 std::string Painted(std::string const& text, Colour colour, Style const& style);
 
-/// A line of a table.
-struct Row
+/// A table whose columns are as wide as their widest cell, up to a width that leaves room for the others: a longer cell
+/// moves the rest of its line. Measure all lines first: none is kept.
+class Table
 {
-    std::array<std::string, 4> cells;
-    Colour colour;
-};
+public:
+    using Cells = std::array<std::string, 4>;
 
-/// Prints columns that are as wide as their widest cell, up to a width that leaves room for the others: a longer cell
-/// moves the rest of its line.
-void PrintTable(std::vector<Row> const& rows, Style const& style);
+    explicit Table(Style const& style)
+        : style_(style)
+    {
+    }
+
+    void Measure(Cells const& cells);
+    void Print(Cells const& cells, Colour colour) const;
+
+private:
+    Style style_;
+    std::array<std::size_t, std::tuple_size_v<Cells>> widths_{};
+};
 
 } // namespace Talvo::Tools

@@ -1,13 +1,18 @@
 #include "tools/Commands.h"
 #include "tools/Failure.h"
+#include "tools/Text.h"
 
 #include <CLI/CLI.hpp>
 
-#include <cstdint>
+#include <cstdlib>
 #include <exception>
 #include <iostream>
 #include <limits>
+#include <new>
 #include <string>
+#include <tuple>
+
+#include <unistd.h>
 
 namespace
 {
@@ -80,6 +85,14 @@ void AddTarget(CLI::App& command, Arguments& arguments, char const* file, char c
     command.add_option("-o,--output", arguments.output, file)->type_name("FILE");
 }
 
+/// Everywhere, in converters too, which could not throw.
+[[noreturn]] void EndOutOfMemory()
+{
+    static constexpr char Sentence[] = "talvo-wire: it needs more memory than there is\n";
+    std::ignore = write(STDERR_FILENO, Sentence, sizeof Sentence - 1);
+    std::_Exit(static_cast<int>(ExitStatus::BadInput));
+}
+
 ExitStatus Run(int argc, char** argv)
 {
     CLI::App app("Reads, prints and converts the wire records of the video server's object model.", "talvo-wire");
@@ -117,32 +130,30 @@ ExitStatus Run(int argc, char** argv)
     AddTarget(*transcode, arguments, "File to write; - for standard output", "Protocol to write");
     for (auto const* name : {"--protocol", "--to", "--output"}) transcode->get_option(name)->required();
 
+    auto status = ExitStatus::Done;
     try
     {
         app.parse(argc, argv);
+        if (*list)
+            List(arguments.Printed());
+        else if (*print)
+            Print(arguments.From(), arguments.Printed());
+        else if (*convert)
+        {
+            if (arguments.output == "-") throw Failure("convert reports on standard output, so -o needs a file");
+            status = Convert(arguments.From(), arguments.To(), arguments.Printed());
+        }
+        else if (*transcode)
+            Transcode(arguments.From(), arguments.To());
     }
     catch (CLI::CallForHelp const& help)
     {
         app.exit(help);
-        return ExitStatus::Done;
     }
     catch (CLI::ParseError const& error)
     {
         throw Failure(std::string(error.what()) + "; talvo-wire --help tells the usage");
     }
-
-    auto status = ExitStatus::Done;
-    if (*list)
-        List(arguments.Printed());
-    else if (*print)
-        Print(arguments.From(), arguments.Printed());
-    else if (*convert)
-    {
-        if (arguments.output == "-") throw Failure("convert reports on standard output, so -o needs a file");
-        status = Convert(arguments.From(), arguments.To(), arguments.Printed());
-    }
-    else if (*transcode)
-        Transcode(arguments.From(), arguments.To());
 
     if (!std::cout.flush()) throw Failure("can't write to standard output");
     return status;
@@ -152,13 +163,19 @@ ExitStatus Run(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
+    std::set_new_handler(EndOutOfMemory);
+    std::ios::sync_with_stdio(false);
     try
     {
         return static_cast<int>(Run(argc, argv));
     }
+    catch (std::bad_alloc const&) // of Thrift's buffers, which are not made by new
+    {
+        EndOutOfMemory();
+    }
     catch (std::exception const& error)
     {
-        std::cerr << "talvo-wire: " << error.what() << '\n';
+        Report(error.what());
         return static_cast<int>(ExitStatus::BadInput);
     }
 }

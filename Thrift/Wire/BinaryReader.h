@@ -53,6 +53,9 @@ public:
     /// What was not read yet.
     [[nodiscard]] std::span<std::uint8_t const> Rest() const noexcept { return {next_, end_}; }
 
+    /// How many fields the records did not have, or not with that type.
+    [[nodiscard]] std::size_t SkippedFields() const noexcept { return skippedFields_; }
+
     /// @cond The members of Thrift's protocols, which records call.
     using TType = apache::thrift::protocol::TType;
     using TMessageType = apache::thrift::protocol::TMessageType;
@@ -180,6 +183,7 @@ public:
     std::uint32_t skip(TType const type)
     {
         auto const* const start = next_;
+        ++skippedFields_;
         Skip(type);
         return Since(start);
     }
@@ -373,6 +377,7 @@ private:
     Bounds bounds_;
     std::uint64_t memory_;
     std::uint64_t memoryLeft_;
+    std::size_t skippedFields_ = 0;
 };
 
 /// Takes a frame, as `TFramedTransport` sends it, from the start of `bytes`, and returns what it holds; `bytes` becomes

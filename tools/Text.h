@@ -1,0 +1,32 @@
+#pragma once
+
+#include "records/RecordView.h"
+#include "records/Values.h"
+
+#include <iosfwd>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace Talvo::Tools
+{
+
+using Records::Escaped;
+using Records::Place;
+using Records::Step;
+using Records::Value;
+
+/// A path such as `clips[3].clip.name`. The entries of a map stand under their keys, `players["A"].speed`. A key that is
+/// a text of more than 64 bytes ends there, `players["A..." (70 bytes)].speed`: every value of its entry repeats it.
+std::string PathText(std::span<Step const> path);
+
+/// A value as text: texts are escaped and stand in quotes.
+std::string ValueText(Value const& value);
+
+/// The same, printed piece by piece: the text of a value may be large.
+void PrintValue(std::ostream& output, Value const& value);
+
+/// Prints a line on standard error, escaped: it may repeat names of files and what else others have chosen.
+void Report(std::string_view message);
+
+} // namespace Talvo::Tools
