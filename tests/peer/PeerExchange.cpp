@@ -42,7 +42,7 @@ int main()
     std::string digits;
     while (std::cin >> name >> protocolName >> digits)
     {
-        auto const record = Decode(FromHex(digits), ParseProtocol(protocolName), FindRecordType(name)).record;
+        auto const record = Decode(Message(FromHex(digits), ParseProtocol(protocolName), FindRecordType(name))).record;
         std::cout << ToHex(Encode(*record, Protocol::Binary)) << ' ' << ToHex(Encode(*record, Protocol::Compact))
                   << '\n';
     }
