@@ -265,7 +265,7 @@ void Read(Element const& message, Sequences::Element& destination)
     Take(destination.effectPosition, message.effect_position());
     Take(destination.stillMode, message.still_mode());
     destination.transitionTimer = message.transition_timer();
-    destination.tags.reserve(message.tags().size());
+    destination.tags.reserve(static_cast<std::size_t>(message.tags().size()));
     for (auto const& tag : message.tags())
         Read(tag, destination.tags.emplace_back(static_cast<Sequences::Tag::CommandType>(tag.command_type())));
     destination.speed = {message.speed().numerator(), message.speed().denominator()};
@@ -311,7 +311,7 @@ void Read(AudioVideoTrack const& message, Sequences::Track<Sequences::AudioVideo
 {
     if (message.has_number_of_elements()) destination.numberOfElements = message.number_of_elements();
     destination.elements.clear();
-    destination.elements.reserve(message.elements().size());
+    destination.elements.reserve(static_cast<std::size_t>(message.elements().size()));
     for (auto const& element : message.elements()) Read(element, destination.elements.emplace_back());
 }
 

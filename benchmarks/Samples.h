@@ -27,22 +27,18 @@ inline Corvane::Notification::ClipCreationFinishedEventArgs CreationOf(Corvane::
                                                                        Corvane::Data::Clips::Clip const& created)
 {
     using Event = Corvane::Notification::ClipCreationFinishedEventArgs;
-    return {310042,
-            Event::RequestSource::Network,
-            7,
-            1,
-            Corvane::Data::Guid::Generate(),
-            12,
-            source,
-            created,
-            Event::CreationType::Copy,
-            Event::NetworkType::PushGbe};
+    Event event(310042, Event::RequestSource::Network, 7, 1, Corvane::Data::Guid::Generate(), 12, source, created,
+                Event::CreationType::Copy, Event::NetworkType::PushGbe);
+    event.subCommandIndex = 2;
+    return event;
 }
 
-/// What a creation event is read into. It is copied for each, since a new one would draw an identifier.
+/// What a creation event is read into: it differs from CreationOf() in every field.
 inline Corvane::Notification::ClipCreationFinishedEventArgs FreshCreation()
 {
-    static auto const fresh = CreationOf({}, {});
+    using Event = Corvane::Notification::ClipCreationFinishedEventArgs;
+    static Event const fresh(0, Event::RequestSource::Unknown, 0, 0, Corvane::Data::Guid::Empty(), 0, {}, {},
+                             Event::CreationType::Unknown, Event::NetworkType::Unknown);
     return fresh;
 }
 

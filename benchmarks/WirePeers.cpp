@@ -48,15 +48,17 @@ bool AreEqual(TDomain const& left, TDomain const& right)
     return left == right;
 }
 
-/// From copies, since reading a reply moves its cursor.
-bool AreEqual(GetClipsCommandReply left, GetClipsCommandReply right)
+/// Reads copies, since reading moves the cursor of a reply.
+bool AreEqual(GetClipsCommandReply const& left, GetClipsCommandReply const& right)
 {
     if (left.commandGuid != right.commandGuid || left.revision != right.revision ||
         left.RemainingCount() != right.RemainingCount())
         return false;
-    while (left.MoveNext() && right.MoveNext())
+    auto const one = left;
+    auto const other = right;
+    while (one.MoveNext() && other.MoveNext())
     {
-        if (left.CurrentClip() != right.CurrentClip()) return false;
+        if (one.CurrentClip() != other.CurrentClip()) return false;
     }
     return true;
 }
