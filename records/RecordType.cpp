@@ -35,6 +35,10 @@ public:
     void Write(apache::thrift::protocol::TProtocol& protocol) const override { record.write(&protocol); }
 
     View Fields() const override { return ViewOf(record); }
+    void ClearFlags() override
+    {
+        if constexpr (requires { record.__isset; }) record.__isset = {};
+    }
 
     bool operator==(WireRecord const& other) const override
     {

@@ -37,6 +37,8 @@ public:
 
     /// All fields with their flags.
     virtual View Fields() const = 0;
+    /// Clears the flags of its own fields, whose values stay.
+    virtual void ClearFlags() = 0;
     /// Visits the values that were read into this record, in the order of the schema.
     void VisitValues(ValueVisit const& visit) const { VisitValues(nullptr, FieldSet::Read, visit); }
     /// The same, and beside them those of `after`, a record of the same type.

@@ -38,6 +38,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -126,6 +127,34 @@ Outcome Unchecked(RecordType const& type, WireRecord const& record)
     return {WEXITSTATUS(status) == 2, WEXITSTATUS(status) == 0, message};
 }
 
+/// The value of a record that the path of a bad value leads to, as it is printed; empty where the path leads nowhere.
+std::string ValueAt(Records::View view, std::string path)
+{
+    while (!path.empty())
+    {
+        auto const end = path.find_first_of(".[", 1);
+        auto step = path.substr(0, path[0] == '[' ? path.find(']') + 1 : end);
+        path.erase(0, step.size());
+        if (path.starts_with('.')) path.erase(0, 1);
+        // Fields have their id before their name, an entry of a map its key before it.
+        auto const key = step.starts_with("[\"") ? step.substr(1, step.size() - 2) : "";
+        auto const part =
+            std::ranges::find_if(view.parts,
+                                 [&, isKeyThere = false](Records::Part const& candidate) mutable
+                                 {
+                                     if (key.empty())
+                                         return candidate.label == step || candidate.label.ends_with(' ' + step);
+                                     if (isKeyThere) return true;
+                                     isKeyThere =
+                                         candidate.label.starts_with("key") && candidate.view.parts[0].view.text == key;
+                                     return false;
+                                 });
+        if (part == view.parts.end()) return {};
+        view = Records::View(part->view);
+    }
+    return view.text;
+}
+
 class EveryRecord : public testing::TestWithParam<RecordType>
 {
 public:
@@ -160,8 +189,17 @@ protected:
             return;
         }
         EXPECT_EQ(Unchecked(type, *record), (Outcome{true, false, checked.message}));
+        EXPECT_THAT(ValueAt(record->Fields(), checked.message.substr(0, checked.message.find(": "))),
+                    testing::AnyOf('"' + std::string(NoForm) + '"', '"' + std::string(BadDay) + '"',
+                                   std::to_string(BadLocation)))
+            << checked.message;
         ++ended;
     }
+
+    // The values that are spoiled get these.
+    static constexpr auto* NoForm = "noon";
+    static constexpr auto* BadDay = "2024-02-30T00:00:00:00@50";
+    static constexpr std::int16_t BadLocation = 110;
 
     static inline std::size_t compared = 0;
     static inline std::size_t ended = 0;
@@ -180,11 +218,8 @@ INSTANTIATE_TEST_SUITE_P(Records, EveryRecord, testing::ValuesIn(ReadableTypes()
 
 TEST_P(EveryRecord, TryToFailsJustWhereToEndsTheProcess)
 {
-    constexpr auto* NoForm = "noon";
-    constexpr auto* BadDay = "2024-02-30T00:00:00:00@50";
     constexpr auto* OtherRate = "2024-02-28T00:00:00:00@30"; // where the standard is Pal, a clip fails with it
-    constexpr std::int16_t BadLocation = 110;
-    constexpr std::size_t Stride = 29; // one in so many values, where a field is missing too
+    constexpr std::size_t Stride = 29;                       // one in so many values, where a field is missing too
     constexpr int Pairs = 20;
     std::mt19937 random(5489);
 

@@ -568,6 +568,136 @@ TEST(Duty, BothFormsDoTheSameAndLeaveTheSource)
                          "GetClipsCommandReply, again changes 3 clips"}}});
 }
 
+/// A used domain object, after a record was converted into it, as it is written; and what the conversion said.
+std::pair<View, std::string> Patched(Subject const& subject, WireRecord const& record, Form const form)
+{
+    auto const& type = subject.type;
+    auto const domain = Received(type, *subject.used);
+    auto const result = type.convertToDomain(record, *domain, form);
+    return {Sent(type, *domain)->Fields(), result.message};
+}
+
+TEST(Duty, BothFormsLeaveTheSameInWhatIsUsed)
+{
+    Found found;
+    for (auto const& subject : Subjects())
+    {
+        auto const& type = subject.type;
+        for (auto const& ids : {subject.required, subject.ids})
+            if (auto const record = subject.full(ids); record != nullptr)
+            {
+                auto const [constant, message] = Patched(subject, *record, Form::Constant);
+                auto const [movable, sameMessage] = Patched(subject, *record, Form::Movable);
+                EXPECT_EQ(message, sameMessage);
+                Compare(found, std::string(type.name), movable, constant);
+            }
+
+        auto const domain = type.makeDomain(*type.make());
+        auto const constant = Filled(type, RecordFiller());
+        auto const movable = Filled(type, RecordFiller());
+        EXPECT_TRUE(type.convertToWire(*domain, *constant, Form::Constant).success);
+        EXPECT_TRUE(type.convertToWire(*domain, *movable, Form::Movable).success);
+        Compare(found, std::string(type.name), movable->Fields(), constant->Fields());
+    }
+    ExpectOnly(found, {{"a new one each time", {"LiveCommandParams changes 1 commandGuid"}}});
+}
+
+TEST(Duty, ValueWithoutItsFlagIsIgnored)
+{
+    Found found;
+    for (auto const& subject : Subjects())
+    {
+        auto const& type = subject.type;
+        auto const absent = subject.full(subject.required);
+        auto const unflagged = FullRecord(type);
+        unflagged->ClearFlags();
+        auto const [expected, message] = Patched(subject, *absent, Form::Checked);
+        auto const [actual, sameMessage] = Patched(subject, *unflagged, Form::Checked);
+        EXPECT_EQ(message, sameMessage) << type.name;
+        Compare(found, std::string(type.name), actual, expected);
+    }
+    ExpectOnly(found,
+               {{"the identifier of a command",
+                 {"ChainCommandParams changes 1 commandGuid",
+                  "CreateAnglesGroupCommandParams changes 1 commandGuid",
+                  "CreateClipsCommandParams changes 1 commandGuid",
+                  "CreatePlaylistsCommandParams changes 1 commandGuid",
+                  "DeleteClipsCommandParams changes 1 commandGuid",
+                  "DeletePlaylistsCommandParams changes 1 commandGuid",
+                  "DialCommandParams changes 1 commandGuid",
+                  "GetAnglesGroupsCommandParams changes 1 commandGuid",
+                  "GetChannelsCommandParams changes 1 commandGuid",
+                  "GetClipsCommandParams changes 1 commandGuid",
+                  "GetPlaylistsCommandParams changes 1 commandGuid",
+                  "GetServersCommandParams changes 1 commandGuid",
+                  "GetTrainsCommandParams changes 1 commandGuid",
+                  "GoIdleCommandParams changes 1 commandGuid",
+                  "LiveCommandParams changes 1 commandGuid",
+                  "LoadClipsCommandParams changes 1 commandGuid",
+                  "LoadSequencesCommandParams changes 1 commandGuid",
+                  "PingCommandParams changes 1 commandGuid",
+                  "SetLoadBoundariesCommandParams changes 1 commandGuid",
+                  "StartRecordingCommandParams changes 1 commandGuid",
+                  "StepCommandParams changes 1 commandGuid",
+                  "StopRecordingCommandParams changes 1 commandGuid",
+                  "SyncCommandParams changes 1 commandGuid",
+                  "UpdateClipsCommandParams changes 1 commandGuid",
+                  "UpdatePlaylistsCommandParams changes 1 commandGuid"}},
+                {"is read regardless of its flag",
+                 {"CreateAnglesGroupCommandParams changes 2 groupKviIndex",
+                  "CreateAnglesGroupCommandParams changes 3 creationParams", "DialCommandParams changes 3 velocity",
+                  "GetChannelsCommandReply changes 1 guid", "GetChannelsCommandReply changes 2 players",
+                  "GetChannelsCommandReply changes 3 recorders", "GetTrainsCommandReply changes 2 dbRevision",
+                  "GoIdleCommandParams changes 3 setBlackScreen", "PlayCommandParams changes 1 commandId",
+                  "RecordingRangesChangedEventArgs changes 3 isInBoundMoving", "StepCommandParams changes 3 fieldCount",
+                  "UnknownCommandReply changes 1 commandType"}}});
+}
+
+TEST(Duty, RecordWithoutFieldsThatIsRefusedChangesNothing)
+{
+    Found found;
+    for (auto const& subject : Subjects())
+        if (auto const record = subject.full({}); record != nullptr)
+        {
+            auto const [after, message] = Patched(subject, *record, Form::Constant);
+            if (!message.empty())
+                Compare(found, std::string(subject.type.name), after, Through(subject.type, {subject.used.get()}));
+        }
+    ExpectOnly(found, {{"is replaced before it is refused",
+                        {"GetAnglesGroupsCommandReply changes 1 guid",
+                         "GetAnglesGroupsCommandReply changes 2 revision",
+                         "GetAnglesGroupsCommandReply changes 3 groups",
+                         "GetClipsCommandReply changes 1 guid",
+                         "GetClipsCommandReply changes 2 revision",
+                         "GetClipsCommandReply changes 3 clips",
+                         "GetPlaylistsCommandReply changes 1 guid",
+                         "GetPlaylistsCommandReply changes 2 revision",
+                         "GetPlaylistsCommandReply changes 3 playlists",
+                         "GetServersCommandReply changes 1 guid",
+                         "GetServersCommandReply changes 2 servers",
+                         "GetTrainsCommandReply changes 1 guid",
+                         "GetTrainsCommandReply changes 2 dbRevision",
+                         "GetTrainsCommandReply changes 3 trains",
+                         "RecordingRangesChangedEventArgs changes 1 recorderId",
+                         "RecordingRangesChangedEventArgs changes 2 recordingRanges",
+                         "RecordingRangesChangedEventArgs changes 4 isOutBoundMoving",
+                         "ServerInfo changes 1 serverId",
+                         "ServerInfo changes 2 userNumber",
+                         "ServerInfo changes 3 corvaneVersion",
+                         "ServerInfo changes 4 serverChassis",
+                         "ServerInfo changes 5 hardwareRevision",
+                         "ServerInfo changes 6 hostName",
+                         "ServerInfo changes 7 kronoIpAddress",
+                         "ServerInfo changes 8 gbeIpAddresses",
+                         "Train changes 1 trainData",
+                         "Train changes 2 recordingRanges",
+                         "Train changes 4 isOutMoving",
+                         "Train changes 5 lastKnownTimeCode"}},
+                       {"flags that are not sent are 0",
+                        {"PlayerStateChangedEventArgs changes 3 eventFlags",
+                         "RecorderStateChangedEventArgs changes 3 eventFlags"}}});
+}
+
 TEST(Duty, ValuesComeBackFromTheBytesOfEachProtocol)
 {
     Found found;
