@@ -147,6 +147,12 @@ TEST(Tool, PrintsWhatTheFileHoldsAndNothingElse)
         EXPECT_THAT(outcome.output, HasSubstr('\n' + line + '\n')) << arguments;
     }
 
+    // Every value of an entry repeats its key, which is cut.
+    auto const key = std::string(70, 'k');
+    auto const entry = RunTool({"print", "ChainCommandParams"},
+                               "\x0d\0\2\x0c\x0c\0\0\0\1\x0b\0\1\0\0\0\x46"s + key + "\0\x0b\0\1\0\0\0\1v\0\0"s);
+    EXPECT_EQ(entry.output, "ChainCommandParams\n  players[\"" + key.substr(6) + "...\" (70 bytes)].value = \"v\"\n");
+
     // Quotes and backslashes are told apart from the tool's own.
     auto const quoted = RunTool({"print", "Guid", "-p", "json"}, R"({"1":{"str":"a\"b\\x00"}})"
                                                                  "\n");
@@ -464,6 +470,9 @@ TEST(Tool, RefusesWrongUsage)
     EXPECT_EQ(noOutput.status, 2);
     EXPECT_THAT(noOutput.errors, OneLine("standard output"));
     EXPECT_EQ(RunTool({"convert", "--help"}).status, 0);
+    auto const noHelp = RunTool({"convert", "--help"}, {}, "/dev/full");
+    EXPECT_EQ(noHelp.status, 2);
+    EXPECT_THAT(noHelp.errors, OneLine("standard output"));
 }
 
 TEST(Tool, ReadsStandardInput)
@@ -484,6 +493,7 @@ TEST(Tool, ReadsStandardInput)
         EXPECT_EQ(RunTool(given({"-"}), Sample("guid.binary")).output, expected);
         ExpectRefused(RunTool(given({"-"})), "standard input: holds no Guid in the binary protocol: it is empty");
     }
+    ExpectRefused(RunShell("talvo-wire print Guid < /"), "can't read standard input: Is a directory");
 }
 
 /// Reads bytes as the tool does, in this process, which for hundreds of inputs is quicker than one each: what is not
@@ -531,6 +541,134 @@ TEST(Tool, ReadsOrRefusesChangedJson) // the other protocols are the fuzzer's
         changed[position] = static_cast<char>(byte(random));
         SCOPED_TRACE(testing::PrintToString(changed));
         ReadOrRefuse("AnglesGroup", "json", changed, false);
+    }
+}
+
+/// A number of four bytes, the largest first.
+std::string Number(std::size_t const number)
+{
+    std::string bytes;
+    for (auto const shift : {24U, 16U, 8U, 0U}) bytes += static_cast<char>(number >> shift & 0xFFU);
+    return bytes;
+}
+
+std::string Repeated(std::string const& bytes, std::size_t const count)
+{
+    std::string all;
+    for (std::size_t i = 0; i < count; ++i) all += bytes;
+    return all;
+}
+
+/// A Guid whose value is `bytes`.
+std::string GuidOf(std::string const& bytes)
+{
+    return "\x0b\0\1"s + Number(bytes.size()) + bytes + '\0';
+}
+
+/// A record of one field, a list or map of `count` records.
+std::string Holding(std::string const& field, std::size_t const count, std::string const& elements)
+{
+    return field + Number(count) + elements + '\0';
+}
+
+/// Of channels that a hash table of theirs takes for one another: 5 pairs of bytes give the same sum.
+std::string CollidingGuids(std::size_t const count)
+{
+    std::string all;
+    for (std::size_t i = 0; i < count; ++i)
+    {
+        std::string bytes;
+        for (auto rest = i; bytes.size() < 16; rest /= 5)
+        {
+            bytes += static_cast<char>(rest % 5);
+            bytes += static_cast<char>(124 - 31 * (rest % 5));
+        }
+        all += GuidOf(bytes);
+    }
+    return all;
+}
+
+TEST(Tool, TakesMemoryInProportionToTheFile)
+{
+    if (TALVO_SANITIZED) GTEST_SKIP() << "a sanitizer takes memory of its own";
+    struct Row
+    {
+        std::string record;
+        std::string (*make)();
+        std::size_t factor; ///< Of the file's bytes.
+        int status;
+    };
+    Row const rows[] = {
+        {"GetClipsCommandReply", [] { return Holding("\x0f\0\3\x0c"s, 100'000, std::string(100'000, '\0')); }, 40, 2},
+        {"GetChannelsCommandReply",
+         []
+         { return Holding("\x0d\0\2\x0c\x0c"s, 1, GuidOf(std::string(32'000, 'k')) + Sample("player-state.binary")); },
+         40, 0},
+        {"GetClipsCommandReply",
+         [] { return Holding("\x0f\0\3\x0c"s, 2500, Repeated(Sample("clip-two-essences.binary"), 2500)); }, 6, 0},
+        {"GoIdleCommandParams", [] { return Holding("\x0e\0\2\x0c"s, 100'000, CollidingGuids(100'000)); }, 40, 2},
+    };
+    // This process stays small: the peak of a process that it starts begins with its own.
+    auto const output = TemporaryPath("printed");
+    for (auto const& [record, make, factor, status] : rows)
+        for (auto const* command : {"print", "convert"})
+        {
+            auto const bytes = make();
+            SCOPED_TRACE(record + ' ' + command + ' ' + std::to_string(bytes.size()));
+            auto const outcome = RunTool({command, record}, bytes, output);
+            EXPECT_EQ(outcome.status, status) << outcome.errors;
+            EXPECT_LT(outcome.peakKilobytes, static_cast<long>(32 * 1024 + factor * bytes.size() / 1024));
+            EXPECT_LT(std::filesystem::file_size(output), 300'000 + 10 * bytes.size());
+        }
+
+    // Replies without clips, which an honest peer sends, are the records that take the most for their bytes.
+    auto const result = "\x0c\0\1\x08\0\1\0\0\0\2\x08\0\2\0\0\0\0\0\0"s;
+    EXPECT_EQ(
+        RunTool({"print", "ClipCommandReply"}, Holding("\x0f\0\2\x0c"s, 100'000, Repeated(result, 100'000))).status, 0);
+}
+
+TEST(Tool, EndsWithASentenceWhereMemoryRunsOut)
+{
+    if (TALVO_SANITIZED) GTEST_SKIP() << "a sanitizer takes address space of its own";
+    auto const file = TemporaryPath("clips");
+    Write(file, Holding("\x0f\0\3\x0c"s, 4000, Repeated(Sample("clip-two-essences.binary"), 4000)));
+    auto const limited = [](int const kilobytes, std::string const& arguments)
+    { return RunShell("ulimit -v " + std::to_string(kilobytes) + "; talvo-wire " + arguments); };
+
+    // More and more, from what the tool itself needs to what reading and converting needs.
+    int kilobytes = 8'000;
+    while (limited(kilobytes, "list").status != 0) ASSERT_LT(kilobytes += 1'000, 200'000);
+    int count = 0;
+    for (;; ++count, kilobytes += 500)
+    {
+        auto const outcome = limited(kilobytes, "convert GetClipsCommandReply " + file);
+        if (outcome.status == 0) break;
+        ASSERT_EQ(outcome.status, 2) << kilobytes << outcome.errors;
+        ASSERT_THAT(outcome.errors, OneLine("it needs more memory than there is"));
+    }
+    EXPECT_GT(count, 5);
+}
+
+TEST(Tool, EscapesWhatATerminalWouldObey)
+{
+    auto const folder = TemporaryPath("\x1b[31m");
+    std::filesystem::create_directory(folder);
+    auto const file = folder + "/\n";
+    Write(file, "\x0b\0\1\0\0\0\1X\x08\0\2\0\0\0\0\0"s);
+    std::pair<Arguments, int> const rows[] = {
+        {{"print", "Guid", file}, 0}, // with a note of a field that is skipped
+        {{"print", "Train", file}, 2},
+        {{"print", "Guid", folder + "/none"}, 2},
+        {{"print", "\x1b[31m"}, 2},
+        {{"print", "Guid", file, "-p", "\x1b[31m"}, 2},
+        {{"print", "Guid", file, "--color", "\x1b[31m"}, 2},
+        {{"transcode", "Guid", file, "-p", "binary", "--to", "json", "-o", folder + "/none/x"}, 2},
+    };
+    for (auto const& [arguments, status] : rows)
+    {
+        auto const outcome = RunTool(arguments);
+        EXPECT_EQ(outcome.status, status);
+        EXPECT_THAT(outcome.errors, AllOf(OneLine(R"(\x1b[31m)"), Not(HasSubstr("\x1b"))));
     }
 }
 
