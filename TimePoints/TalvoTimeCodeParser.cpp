@@ -21,32 +21,30 @@ enum class Shape
     WellFormed
 };
 
-constexpr bool IsDigit(char character) noexcept
+constexpr unsigned Digit(char character) noexcept
 {
-    return character >= '0' && character <= '9';
+    return static_cast<unsigned>(character - '0'); // above 9 for every other character
 }
 
-/// Two digits at `position`, the first at most `firstMost`.
-constexpr bool HasPair(std::string_view text, std::size_t position, char firstMost) noexcept
+/// Reads two digits at `position`, the first at most `firstMost`. If they are something else, `number` is meaningless.
+constexpr bool ReadPair(std::string_view text, std::size_t position, unsigned firstMost, int& number) noexcept
 {
-    return text[position] >= '0' && text[position] <= firstMost && IsDigit(text[position + 1]);
-}
-
-constexpr int Pair(std::string_view text, std::size_t position) noexcept
-{
-    return 10 * (text[position] - '0') + (text[position + 1] - '0');
+    auto const tens = Digit(text[position]);
+    auto const ones = Digit(text[position + 1]);
+    number = static_cast<int>(10 * tens + ones);
+    return tens <= firstMost && ones <= 9;
 }
 
 /// Reads `YYYY-MM-DDT` from the start of a text that is long enough.
 bool ScanDate(std::string_view text, TimeCodeBuilder& fields) noexcept
 {
-    if (text[0] == '0' || !HasPair(text, 0, '9') || !HasPair(text, 2, '9') || text[4] != '-' ||
-        !HasPair(text, 5, '1') || text[7] != '-' || !HasPair(text, 8, '3') || text[10] != 'T')
+    int century = 0;
+    int year = 0;
+    if (text[0] == '0' || !ReadPair(text, 0, 9, century) || !ReadPair(text, 2, 9, year) || text[4] != '-' ||
+        !ReadPair(text, 5, 1, fields.month) || text[7] != '-' || !ReadPair(text, 8, 3, fields.day) || text[10] != 'T')
         return false;
 
-    fields.year = 100 * Pair(text, 0) + Pair(text, 2);
-    fields.month = Pair(text, 5);
-    fields.day = Pair(text, 8);
+    fields.year = 100 * century + year;
     return true;
 }
 
@@ -54,28 +52,22 @@ bool ScanDate(std::string_view text, TimeCodeBuilder& fields) noexcept
 Shape ScanClock(std::string_view text, TimeCodeBuilder& fields) noexcept
 {
     constexpr std::size_t ratePosition = 12;
-    if (text.size() <= ratePosition || !HasPair(text, 0, '2') || text[2] != ':' || !HasPair(text, 3, '5') ||
-        text[5] != ':' || !HasPair(text, 6, '5') || (text[8] != ':' && text[8] != ';') || !HasPair(text, 9, '9') ||
-        text[11] != '@' || !IsDigit(text[ratePosition]))
+    if (text.size() <= ratePosition || !ReadPair(text, 0, 2, fields.hour) || text[2] != ':' ||
+        !ReadPair(text, 3, 5, fields.minute) || text[5] != ':' || !ReadPair(text, 6, 5, fields.second) ||
+        (text[8] != ':' && text[8] != ';') || !ReadPair(text, 9, 9, fields.sample) || text[11] != '@' ||
+        Digit(text[ratePosition]) > 9)
         return Shape::Neither;
 
     int rate = 0;
-    if (text.size() == ratePosition + 2 && IsDigit(text[ratePosition + 1])) // most rates
-        rate = Pair(text, ratePosition);
-    else
+    if (text.size() != ratePosition + 2 || !ReadPair(text, ratePosition, 9, rate)) // most rates have two digits
     {
         char const* const end = text.data() + text.size();
         auto const [rateEnd, error] = std::from_chars(text.data() + ratePosition, end, rate);
         if (rateEnd != end) return Shape::Neither;
         if (error != std::errc{}) return Shape::RateTooLarge;
     }
-
-    fields.hour = Pair(text, 0);
-    fields.minute = Pair(text, 3);
-    fields.second = Pair(text, 6);
-    fields.dropFrame = text[8] == ';';
-    fields.sample = Pair(text, 9);
     fields.numerator = rate;
+    fields.dropFrame = text[8] == ';';
     return Shape::WellFormed;
 }
 
@@ -83,11 +75,13 @@ Shape ScanClock(std::string_view text, TimeCodeBuilder& fields) noexcept
 Shape Scan(std::string_view text, TimeCodeBuilder& fields) noexcept
 {
     constexpr std::size_t clockPosition = 11;
-    if (text.size() > clockPosition && ScanDate(text, fields)) return ScanClock(text.substr(clockPosition), fields);
-
-    fields.year = 1950;
-    fields.dated = false;
-    return ScanClock(text, fields);
+    fields.dated = text.size() > clockPosition && text[clockPosition - 1] == 'T'; // undated, there is a digit
+    if (!fields.dated)
+    {
+        fields.year = 1950;
+        return ScanClock(text, fields);
+    }
+    return ScanDate(text, fields) ? ScanClock(text.substr(clockPosition), fields) : Shape::Neither;
 }
 
 /// As Scan(), but a rate too large is thrown, with the text that callers know.

@@ -22,6 +22,8 @@
 #include <cstddef>
 #include <cstdio>
 #include <memory>
+#include <random>
+#include <string>
 #include <tuple>
 #include <vector>
 
@@ -53,6 +55,19 @@ GetClipsCommandReply ToDomain(Generated::GetClipsCommandReply const& wire)
     return reply;
 }
 
+/// A command to many players of as many machines, in an order that has nothing to do with that of the wire.
+void AddPlayers(Comparisons& rows, std::string const& name, int const count, double const toNewRecordOfCopy)
+{
+    PlayCommandParams play;
+    std::minstd_rand serials;
+    for (int player = 0; player < count; ++player)
+        play.players.emplace(Corvane::Data::Channels::Guid::Type::ChannelGuidTypePlayer,
+                             static_cast<int>(serials() % 8), static_cast<unsigned int>(serials()));
+    AddRecord<PlayCommandParamsToThriftConverter, ThriftToPlayCommandParamsConverter, Generated::PlayCommandParams>(
+        rows, name, play, {.toNewRecordOfCopy = toNewRecordOfCopy},
+        [](Generated::PlayCommandParams& wire) { wire.players.clear(); });
+}
+
 } // namespace
 
 void PrintPeakMemoryOfReply()
@@ -82,6 +97,9 @@ void AddCommands(Comparisons& rows)
     AddRecord<PlayCommandParamsToThriftConverter, ThriftToPlayCommandParamsConverter, Generated::PlayCommandParams>(
         rows, "play command", play, {.toNewRecordOfCopy = 1.3},
         [](Generated::PlayCommandParams& wire) { wire.players.clear(); });
+
+    AddPlayers(rows, "command to 100 players", 100, 2.1);
+    AddPlayers(rows, "command to 1,000 players", 1'000, 3.2);
 
     // New parameters draw an identifier, which is a part of what a conversion to new ones takes.
     benchmark::RegisterBenchmark("new command parameters",

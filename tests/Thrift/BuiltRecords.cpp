@@ -66,6 +66,7 @@ std::map<std::string, Records::View> BuiltRecords()
     add(WireClips::ClipToThriftConverter(), clip);
     clip.isDual = true;
     clip.isTwinRec = false;
+    EXPECT_TRUE(clip.TrySetInBoundTodTimecode(TimePoints::TimeCode::Empty()));
     add(WireClips::ClipToThriftConverter(), clip, ", built otherwise");
     add(WireClips::EssenceToThriftConverter(), FullEssence(Corvane::Data::Clips::Essences::Type::LongGop));
     RecordingRange const range{

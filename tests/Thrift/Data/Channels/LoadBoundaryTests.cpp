@@ -31,7 +31,9 @@ TEST(LoadBoundaryConversion, ReusedWireRecordKeepsTheOtherMember)
     EXPECT_EQ(specialized.relativeLoadBoundary.fieldCount, 6);
     EXPECT_EQ(wire.type, LoadBoundaryType::Absolute); // an unknown reference leaves it
 
-    EXPECT_EQ(OfBoundary::Received(wire, Before), Boundary::AbsoluteBoundary({5}));
+    auto const absolute = OfBoundary::Received(wire, Before);
+    EXPECT_EQ(absolute, Boundary::AbsoluteBoundary({5}));
+    EXPECT_EQ(absolute.FieldCount(), 0u);
     wire = OfBoundary::Sent(Before, wire);
     EXPECT_EQ(specialized.absoluteLoadBoundary.timepoint, 5);
     EXPECT_EQ(OfBoundary::Received(wire, Boundary::AbsoluteBoundary({5})), Before);
