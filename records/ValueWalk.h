@@ -96,7 +96,12 @@ private:
         if constexpr (IsList<T> || IsSet<T>)
         {
             if (!value->empty()) return std::nullopt;
-            return IsMap<T> ? Empty::Map : IsSet<T> ? Empty::Set : Empty::List;
+            if constexpr (IsMap<T>)
+                return Empty::Map;
+            else if constexpr (IsSet<T>)
+                return Empty::Set;
+            else
+                return Empty::List;
         }
         else
         {

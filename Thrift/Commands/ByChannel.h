@@ -6,9 +6,13 @@
 #include "Thrift/Data/Identifiers.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
+#include <cstdint>
 #include <map>
+#include <memory_resource>
 #include <set>
+#include <tuple>
 #include <unordered_map>
 #include <unordered_set>
 #include <utility>
@@ -36,23 +40,41 @@ ChannelOf(std::pair<Corvane::Data::Channels::Guid const, TValue> const& entry) n
     return entry.first;
 }
 
-/// Calls `visit` with each entry, in the order of the channels, which is that of the wire's keys: each then goes to the
-/// end of a new set or map. A few entries are visited as they lie, since sorting them would cost more than it saves.
+/// Eight bytes as one number, which compares as they do.
+inline std::uint64_t Word(unsigned char const* const bytes) noexcept
+{
+    std::uint64_t word = 0;
+    for (int i = 0; i < 8; ++i) word = word << 8 | bytes[i];
+    return word;
+}
+
+/// Up to so many entries, sorting costs more than it saves.
+constexpr std::size_t Few = 10;
+
+/// Calls `visit` with each entry in the order of the channels, which is that of the wire's keys: each then goes to the end
+/// of a new set or map.
 template<typename TContainer, typename TVisit>
 void VisitSorted(TContainer const& source, TVisit const& visit)
 {
-    constexpr std::size_t few = 10;
-    if (source.size() <= few)
+    struct Place
     {
-        for (auto const& entry : source) visit(entry);
-        return;
+        std::uint64_t first;
+        std::uint64_t second;
+        typename TContainer::value_type const* entry;
+    };
+    std::array<std::byte, 128 * sizeof(Place)> room; // enough for most
+    std::pmr::monotonic_buffer_resource memory(room.data(), room.size());
+    std::pmr::vector<Place> places(&memory);
+    places.reserve(source.size());
+    for (auto const& entry : source)
+    {
+        auto const* const bytes = ChannelOf(entry).Bytes();
+        places.push_back({Word(bytes), Word(bytes + 8), &entry});
     }
-    std::vector<typename TContainer::value_type const*> entries;
-    entries.reserve(source.size());
-    for (auto const& entry : source) entries.push_back(&entry);
-    std::sort(entries.begin(), entries.end(),
-              [](auto const* left, auto const* right) { return ChannelOf(*left) < ChannelOf(*right); });
-    for (auto const* const entry : entries) visit(*entry);
+    std::sort(places.begin(), places.end(),
+              [](Place const& left, Place const& right)
+              { return std::tie(left.first, left.second) < std::tie(right.first, right.second); });
+    for (auto const& place : places) visit(*place.entry);
 }
 
 /// Makes room for `count` more entries, if there is not enough.
@@ -64,9 +86,14 @@ void ReserveMore(TContainer& destination, std::size_t const count)
 
 inline bool SendChannels(ChannelSet const& source, std::set<Corvane::Data::Generated::Guid>& destination)
 {
-    // Neighbours in a hash set are often neighbours in order, so the last place is a good hint even without sorting.
-    auto place = destination.end();
-    VisitSorted(source, [&](auto const& channel) { place = destination.insert(place, SentGuid(channel)); });
+    if (source.size() > Few)
+        VisitSorted(source, [&](auto const& channel) { destination.insert(destination.end(), SentGuid(channel)); });
+    else
+    {
+        // Neighbours in a hash set are often neighbours in order, so the last place is a good hint for the next one.
+        auto place = destination.end();
+        for (auto const& channel : source) place = destination.insert(place, SentGuid(channel));
+    }
     return !source.empty();
 }
 
@@ -87,14 +114,17 @@ template<typename TValue, typename TWireValue, typename TSend>
 bool SendByChannel(ChannelMap<TValue> const& source, std::map<Corvane::Data::Generated::Guid, TWireValue>& destination,
                    TSend const& send)
 {
-    auto place = destination.end();
-    VisitSorted(source,
-                [&](auto const& entry)
-                {
-                    TWireValue wireValue;
-                    send(entry.second, wireValue);
-                    place = destination.insert_or_assign(place, SentGuid(entry.first), std::move(wireValue));
-                });
+    auto const convert = [&send](TValue const& value)
+    {
+        TWireValue wireValue;
+        send(value, wireValue);
+        return wireValue;
+    };
+    if (source.size() > Few)
+        VisitSorted(source, [&](auto const& entry)
+                    { destination.insert_or_assign(destination.end(), SentGuid(entry.first), convert(entry.second)); });
+    else
+        for (auto const& [channel, value] : source) destination.insert_or_assign(SentGuid(channel), convert(value));
     return !source.empty();
 }
 

@@ -118,7 +118,7 @@ class MakeRecords(unittest.TestCase):
         self.assertEqual(before, {file.name: file.stat().st_mtime_ns for file in self.output.iterdir()})
         self.make(text.format("optional"))
         changed = {file.name for file in self.output.iterdir() if file.stat().st_mtime_ns != before[file.name]}
-        self.assertEqual(changed, {"New_types.h", "New_types.tcc", "New_types.cpp"})
+        self.assertEqual(changed, {"New_types.h", "New_types.tcc", "New_types.cpp", "RecordFields.h"})
 
 
 if __name__ == "__main__":

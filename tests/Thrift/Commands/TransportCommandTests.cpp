@@ -53,6 +53,30 @@ TEST(ChannelSets, IdentifiersOfAWrongSizeMayBecomeTheSameAndThereIsNoLimit)
     EXPECT_EQ(Dial::Received(wire).players.size(), 13u);
 }
 
+TEST(ChannelSetsAndMaps, AnyNumberOfChannelsGoesToNewAndToUsedRecords)
+{
+    DialCommandParams dial;
+    ChainCommandParams chain;
+    Generated::DialCommandParams usedDial;
+    Generated::ChainCommandParams usedChain;
+    for (int serial = 0; serial < 300; ++serial)
+    {
+        // In an order that is neither that of the hash nor that of the bytes, which are above 0x7f at times.
+        ChannelGuid const channel(ChannelGuid::Type::ChannelGuidTypePlayer, serial % 7,
+                                  static_cast<unsigned int>(serial) * 2654435761U);
+        dial.players.insert(channel);
+        chain.players.emplace(channel, Id<ClipGuid>(static_cast<char>('a' + serial % 20)));
+        auto const wire = Dial::Sent(dial);
+        usedDial = Dial::Sent(dial, usedDial);
+        usedChain = Chain::Sent(chain, usedChain);
+        ASSERT_EQ(wire.players.size(), dial.players.size());
+        ASSERT_EQ(wire.players, usedDial.players);
+        ASSERT_EQ(Dial::Received(wire).players, dial.players);
+        ASSERT_EQ(Chain::Received(usedChain).players, chain.players);
+        ASSERT_EQ(Chain::Sent(chain).players, usedChain.players);
+    }
+}
+
 TEST(ChannelMaps, EqualChannelIsReplacedGoingOutAndKeptComingIn)
 {
     ChainCommandParams full;

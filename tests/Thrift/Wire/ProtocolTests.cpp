@@ -154,8 +154,8 @@ TEST(BinaryProtocol, WritesAndReadsMessageHeaders)
             EXPECT_FALSE(ReadOwn(bytes.substr(0, size), ReaderOf(nullptr))) << size;
     }
     // Of a type that there is not.
-    for (auto const& bytes : {std::string("\0\0\0\4name\xe9\0\0\0\1", 13),
-                              std::string("\x80\1\0\xe9\0\0\0\4name\0\0\0\1", 16)})
+    for (auto const& bytes :
+         {std::string("\0\0\0\4name\xe9\0\0\0\1", 13), std::string("\x80\1\0\xe9\0\0\0\4name\0\0\0\1", 16)})
     {
         EXPECT_TRUE(ReadOwn(bytes, ReaderOf(nullptr)));
         EXPECT_TRUE(ReadAlike(bytes, nullptr));
