@@ -62,7 +62,7 @@ void JsonArray::Next()
     isEmpty_ = false;
 }
 
-void JsonArray::End()
+void JsonArray::End() const
 {
     std::cout << (isEmpty_ ? "[]" : "\n]");
 }

@@ -22,7 +22,7 @@ class JsonArray
 public:
     /// An element follows.
     void Next();
-    void End();
+    void End() const;
 
 private:
     bool isEmpty_ = true;

@@ -54,7 +54,8 @@ TEST(Boundary, TypesAreTheSameOnBothSides)
     using Frame = Common::Serialization::Converter<WireClip, Corvane::Data::Clips::Clip>;
     std::unique_ptr<Frame> const frame = std::make_unique<Data::Clips::ThriftToClipConverter>();
     EXPECT_NE(dynamic_cast<Data::Clips::ThriftToClipConverter*>(frame.get()), nullptr);
-    EXPECT_EQ(typeid(*frame), typeid(Data::Clips::ThriftToClipConverter));
+    auto const& converter = *frame;
+    EXPECT_EQ(typeid(converter), typeid(Data::Clips::ThriftToClipConverter));
 }
 
 } // namespace
