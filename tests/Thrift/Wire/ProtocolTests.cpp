@@ -90,8 +90,8 @@ TEST(BinaryProtocol, AcceptsAndRefusesWhatThriftsOwnDoes)
 
 TEST(BinaryProtocol, SkipsWhatThriftsOwnSkips)
 {
-    std::string const field("\x7f\x00", 2); // of an id that no record has
-    auto const of = [&field](char const type, std::string const& value)
+    // Of an id that no record has.
+    auto const of = [](char const type, std::string const& value)
     { return type + std::string(1, '\x7f') + std::string(1, '\0') + value + std::string(1, '\0'); };
     std::string const large("\0\0\0\x64", 4), tooLarge("\0\0\0\x65", 4), negative("\xff\xff\xff\xff", 4);
     auto const record = [&of](int depth)
@@ -103,7 +103,7 @@ TEST(BinaryProtocol, SkipsWhatThriftsOwnSkips)
     std::vector<std::string> values;
     for (char type = 0; type < 20; ++type)
     {
-        for (std::size_t size : {0, 1, 2, 4, 8, 16}) values.push_back(of(type, std::string(size, '\0')));
+        for (std::size_t size : {0U, 1U, 2U, 4U, 8U, 16U}) values.push_back(of(type, std::string(size, '\0')));
         for (char element = 0; element < 20; ++element)
             for (auto const& size : {std::string(4, '\0'), std::string("\0\0\0\2", 4)})
             {
@@ -334,7 +334,7 @@ TEST(BinaryReader, ReadsRecordsOneAfterTheOther)
     Dial({"A"}).write(&writer);
     Dial({"B", "C"}).write(&writer);
     Wire::BinaryReader reader(writer.Bytes());
-    for (std::size_t const players : {1, 2})
+    for (std::size_t const players : {1U, 2U})
     {
         Commands::Generated::DialCommandParams dial;
         dial.read(&reader);
@@ -347,7 +347,7 @@ TEST(BinaryWriter, GrowsAndTruncates)
 {
     Wire::BinaryWriter writer;
     std::string expected;
-    for (std::size_t size : {1, 5, 1000, 3, 100'000, 1'000'000})
+    for (std::size_t size : {1U, 5U, 1000U, 3U, 100'000U, 1'000'000U})
     {
         std::string const text(size, static_cast<char>('a' + size % 7));
         writer.writeI64(static_cast<std::int64_t>(size));
