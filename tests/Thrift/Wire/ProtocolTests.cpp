@@ -236,6 +236,7 @@ TEST(BinaryReader, NamesTheBoundThatIsExceeded)
     Wire::BinaryWriter writer;
     clip.write(&writer);
     auto const size = static_cast<std::uint32_t>(writer.Size());
+    auto const memory = 100 + 4 * sizeof(void*) + 50 * sizeof(std::int16_t);
     auto const dial = Dial({"A", "B", "C"});
 
     EXPECT_EQ(Refusal(clip, {.message = size, .text = 100, .elements = 50}), "");
@@ -246,8 +247,8 @@ TEST(BinaryReader, NamesTheBoundThatIsExceeded)
     EXPECT_EQ(Refusal(dial, {.elements = 0, .entries = 3}), "");
     EXPECT_EQ(Refusal(dial, {.entries = 2}), "a set of 3 entries exceeds the bound of 2");
     EXPECT_THAT(Refusal(clip, {.memory = 200, .memoryPerByte = 0}),
-                "a message of 232 bytes in memory exceeds the bound of 200");
-    EXPECT_EQ(Refusal(clip, {.memory = 232, .memoryPerByte = 0}), "");
+                "a message of " + std::to_string(memory) + " bytes in memory exceeds the bound of 200");
+    EXPECT_EQ(Refusal(clip, {.memory = memory, .memoryPerByte = 0}), "");
     EXPECT_EQ(Refusal(clip, {.memory = std::numeric_limits<std::uint64_t>::max()}), "");
     EXPECT_EQ(Refusal(clip, {.memoryPerByte = std::numeric_limits<std::uint64_t>::max()}), "");
 }
