@@ -77,9 +77,9 @@ void VisitSorted(TContainer const& source, TVisit const& visit)
     for (auto const& place : places) visit(*place.entry);
 }
 
-/// Makes room for `count` more entries, if there is not enough.
+/// Makes room for `count` more entries at once. A table that has room is left alone: reserve() could make it smaller.
 template<typename TContainer>
-void ReserveMore(TContainer& destination, std::size_t const count)
+void ReserveEntries(TContainer& destination, std::size_t const count)
 {
     if (auto const total = destination.size() + count; total > destination.bucket_count()) destination.reserve(total);
 }
@@ -105,7 +105,7 @@ inline void ReadChannels(bool const isSet, std::set<Corvane::Data::Generated::Gu
         destination.clear();
         return;
     }
-    ReserveMore(destination, source.size());
+    ReserveEntries(destination, source.size());
     for (auto const& channel : source) destination.insert(ReadGuidAs<Corvane::Data::Channels::Guid>(channel));
 }
 
@@ -138,7 +138,7 @@ void ReadByChannel(bool const isSet, std::map<Corvane::Data::Generated::Guid, TW
         destination.clear();
         return;
     }
-    ReserveMore(destination, source.size());
+    ReserveEntries(destination, source.size());
     for (auto const& [channel, wireValue] : source)
         destination.emplace(ReadGuidAs<Corvane::Data::Channels::Guid>(channel), read(wireValue));
 }
