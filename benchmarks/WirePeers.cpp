@@ -78,7 +78,7 @@ class Subject
 public:
     using ToWire = TToWire;
     using ToDomain = TToDomain;
-    using Record = decltype(Wire::Detail::DestinationOf(TToWire()));
+    using Record = Wire::Detail::DestinationOf<TToWire>;
     using Message = TMessage;
 
     Subject(std::string const& name, TDomain const& value, TDomain (*const make)())
