@@ -1,8 +1,8 @@
 #pragma once
 
+#include "Thrift/Wire/BigEndian.h"
 #include "Thrift/Wire/NoTransport.h"
 
-#include <boost/endian/conversion.hpp>
 #include <thrift/protocol/TProtocolException.h>
 #include <thrift/protocol/TVirtualProtocol.h>
 
@@ -71,7 +71,7 @@ public:
     void EndFrame(std::size_t const start)
     {
         auto const size = CheckedSize("a frame", Size() - start - sizeof(std::int32_t));
-        boost::endian::store_big_u32(memory_.get() + start, size);
+        Put(memory_.get() + start, size);
     }
 
     /// @cond The members of Thrift's protocols, which records call.
@@ -181,10 +181,7 @@ private:
     {
         using Unaligned [[gnu::aligned(1)]] = T;
         auto* const target = reinterpret_cast<Unaligned*>(place);
-        if constexpr (sizeof(T) == 1)
-            *target = value;
-        else
-            *target = boost::endian::native_to_big(value);
+        *target = Detail::BigEndian(value);
     }
 
     [[gnu::noinline, gnu::cold]] void Enlarge(std::size_t const count)

@@ -90,6 +90,7 @@ class MakeRecords(unittest.TestCase):
             ("New_types.h", "int32_t first;", "int32_t other;", "New_types.h: record R does not declare the fields"),
             ("New_types.h", "void swap(", "class S {\n};\nvoid swap(", "New_types.h: a record that the schema does"),
             ("New_types.tcc", "readListBegin(", "readBegin(", "New_types.tcc: 0 containers are read, expected 1"),
+            ("New_types.tcc", "case 2:", "case -2:", "New_types.tcc: 1 fields are read after another, expected 2"),
             ("New_types.cpp", "R::~R()", "", "New_types.cpp: record R is missing"),
             ("New_types.cpp", "_E_VALUES_TO_NAMES", "", "New_types.cpp: names of enumeration E are missing"),
             ("New_types.cpp", "TToString.h", "T.h", "New_types.cpp: includes are missing"),
