@@ -60,6 +60,14 @@ inline CodecResult ResultOf(Common::Serialization::ConversionResult&& result)
     return {Fault::Conversion, "conversion failed: " + std::move(result.message)};
 }
 
+/// Gives all fields their defaults. Unlike an assignment of `{}`, it makes no record, and lists keep their memory.
+template<typename TRecord>
+void Empty(TRecord& record)
+{
+    static TRecord const empty;
+    record = empty;
+}
+
 /// `record` is empty.
 template<typename TConverter>
 CodecResult Decode(TConverter const& converter, std::span<std::uint8_t const> const bytes, SourceOf<TConverter>& record,
@@ -145,14 +153,14 @@ CodecResult Decode(TConverter const& converter, std::span<std::uint8_t const> co
     return Detail::Decode(converter, bytes, record, destination, bounds);
 }
 
-/// The same with the record in between, which is emptied before: given again, its strings keep their memory. Nothing of
-/// an earlier message is left in it.
+/// The same with the record in between, which is emptied before: given again, its strings and lists keep their memory.
+/// Nothing of an earlier message is left in it.
 template<typename TConverter>
 CodecResult Decode(TConverter const& converter, std::span<std::uint8_t const> const bytes,
                    Detail::SourceOf<TConverter>& record, Detail::DestinationOf<TConverter>& destination,
                    Bounds const& bounds = {})
 {
-    record = {};
+    Detail::Empty(record);
     return Detail::Decode(converter, bytes, record, destination, bounds);
 }
 
@@ -169,12 +177,12 @@ CodecResult Encode(TConverter const& converter, Detail::SourceOf<TConverter> con
     return Detail::Encode(converter, source, record, writer);
 }
 
-/// The same with the record in between, which is emptied before: given again, its strings keep their memory.
+/// The same with the record in between, which is emptied before: given again, its strings and lists keep their memory.
 template<typename TConverter>
 CodecResult Encode(TConverter const& converter, Detail::SourceOf<TConverter> const& source,
                    Detail::DestinationOf<TConverter>& record, BinaryWriter& writer)
 {
-    record = {};
+    Detail::Empty(record);
     return Detail::Encode(converter, source, record, writer);
 }
 
