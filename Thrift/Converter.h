@@ -5,7 +5,7 @@
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift
 {
 
-// The frame, under the short names that every converter's header uses.
+// Short names of the converter interface for the headers of the converters.
 using Common::Serialization::ConversionResult;
 using Common::Serialization::Converter;
 

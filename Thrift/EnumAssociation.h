@@ -10,22 +10,22 @@
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift
 {
 
-/// The two-way table between a domain enumeration `A` and a wire enumeration `B`.
+/// A two-way table between a domain enumeration `A` and a wire enumeration `B`.
 ///
 /// The numbers of the two sides are equal in most tables and differ in a few, so values are looked up and never cast. A
-/// value outside the table gives the number 0 of the other side: an unknown wire number quietly reads as the first
+/// value outside the table gives the number 0 of the other side: an unknown wire number silently reads as the first
 /// enumerator. A lookup can't fail and takes no lock.
 ///
-/// Any list of pairs makes a table, and each direction is a map of its own: where a value is repeated on one side, its
-/// first pair counts in that direction. If no two values of a side agree in their low five bits, a lookup costs one probe
-/// and the table is constant data: declare it `constexpr`, and it serves the static initialisers of other files too. In
-/// any other list the values whose place is taken lie in memory of their own, and finding one of these, or a value that
-/// is not in the table, costs a search of them.
+/// Any list of pairs can be used, and each direction has its own map: if a value is repeated on one side, its first
+/// pair counts in that direction. If no two values of a side have equal low five bits, a lookup takes one probe and the
+/// table can be constant data: declare it `constexpr`, and static initialisers of other files can use it too.
+/// Otherwise, colliding values are stored in separate memory, and finding one of them, or a value that is not in the
+/// table, takes a linear search of them.
 template<typename A, typename B>
 class EnumAssociation
 {
 public:
-    /// Takes any pairs, in any order.
+    /// Builds the table from any pairs, in any order.
     constexpr EnumAssociation(std::initializer_list<std::pair<A const, B const>> pairs)
     {
         for (auto const& [domain, wire] : pairs)
@@ -35,13 +35,13 @@ public:
         }
     }
 
-    // Always inlined, as Find() is: for a constant table the compiler then drops the search at once, and the link-time
-    // optimizer inlines the one probe that is left into the converters.
+    // Always inlined, like Find(): for a constant table the compiler then removes the search, and the link-time
+    // optimizer inlines the remaining probe into the converters.
 
-    /// The wire value of `value`, or the number 0.
+    /// The wire value of `value`, or the number 0 if it is not in the table.
     [[gnu::always_inline]] constexpr B ToGeneratedEnum(A value) const noexcept { return forward_.Find(value); }
 
-    /// The domain value of `value`, or the number 0.
+    /// The domain value of `value`, or the number 0 if it is not in the table.
     [[gnu::always_inline]] constexpr A FromGeneratedEnum(B value) const noexcept { return backward_.Find(value); }
 
 private:
@@ -51,7 +51,7 @@ private:
     public:
         constexpr Column() noexcept
         {
-            slots_[0].key = static_cast<Key>(1); // 0, which the other free slots hold, belongs here
+            slots_[0].key = static_cast<Key>(1); // key 0, which the other free slots hold, belongs in slot 0
         }
 
         constexpr void Insert(Key key, Value value)
@@ -66,7 +66,7 @@ private:
 
         [[gnu::always_inline]] constexpr Value Find(Key key) const noexcept
         {
-            auto const slot = slots_[Index(key)]; // a copy, so that nothing depends on a branch
+            auto const slot = slots_[Index(key)]; // a copy, so that the result does not depend on a branch
             if (slot.key == key) return slot.value;
             if (others_.empty()) return Value{};
             auto const* const other = FindOther(key);
@@ -91,9 +91,9 @@ private:
             return nullptr;
         }
 
-        /// A key lies in the slot of its low five bits. A free slot holds a key of another slot.
+        /// The slot of a key is given by its low five bits. A free slot holds a key that belongs in another slot.
         std::array<Slot, SlotCount> slots_{};
-        /// The keys whose slot was taken.
+        /// The keys whose slot was already taken.
         std::vector<Slot> others_;
     };
 

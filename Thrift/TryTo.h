@@ -8,14 +8,15 @@
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift
 {
 
-/// Converts a record from a peer that is not trusted. It is `converter.To(source, destination)`, except that a value that
-/// ends the process there is a failure here: its message is "path: reason" of the BadValue.
+/// Converts a record from an untrusted peer. It does what `converter.To(source, destination)` does, except that a value
+/// that ends the process there is a failure here: its message is the "path: reason" of the BadValue.
 ///
-/// Works with every converter to the domain, and costs what `To` costs. The converter is given as its own class: through
-/// the frame `Converter<...>` a bad value would still end the process, so that does not compile. As after every failure,
-/// the destination holds what was converted before it; the element of a list that holds the bad value may be there, half
-/// converted. A class derived from a converter converts with the `ToOrThrow` that it inherits, where there is one. An
-/// allocation that fails throws std::bad_alloc or, in a converter in which no value ends the process, ends the process.
+/// It works with every converter to the domain, and takes as long as `To`. Pass the converter as its concrete class:
+/// through the base class `Converter<...>` an invalid value would still end the process, so that does not compile. As
+/// after every failure, the destination holds what was converted before it; the list element with the invalid value may
+/// be present, partly converted. For a class derived from a converter, TryTo() calls the inherited `ToOrThrow`, if
+/// there is one. A failed allocation throws std::bad_alloc; in a converter in which no value ends the process, it ends
+/// the process.
 ///
 ///     Domain::Clip clip;
 ///     auto const result = TryTo(ThriftToClipConverter(), record, clip);

@@ -1,7 +1,7 @@
 #pragma once
 
-// Internal, never installed: the arithmetic between calendar and clock fields and a count of samples. All of it is
-// defined for every input: what leaves 64 bits wraps.
+// Internal, never installed: the arithmetic between calendar and clock fields and a count of samples. It is
+// defined for every input: values that exceed 64 bits wrap.
 
 #include "TimePoints/CalendarTools.h"
 
@@ -13,13 +13,13 @@
 namespace Talvo::TimePoints
 {
 
-/// The samples that a rate counts per unit of time.
+/// The samples of a rate per unit of time.
 struct SampleUnits
 {
     std::int64_t perDay;
     std::int64_t perHour;
     std::int64_t perMinute;
-    /// What drop-frame counting adds back every ten minutes, whose first minute drops no number.
+    /// The samples that drop-frame counting adds back every ten minutes, because the first minute drops no numbers.
     std::int64_t addedBack;
 
     static constexpr SampleUnits Of(std::int64_t numerator, bool dropFrame) noexcept
@@ -33,20 +33,20 @@ struct SampleUnits
     }
 };
 
-/// The leap years from the year 1 to `year`.
+/// The number of leap years from the year 1 to `year`.
 constexpr unsigned LeapYearsUpTo(unsigned year) noexcept
 {
     return year / 4 - year / 100 + year / 400;
 }
 
-/// The days from 1900-01-01 to the first of January of `year`; 0 for an earlier year.
+/// The days from 1900-01-01 to January 1 of `year`; 0 for an earlier year.
 constexpr std::int64_t DaysBeforeYear(int year) noexcept
 {
     auto const lastYear = static_cast<unsigned>(std::max(year, 1900) - 1);
     return 365 * std::int64_t{lastYear - 1899} + (LeapYearsUpTo(lastYear) - LeapYearsUpTo(1899));
 }
 
-/// The days before each month from 1 on, 13 for the whole year, in an ordinary and in a leap year.
+/// The days before each month, from 1, in an ordinary year and in a leap year. Month 13 stands for the whole year.
 inline constexpr auto DaysBeforeMonthTable = []
 {
     std::array<std::array<int, 14>, 2> days{};
@@ -59,7 +59,7 @@ inline constexpr auto DaysBeforeMonthTable = []
     return days;
 }();
 
-/// The days of the months of `year` before `month`; months outside 1 to 12 have none.
+/// The days of the months of `year` before `month`; a month outside 1 to 12 has no days.
 constexpr int DaysBeforeMonth(int year, int month) noexcept
 {
     return DaysBeforeMonthTable[CalendarTools::IsLeapYear(year) ? 1 : 0]

@@ -23,10 +23,11 @@ enum class Shape
 
 constexpr unsigned Digit(char character) noexcept
 {
-    return static_cast<unsigned>(character - '0'); // above 9 for every other character
+    return static_cast<unsigned>(character - '0'); // above 9 for a character that is not a digit
 }
 
-/// Reads two digits at `position`, the first at most `firstMost`. If they are something else, `number` is meaningless.
+/// Reads two digits at `position`, the first at most `firstMost`. Returns false if they are not there; `number` is then
+/// meaningless.
 constexpr bool ReadPair(std::string_view text, std::size_t position, unsigned firstMost, int& number) noexcept
 {
     auto const tens = Digit(text[position]);
@@ -35,7 +36,7 @@ constexpr bool ReadPair(std::string_view text, std::size_t position, unsigned fi
     return tens <= firstMost && ones <= 9;
 }
 
-/// Reads `YYYY-MM-DDT` from the start of a text that is long enough.
+/// Reads `YYYY-MM-DDT` from the start of a text, which has to be long enough.
 bool ScanDate(std::string_view text, TimeCodeBuilder& fields) noexcept
 {
     int century = 0;
@@ -48,7 +49,7 @@ bool ScanDate(std::string_view text, TimeCodeBuilder& fields) noexcept
     return true;
 }
 
-/// Reads `hh:mm:ss:ff@rate`, the whole text.
+/// Reads `hh:mm:ss:ff@rate`, which has to be the whole text.
 Shape ScanClock(std::string_view text, TimeCodeBuilder& fields) noexcept
 {
     constexpr std::size_t ratePosition = 12;
@@ -71,11 +72,11 @@ Shape ScanClock(std::string_view text, TimeCodeBuilder& fields) noexcept
     return Shape::WellFormed;
 }
 
-/// Reads a text of one of the two shapes; the values are not judged, except that the rate has to fit an `int`.
+/// Reads a text in one of the two forms. The values are not checked, except that the rate has to fit an `int`.
 Shape Scan(std::string_view text, TimeCodeBuilder& fields) noexcept
 {
     constexpr std::size_t clockPosition = 11;
-    fields.dated = text.size() > clockPosition && text[clockPosition - 1] == 'T'; // undated, there is a digit
+    fields.dated = text.size() > clockPosition && text[clockPosition - 1] == 'T'; // an undated text has a digit there
     if (!fields.dated)
     {
         fields.year = 1950;
@@ -84,7 +85,7 @@ Shape Scan(std::string_view text, TimeCodeBuilder& fields) noexcept
     return ScanDate(text, fields) ? ScanClock(text.substr(clockPosition), fields) : Shape::Neither;
 }
 
-/// As Scan(), but a rate too large is thrown, with the text that callers know.
+/// Like Scan(), but throws for a rate that is too large, with the text that callers expect.
 bool ScanOrThrow(std::string_view text, TimeCodeBuilder& fields)
 {
     auto const shape = Scan(text, fields);
@@ -92,7 +93,7 @@ bool ScanOrThrow(std::string_view text, TimeCodeBuilder& fields)
     return shape == Shape::WellFormed;
 }
 
-/// A function of its own: a good text pays nothing for the message.
+/// A separate function, so that parsing valid texts does not pay for building the message.
 [[noreturn, gnu::cold, gnu::noinline]] void ThrowNeitherShape(std::string const& text)
 {
     throw std::invalid_argument("TalvoTimeCodeParser the string '" + text + "' has not the expected format.");
@@ -117,7 +118,7 @@ bool TalvoTimeCodeParser::IsStringFormatValid(std::string const& text) const
 
 std::pair<bool, TimeCode> TalvoTimeCodeParser::TryParse(std::string const& text) const
 {
-    // A derived class decides with its own Parse(). This one's needs no exception.
+    // A derived class may override Parse(), which then decides. This class decides without an exception.
     if (typeid(*this) == typeid(TalvoTimeCodeParser))
     {
         auto const timeCode = ReadTimeCode(text);

@@ -9,29 +9,30 @@ namespace Talvo::TimePoints
 {
 
 /// A position in video: a count of samples since 1900-01-01 00:00:00 and the rate that gives the count its meaning.
-/// TimeCodeBuilder makes one from calendar and clock fields. A plain value; two are equal when all their fields are.
+/// TimeCodeBuilder builds one from calendar and clock fields. Two time codes are equal if all their fields are equal.
 class TimeCode
 {
 public:
-    /// The value of Empty().
+    /// Constructs the value of Empty().
     constexpr TimeCode() noexcept = default;
 
-    /// No time code. It reads as the origin (rate 50/1, sample 0, not drop-frame, dated) and formats as that, but it is
-    /// equal to no time code that was built or parsed, the one at the origin included.
+    /// The value for "no time code". Its getters return those of the origin (rate 50/1, sample 0, not drop-frame,
+    /// dated), and it is formatted like the origin, but it differs from every time code that was built or parsed,
+    /// including the one at the origin.
     static TimeCode const& Empty() noexcept;
 
     /// The nominal integer rate, in samples per second; its denominator is 1.
     VideoRate const& Rate() const noexcept { return rate_; }
     /// Samples since 1900-01-01 00:00:00.
     std::int64_t Sample() const noexcept { return sample_; }
-    /// Drop-frame counting (SMPTE ST 12-1) is in force; only with rate 30 or 60.
+    /// Whether drop-frame counting (SMPTE ST 12-1) is used; only with rate 30 or 60.
     bool DropFrame() const noexcept { return dropFrame_; }
-    /// The value has a real date. An undated one lies on 1970-01-01.
+    /// Whether the value has a real date. An undated time code is on 1970-01-01.
     bool Dated() const noexcept { return dated_; }
 
-    /// Sets the sample count from a date and a time of day, at the rate and counting of this time code, which from then
-    /// on is not empty. Nothing is checked: a year before 1900 counts as 1900 (but keeps the month lengths of its own),
-    /// a month outside 1 to 12 has no days, and a count that leaves 64 bits wraps.
+    /// Sets the sample count from a date and a time of day, with the rate and counting of this time code, which is then
+    /// not empty. Nothing is checked: a year before 1900 counts as 1900 (but keeps its own month lengths), a month
+    /// outside 1 to 12 has no days, and a count that exceeds 64 bits wraps.
     void DateTimeToSample(int year, int month, int day, int hour, int minute, int second, int sample) noexcept;
 
     bool operator==(TimeCode const&) const = default;
@@ -52,8 +53,7 @@ private:
     std::int64_t sample_ = 0;
     bool dropFrame_ = false;
     bool dated_ = true;
-    // Part of equality: without it, "no time code" and a clip's default time code, which has the same fields, could not
-    // be told apart.
+    // Part of equality: without it, "no time code" would equal a clip's default time code, which has the same fields.
     bool empty_ = true;
 };
 

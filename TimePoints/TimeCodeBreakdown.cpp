@@ -17,13 +17,13 @@ TimeCodeBreakdown::TimeCodeBreakdown(TimeCode const& timeCode) noexcept
 
     if (days < 0)
     {
-        // There is no calendar before the origin, where only a negative count lies: the day goes below 1.
+        // There is no calendar before the origin, which only a negative count reaches: the day goes below 1.
         year = 1900;
         month = 1;
         day = days + 1;
         return;
     }
-    // The calendar repeats every 400 years, so that only the days of one such cycle need a date.
+    // The calendar repeats every 400 years, so only the days within one cycle need a date.
     constexpr std::int64_t daysPerCycle = 146097;
     constexpr std::chrono::sys_days origin{std::chrono::January / 1 / 1900};
     std::chrono::year_month_day const date{origin + std::chrono::days{days % daysPerCycle}};

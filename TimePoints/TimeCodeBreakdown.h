@@ -10,7 +10,7 @@
 namespace Talvo::TimePoints
 {
 
-/// The sample count of a time code, whose rate is positive, in days and what is left of the last one.
+/// The sample count of a time code with a positive rate, split into days and the time within the last day.
 struct DayAndTime
 {
     std::int64_t days;
@@ -18,7 +18,8 @@ struct DayAndTime
     std::int64_t frame;
 };
 
-/// Seconds first: what follows divides by constants, and no unit of a rate, however large, has to fit 64 bits.
+/// Computes seconds first: the other divisions are then by constants, and even for a large rate no unit has to fit 64
+/// bits.
 inline DayAndTime SplitNonDrop(std::int64_t sample, std::int64_t numerator) noexcept
 {
     auto const seconds = sample / numerator;
@@ -32,7 +33,7 @@ DayAndTime SplitDropFrame(std::int64_t sample) noexcept
     constexpr int perMinute = 60 * numerator;
     constexpr int perTenMinutes = 10 * perMinute;
 
-    // Puts the dropped numbers of every minute back, until no further minute is reached.
+    // Adds back the dropped numbers of every minute, until no further minute is reached.
     int count = static_cast<int>(sample % units.perDay);
     int total = 0;
     int step = 0;
@@ -54,8 +55,8 @@ inline DayAndTime SplitSample(TimeCode const& timeCode) noexcept
     return numerator == 30 ? SplitDropFrame<30>(timeCode.Sample()) : SplitDropFrame<60>(timeCode.Sample());
 }
 
-/// The date and clock fields of a time code. Divisions truncate toward zero, so a negative count, which only a negative
-/// frame or a wrapped count has, breaks down into negative pieces. All pieces are 0 if the rate is not positive.
+/// The date and clock fields of a time code. Divisions truncate toward zero, so a negative count gives negative fields;
+/// only a negative frame or a wrapped count is negative. All fields are 0 if the rate is not positive.
 struct TimeCodeBreakdown
 {
     std::int64_t year = 0;

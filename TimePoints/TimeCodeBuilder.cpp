@@ -15,7 +15,7 @@ namespace
 constexpr int FirstYear = 1900;
 constexpr int LastYear = 2261;
 
-/// Where undated time codes lie.
+/// The day of undated time codes.
 constexpr std::int64_t UndatedDay = DaysSinceOrigin(1970, 1, 1);
 static_assert(UndatedDay == 25567);
 
@@ -41,7 +41,7 @@ bool TimeCodeBuilder::IsValidToBuildWithexception() const
     case Fault::Month:
         throw std::out_of_range("month " + text(month) + " must be between 1 and 12");
     case Fault::Day:
-        // No blank behind the day: callers know the text as it is.
+        // No blank after the day: callers expect the text in this form.
         throw std::out_of_range("day " + text(day) + "is negative or greater than " +
                                 text(CalendarTools::DayPerMonth(year, month)) + " in month " + text(month));
     case Fault::Hour:
@@ -79,10 +79,10 @@ TimeCodeBuilder::Fault TimeCodeBuilder::FirstFault() const noexcept
     if (minute < 0 || minute > 59) return Fault::Minute;
     if (second < 0 || second > 59) return Fault::Second;
     if (denominator != 1) return Fault::Denominator;
-    if (sample >= numerator) return Fault::Sample; // a negative frame is let through
+    if (sample >= numerator) return Fault::Sample; // a negative frame is accepted
     if (!dropFrame) return Fault::None;
 
-    // The dropped numbers come before the rate: at a rate without drop-frame counting they are what is reported.
+    // The dropped numbers are checked before the rate: at a rate without drop-frame counting they are reported first.
     int const lastDropped = numerator == 30 ? 1 : 3;
     if (minute % 10 != 0 && second == 0 && sample <= lastDropped) return Fault::DroppedFrame;
     return HasDropFrame(numerator) ? Fault::None : Fault::DropRate;

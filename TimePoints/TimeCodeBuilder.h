@@ -9,7 +9,7 @@
 namespace Talvo::TimePoints
 {
 
-/// Makes a TimeCode from calendar and clock fields and refuses what can't exist.
+/// Builds a TimeCode from calendar and clock fields and rejects invalid ones.
 ///
 ///     TimeCodeBuilder const fields{
 ///         .year = 2000, .month = 1, .day = 1, .minute = 1, .sample = 2, .numerator = 30, .dropFrame = true};
@@ -20,7 +20,7 @@ struct TimeCodeBuilder
     int year = 1900;
     /// 1 to 12.
     int month = 1;
-    /// 1 to the length of the month. An undated time code ignores the date, yet it must be a real one.
+    /// 1 to the length of the month. An undated time code ignores the date, but the date must still be valid.
     int day = 1;
     /// 0 to 23.
     int hour = 0;
@@ -28,7 +28,7 @@ struct TimeCodeBuilder
     int minute = 0;
     /// 0 to 59.
     int second = 0;
-    /// The frame within the second, below `numerator`. A negative one is let through.
+    /// The frame within the second, below `numerator`. A negative frame is accepted.
     int sample = 0;
     /// The nominal rate, in samples per second.
     std::int64_t numerator = 50;
@@ -36,10 +36,10 @@ struct TimeCodeBuilder
     std::int64_t denominator = 1;
     /// Drop-frame counting, for rates 30 and 60 only.
     bool dropFrame = false;
-    /// False for a time code without a date, which lies on 1970-01-01.
+    /// False for a time code without a date, which is then on 1970-01-01.
     bool dated = true;
 
-    /// True, or throws std::out_of_range for the first of these that fails, in this order:
+    /// Returns true, or throws std::out_of_range for the first of these checks that fails, in this order:
     ///
     /// | Field | Text, as in |
     /// |---|---|
@@ -54,18 +54,19 @@ struct TimeCodeBuilder
     /// | drop-frame: a dropped number | `In dropped TimeCode, this value doesn't exist 1:0;0` (minute, second, frame) |
     /// | drop-frame: the rate | `Rate 25 / 1 is not compatible with drop TC format` |
     ///
-    /// The numbers dropped are the first two frames (rate 30) or four frames (any other rate) of each minute that is no
-    /// multiple of ten.
+    /// The dropped numbers are the first two frames (rate 30) or four frames (any other rate) of each minute that is
+    /// not a multiple of ten.
     bool IsValidToBuildWithexception() const;
 
-    /// The time code, or throws as IsValidToBuildWithexception() does. A sample count that leaves 64 bits wraps.
+    /// Returns the time code, or throws as IsValidToBuildWithexception() does. A sample count that exceeds 64 bits
+    /// wraps.
     TimeCode Build() const;
 
 private:
     friend class TalvoTimeCodeParser;
     friend std::optional<TimeCode> ReadTimeCode(std::string_view text) noexcept;
 
-    /// The checks, in their order.
+    /// The faults, in the order of the checks.
     enum class Fault
     {
         None,

@@ -13,7 +13,7 @@ class TimeCodeFormatter
 public:
     virtual ~TimeCodeFormatter() = default;
 
-    /// The text of the time code.
+    /// Returns the text of the time code.
     virtual std::string Format(TimeCode const& timeCode) const = 0;
 };
 

@@ -14,11 +14,11 @@ class TimeCodeParser
 public:
     virtual ~TimeCodeParser() = default;
 
-    /// The time code, or throws.
+    /// Returns the time code, or throws if the text is invalid.
     virtual TimeCode Parse(std::string const& text) const = 0;
     /// Whether Parse() would succeed.
     virtual bool IsStringFormatValid(std::string const& text) const = 0;
-    /// True and the time code, or false and TimeCode::Empty().
+    /// Returns true and the time code, or false and TimeCode::Empty().
     virtual std::pair<bool, TimeCode> TryParse(std::string const& text) const = 0;
 };
 

@@ -16,7 +16,7 @@ namespace Talvo::TimePoints
 namespace
 {
 
-/// "00" to "99".
+/// The texts "00" to "99".
 constexpr auto Pairs = []
 {
     std::array<char, 200> digits{};
@@ -33,8 +33,8 @@ void WritePair(char* out, unsigned number) noexcept
     std::memcpy(out, Pairs.data() + 2 * number, 2);
 }
 
-/// Writes a time code of which every piece is as wide as in the layout to its place, which costs half of what writing one
-/// piece after the other does. False for any other.
+/// Writes a time code whose fields all have the width of the layout, each to its place. This takes half the time of
+/// writing one field after the other. Returns false for any other time code.
 bool WriteLayout(TimeCode const& timeCode, std::string& text)
 {
     constexpr std::string_view layout = "YYYY-MM-DDThh:mm:ss:ff@rr";
@@ -47,7 +47,7 @@ bool WriteLayout(TimeCode const& timeCode, std::string& text)
     if (days >= DaysSinceOrigin(10000, 1, 1)) return false;
 
     if (text.capacity() < layout.size())
-        text = std::string(layout); // costs less than letting it grow
+        text = std::string(layout); // faster than growing it
     else if (text.size() != layout.size())
         text = layout;
     char* const out = text.data();
@@ -78,7 +78,7 @@ bool WriteLayout(TimeCode const& timeCode, std::string& text)
     return true;
 }
 
-/// Appends to a buffer that is large enough for every time code.
+/// Appends fields to a buffer that is large enough for every time code.
 class Writer
 {
 public:
@@ -89,7 +89,7 @@ public:
         next_ = std::to_chars(next_, buffer_.data() + buffer_.size(), number).ptr;
     }
 
-    /// A number with a "0" in front if it is below 10, a negative one too.
+    /// Appends a number, with a leading "0" if it is below 10, even if it is negative.
     void Padded(std::int64_t number) noexcept
     {
         if (number < 10) Character('0');
@@ -99,13 +99,13 @@ public:
     std::string_view Text() const noexcept { return {buffer_.data(), next_}; }
 
 private:
-    // Room for eight numbers of 64 bits, with their signs, the "0" in front, and the separators.
+    // Room for eight 64-bit numbers with their signs, leading "0"s and separators.
     std::array<char, 192> buffer_;
     char* next_ = buffer_.data();
 };
 
-/// Writes one piece after the other, however wide they are. Apart, so that the ordinary time code is written by a small
-/// function.
+/// Writes one field after the other, of any width. A separate function, so that the one for ordinary time codes stays
+/// small.
 [[gnu::noinline]] void WriteAnyWidth(TimeCode const& timeCode, std::string& text)
 {
     TimeCodeBreakdown const pieces{timeCode};

@@ -5,8 +5,8 @@
 namespace Talvo::TimePoints
 {
 
-/// The fractional video rates, in samples per second. A TimeCode can't be built with one of them: it counts nominal
-/// integer rates only.
+/// The fractional video rates, in samples per second. A TimeCode can't be built with one of them, because it only has
+/// nominal integer rates.
 class VideoRates
 {
 public:

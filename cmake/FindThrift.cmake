@@ -1,6 +1,6 @@
-# Apache Thrift as distributions ship it, without a CMake package of its own. Gives the targets
+# Finds Apache Thrift as distributions ship it, without a CMake package. Defines the targets
 #   Thrift::headers  all that the wire records need
-#   Thrift::thrift   the library with protocols and transports, if it is there
+#   Thrift::thrift   the library with protocols and transports, if it is installed
 find_path(Thrift_INCLUDE_DIR thrift/protocol/TProtocol.h)
 find_library(Thrift_LIBRARY thrift)
 mark_as_advanced(Thrift_INCLUDE_DIR Thrift_LIBRARY)

@@ -1,4 +1,4 @@
-# Optimised builds that may be shipped: what makes faults harder to exploit. Not with sanitizers, which see more.
+# Options that make faults harder to exploit, for optimised builds without sanitizers, which detect more.
 include(CheckCXXCompilerFlag)
 include(CheckPIESupported)
 

@@ -1,4 +1,4 @@
-# The install tree can be moved: no file in it holds an absolute path. Components: library, development, tool.
+# The install tree is relocatable: no file in it contains an absolute path. Components: library, development, tool.
 include(CMakePackageConfigHelpers)
 
 set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME development)

@@ -1,5 +1,5 @@
-# Debian packages of what Install.cmake installs, a package a component. The preset "package" is configured for them. Their
-# dependencies are asked of the machine's own packages, so they are made on the architecture that they are for.
+# Debian packages of what Install.cmake installs, one per component. The preset "package" configures a build for them.
+# Their dependencies come from the packages of the machine, so build them on the target architecture.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_CONTACT "${PROJECT_NAME} maintainers")
 set(CPACK_COMPONENTS_ALL library development tool)

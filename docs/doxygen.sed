@@ -1,4 +1,4 @@
-# What the pages link to in the repository is found in the site as a class or a file.
+# Turns links to files of the repository into references to the site's classes and files.
 /^\[\w+\]: \.\.\/Thrift\//{
     s#^\[(\w+)\]: \.\./(.*)/\w+\.h$#[\1]: @ref Talvo/Corvane/Zelmar/Serialization/\2/\1#
     s#/#::#g

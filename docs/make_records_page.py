@@ -2,8 +2,8 @@
 """make_records_page.py: writes docs/records.md, the table of all records, from the schema files and from the banners of
 the converters' headers.
 
-A banner is the comment of a converter's class. Its paragraphs that begin with "Failure" or "Ends the process" go to
-these columns, all others to "On the way"; a converter without failures says that it can't fail."""
+A banner is the comment of a converter's class. Its paragraphs that begin with "Failure" or "Ends the process" go to the
+columns of that name, all others to "Conversion". The banner of a converter without failures says that it can't fail."""
 
 import re
 from pathlib import Path
@@ -25,16 +25,17 @@ FAMILIES = {
 
 INTRODUCTION = """# All records
 
-Every record of the schema, with the converter that writes it (upper row) and the one that reads it (lower row). Each
-name leads to the header, whose comment is the source of this page: `docs/make_records_page.py` writes it.
+This page lists every record of the schema, with the converter that writes it (upper row) and the converter that reads
+it (lower row). Each name links to the header, whose comment is the source of this page: `docs/make_records_page.py`
+writes it.
 
-- A failure is a `ConversionResult` with one of these texts. Those of a nested record pass up unchanged. What was
-  written before a failure stays in the destination, unless the table says otherwise.
-- An enumeration's number that has no counterpart on the other side becomes 0 there.
-- What ends the process in `To` is a failure of `TryTo` of [Thrift/TryTo.h](../Thrift/TryTo.h), with the value's path; see
-  [Bounding input](bounding-input.md). A memory allocation that fails ends it in every converter, and so does a
-  system that has no random bytes in the two that draw a new identifier.
-- "Flag" is the record's `__isset` bit of a field. Of a nested record what its own rows say holds too.
+- A failure is a `ConversionResult` with one of these texts. The failure of a nested record is returned unchanged. What
+  was written before a failure stays in the destination, unless the table says otherwise.
+- An enumeration number without a counterpart on the other side becomes 0.
+- A value that ends the process in `To` is a failure of `TryTo` of [Thrift/TryTo.h](../Thrift/TryTo.h), with the path of
+  the value; see [Bounding input](bounding-input.md). A failed memory allocation ends the process in every converter. A
+  lack of random bytes from the system ends it in the two converters that generate a new identifier.
+- "Flag" is the `__isset` bit of a field. The rows of a nested record apply wherever it is nested.
 """
 
 
@@ -56,20 +57,20 @@ class Banner(NamedTuple):
 
 
 def records():
-    """Every record of the schema by its name."""
+    """Every record of the schema, by name."""
     found = {}
     for schema in sorted((ROOT / "schema").glob("*.thrift")):
         text = schema.read_text()
         namespace = re.search(r"^namespace cpp (\S+)", text, re.M).group(1)
         for name, fields in re.findall(r"^struct (\w+) \{(.*?)^\}", text, re.M | re.S):
             if name in found:
-                raise ValueError(f"{schema}: {name} is there twice")
+                raise ValueError(f"{schema}: {name} is defined twice")
             found[name] = Record(name, namespace, fields)
     return found
 
 
 def paragraphs_of(comment):
-    """The paragraphs of a comment, items of a list and tables' lines as paragraphs of their own."""
+    """The paragraphs of a comment, with each list item and each table line as its own paragraph."""
     paragraphs = [""]
     for line in comment.splitlines():
         line = line.strip().removeprefix("///").strip()
@@ -80,7 +81,7 @@ def paragraphs_of(comment):
 
 
 def banners():
-    """Every converter class of the public headers with what its banner says."""
+    """Every converter class of the public headers, with the contents of its banner."""
     found = []
     for header in sorted((ROOT / "Thrift").glob("**/*.h")):
         if "public Converter<" not in header.read_text():
@@ -94,8 +95,8 @@ def banners():
                 if paragraph.startswith("Ends the process: "):
                     ends_process = paragraph.removeprefix("Ends the process: ")
                 elif paragraph.startswith("|"):
-                    if target[-1:] != ["As the table in its header says."]:
-                        target.append("As the table in its header says.")
+                    if target[-1:] != ["See the table in the header."]:
+                        target.append("See the table in the header.")
                 else:
                     target.append(paragraph.removeprefix("- "))
             arguments = re.findall(r"(Generated)?::(\w+)(?=,|>|$)", bases)
@@ -116,7 +117,7 @@ def cell(texts):
 
 
 def on_the_way(banner):
-    """What is more than that one type becomes the other."""
+    """The remarks of the banner, without the sentence that only names the two types."""
     text = cell(banner.on_the_way)
     text = re.sub(r"^Writes a domain `[^`]+` into the wire record `[^`]+`\.\s*", "", text)
     text = re.sub(r"^<br>|\s*It can't fail\.", "", text)
@@ -132,18 +133,18 @@ def failures(banner):
 def nested_in(record, all_records):
     users = [user.name for user in all_records.values()
              if user.name != record.name and re.search(rf"\b{record.name}\b(?!\s*$)", user.fields, re.M)]
-    return "No converter of its own; travels in " + ", ".join(users) if users else "No converter, in no other record"
+    return "No converter of its own; nested in " + ", ".join(users) if users else "No converter; nested in no record"
 
 
 def page():
     all_records, all_banners = records(), banners()
     unknown = [banner.converter for banner in all_banners if banner.record not in all_records]
     if unknown or {record.namespace for record in all_records.values()} != set(FAMILIES.values()):
-        raise ValueError(f"a record or a family that the page doesn't know: {unknown}")
+        raise ValueError(f"unknown record or family: {unknown}")
     text = INTRODUCTION
     for title, namespace in FAMILIES.items():
         text += f"\n## {title}\n\nIn `{namespace.replace('.', '::')}`.\n\n"
-        text += "| Record | Converter | On the way | Fails with | Ends the process |\n|---|---|---|---|---|\n"
+        text += "| Record | Converter | Conversion | Fails with | Ends the process |\n|---|---|---|---|---|\n"
         for record in sorted(all_records.values()):
             if record.namespace != namespace:
                 continue

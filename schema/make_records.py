@@ -1,23 +1,23 @@
 #!/usr/bin/env python3
-"""Makes the C++ wire records from the schema files.
+"""Generates the C++ wire records from the schema files.
 
     make_records.py --thrift COMPILER --output FOLDER FILE.thrift...
 
-The Thrift compiler does most of the work. This step finishes what it leaves open, for every schema file:
+The Thrift compiler does most of the work. This step completes its output for every schema file:
 
-  <file>_types.h       enumerations get the fixed underlying type int, since any 32-bit number is legal on the wire; each
+  <file>_types.h       enumerations get the fixed underlying type int, because any 32-bit number is legal on the wire; each
                        record declares its fields first, then destructor, fingerprint constants, constructors and setters
   <file>_types.tcc     before and after the elements of a container, `read` calls `beginElements(container, size)` and
-                       `endElements(container)` of protocols that have them: those that bound memory
+                       `endElements(container)` if the protocol has them; protocols that bound memory do
   <file>_types.cpp     printing of records and enumerations, fingerprints and the constants object are appended
   <file>_constants.h   the class <file>Constants and the object g_<file>_constants
 
-and one header for all of them, which is never installed:
+It also writes one header for all of them, which is not installed:
 
   RecordFields.h       visits all records, and the fields of a record with their flags
 
-An output file is rewritten only when its text changes. Whatever is not as expected ends the step with one line on
-stderr and exit code 1, so that no half-finished record is ever compiled.
+An output file is rewritten only when its text changes. If anything is not as expected, the step ends with one line on
+stderr and exit code 1, so that no incomplete record is compiled.
 """
 
 import argparse
@@ -32,17 +32,17 @@ from pathlib import Path
 XML = "{http://thrift.apache.org/xml/idl}"
 CPP_OPTIONS = "cpp:templates,moveable_types,no_ostream_operators"
 
-# What stands for a type in the canonical text of a record; binary and string are the same type in C++.
+# The name of each type in the canonical text of a record; binary and string are the same type in C++.
 BASE_TYPES = {"bool": "bool", "byte": "byte", "i8": "byte", "i16": "i16", "i32": "i32", "i64": "i64",
               "double": "double", "string": "string", "binary": "string"}
 
 
 class StepError(Exception):
-    """Something in the schema or in the compiler's output is not as this step expects it."""
+    """The schema or the compiler's output is not as this step expects it."""
 
 
 class Schema:
-    """One schema file as the compiler's XML describes it."""
+    """One schema file, as the compiler's XML describes it."""
 
     def __init__(self, name, document):
         self.name = name
@@ -94,7 +94,7 @@ def canonical_text(schemas, schema, record):
 
 
 def substitute(pattern, replacement, text, what):
-    """Replaces the one match of the pattern; none or several are an error."""
+    """Replaces the only match of the pattern; no match or several are an error."""
     text, count = re.subn(pattern, replacement, text, flags=re.DOTALL)
     if count != 1:
         raise StepError(f"{what} found {count} times in the compiler's output, expected once")
@@ -249,7 +249,7 @@ extern const {schema.name}Constants g_{schema.name}_constants;
 
 
 def fields_header(schemas):
-    """A view of all records for internal use: their fields with flags, and their names."""
+    """A header for internal use that visits all records: their fields with flags, and their names."""
     includes, views, records = [], [], []
     for schema in schemas.values():
         includes.append(f'#include "generated/{schema.name}_types.h"\n')
@@ -290,15 +290,15 @@ namespace Talvo::Records {{
 enum class Requirement
 {{
     Required,
-    Default, ///< Written always.
-    Optional ///< Written where its flag is set.
+    Default, ///< Always written.
+    Optional ///< Written if its flag is set.
 }};
 
-// Calls visit(id, name, requirement, member, isSet) for each field, in the order of the schema: a pointer to the field, and
-// a function that gives the flag of a record's field, for a required one true.
+// Calls visit(id, name, requirement, member, isSet) for each field, in the order of the schema. `member` is a pointer to
+// the field, and `isSet` a function that returns the flag of a record's field, which is true for a required one.
 
 {chr(10).join(views)}
-// Calls visit(type_identity, name, group) for each record, by namespace, those of data and outer ones first, and name.
+// Calls visit(type_identity, name, group) for each record, sorted by namespace (data and outer ones first) and name.
 template<typename TVisit>
 void VisitRecords(TVisit&& visit)
 {{
@@ -365,7 +365,7 @@ def make_records(thrift, schema_files, output):
 
 
 def main():
-    parser = argparse.ArgumentParser(description="Makes the C++ wire records from the schema files.")
+    parser = argparse.ArgumentParser(description="Generates the C++ wire records from the schema files.")
     parser.add_argument("--thrift", default="thrift", help="the Thrift compiler")
     parser.add_argument("--output", required=True, type=Path, help="folder of the generated files")
     parser.add_argument("schema_files", nargs="+", type=Path, metavar="FILE.thrift")

@@ -5,14 +5,14 @@
 namespace Talvo::Common::Serialization
 {
 
-/// The frame of every converter: a stateless object that copies one record between its in-process form and its wire
-/// form.
+/// The interface of every converter: a stateless object that converts one record between its in-process form and its
+/// wire form.
 ///
-/// There is one class a record and direction. The caller owns source and destination and constructs the destination
-/// first; nothing is kept between calls, so any number of threads may share one converter. A failed conversion rolls
-/// nothing back: what was written before the failure stays in the destination.
+/// There is one class per record and direction. The caller owns source and destination and constructs the destination
+/// first. A converter keeps nothing between calls, so any number of threads may share it. A failed conversion is not
+/// rolled back: what was written before the failure stays in the destination.
 ///
-/// Both types may be incomplete here, so a converter's header does not drag in the records it converts.
+/// Both types may be incomplete here, so a converter's header does not include the records that it converts.
 template<typename TSource, typename TDestination>
 class Converter
 {
@@ -22,10 +22,10 @@ public:
     /// Converts `source` into `destination`.
     virtual ConversionResult To(TSource const& source, TDestination& destination) const noexcept = 0;
 
-    /// The same conversion; the source is not moved from and stays intact.
+    /// Converts `source` into `destination`. The source is not moved from and is unchanged.
     virtual ConversionResult To(TSource&& source, TDestination& destination) const noexcept = 0;
 
-    /// Always the empty text, also after a failure: failures are told by the ConversionResult alone.
+    /// Returns an empty text, even after a failure: only the ConversionResult reports failures.
     [[nodiscard]] virtual char const* GetLastConversionError() const noexcept { return ""; }
 };
 

@@ -8,16 +8,16 @@
 namespace Talvo::Corvane::Data
 {
 
-/// Text slot of N payload bytes, as clips and sequences hold their texts.
+/// Text slot of N payload bytes, used for the texts of clips and sequences.
 ///
 /// The payload is opaque: UTF-16 code units if `isUtf16`, single-byte text otherwise. It is never converted between the
-/// two and has no terminator of its own: a text may fill all N bytes. A new slot holds blanks; a text that is set, here or
-/// from the wire, is padded with zeros. Both are valid, and slots are equal only if every byte is.
+/// two and has no terminator: a text may fill all N bytes. A new slot holds blanks; a text that is set, here or from
+/// the wire, is padded with zeros. Both are valid, and slots are equal only if all bytes are equal.
 template<std::size_t N>
 struct FixedText
 {
-    /// Replaces the slot with single-byte text, `isUtf16` included. A longer text is cut after N bytes, a shorter one is
-    /// padded with zeros.
+    /// Replaces the slot, including `isUtf16`, with single-byte text. A longer text is cut after N bytes, a shorter one
+    /// is padded with zeros.
     /// @return whether the whole text fitted
     constexpr bool Set(std::string_view text) noexcept
     {
@@ -28,9 +28,9 @@ struct FixedText
         return count == text.size();
     }
 
-    /// Replaces the slot with UTF-16 text, `isUtf16` included, the low byte of each code unit first. A longer text is cut
-    /// after N / 2 code units, or one earlier if that would leave the first half of a surrogate pair; a shorter one is
-    /// padded with zeros.
+    /// Replaces the slot, including `isUtf16`, with UTF-16 text, the low byte of each code unit first. A longer text is
+    /// cut after N / 2 code units, or one earlier if that would leave the first half of a surrogate pair; a shorter one
+    /// is padded with zeros.
     /// @return whether the whole text fitted
     constexpr bool Set(std::u16string_view text) noexcept
     {

@@ -21,8 +21,8 @@ Guid const& Guid::Empty() noexcept
 
 Guid Guid::Generate()
 {
-    // A generator per call: it only asks the system for random bytes and keeps no state of its own, so neither threads
-    // nor the two sides of a fork can draw the same identifier.
+    // One generator per call: it only requests random bytes from the system and keeps no state, so neither threads nor
+    // the two processes after a fork can generate the same identifier.
     auto const uuid = boost::uuids::random_generator_pure()();
     return Guid(uuid.data, Size);
 }

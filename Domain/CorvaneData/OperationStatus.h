@@ -5,7 +5,7 @@
 namespace Talvo::Corvane::Data
 {
 
-/// Outcome of an operation. The numbers are this enumeration's own; the wire numbers the same names differently.
+/// Outcome of an operation. The wire uses different numbers for the same names.
 enum class OperationResult : std::int32_t
 {
     Success = 0,
@@ -22,10 +22,10 @@ enum class OperationResult : std::int32_t
     Unknown = 11
 };
 
-/// How far an operation has come, and with which result. A new one has not started and its result is unknown.
+/// The progress and result of an operation. A new one has not started, and its result is unknown.
 struct OperationStatus
 {
-    /// How far the operation has come.
+    /// The progress of the operation.
     enum class Status : std::int32_t
     {
         NotStarted = 0,

@@ -8,31 +8,31 @@
 namespace Talvo::Corvane::Data
 {
 
-/// A value that may be missing ("Null"), held in place with no allocation. Null when default-built.
+/// A value that may be missing ("Null"), stored in place without allocation. Null when default-constructed.
 template<typename T>
 class Optional
 {
 public:
     /// Null.
     Optional() noexcept {}
-    /// Holds a copy of the value.
+    /// Constructs an object that holds a copy of `value`.
     Optional(T const& value) { Hold(value); }
-    /// Holds the value, moved.
+    /// Constructs an object that holds `value`, moved.
     Optional(T&& value) { Hold(std::move(value)); }
 
-    /// Holds a copy of what the other one holds.
+    /// Copies the value of `other`, or its absence.
     Optional(Optional const& other)
     {
         if (other.hasValue_) Hold(other.value_);
     }
 
-    /// The source keeps its flag; its value is moved from.
+    /// Moves the value of `other`, which then still holds a moved-from value.
     Optional(Optional&& other) noexcept(std::is_nothrow_move_constructible_v<T>)
     {
         if (other.hasValue_) Hold(std::move(other.value_));
     }
 
-    /// Copies or moves, by what it is given.
+    /// Copies or moves, depending on the argument.
     Optional& operator=(Optional other) noexcept(std::is_nothrow_move_constructible_v<T>)
     {
         Delete();
@@ -53,7 +53,7 @@ public:
         return value_;
     }
 
-    /// Destroys the held value, if any; Null afterwards.
+    /// Destroys the held value, if there is one. The object is then Null.
     void Delete() noexcept
     {
         if (!hasValue_) return;
@@ -61,7 +61,7 @@ public:
         std::destroy_at(&value_);
     }
 
-    /// Both Null, or both with equal values.
+    /// Whether both are Null, or both hold equal values.
     bool operator==(Optional const& other) const
     {
         return hasValue_ == other.hasValue_ && (!hasValue_ || value_ == other.value_);
@@ -75,7 +75,7 @@ private:
         hasValue_ = true;
     }
 
-    // The flag comes first and the storage follows at once: callers share this layout.
+    // The storage directly follows the flag. Callers depend on this layout.
     bool hasValue_ = false;
     union
     {

@@ -21,8 +21,8 @@
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Detail
 {
 
-// The sets and maps of channels that transport commands carry. Going out they tell whether there was any channel, which
-// is what sets the wire's flag; coming in a clear flag empties the destination and a set one only adds to it.
+// The sets and maps of channels that transport commands carry. Writing returns whether there was any channel, which
+// sets the wire's flag. Reading empties the destination if the flag is clear, and only adds to it if the flag is set.
 
 using ChannelSet = std::unordered_set<Corvane::Data::Channels::Guid>;
 template<typename TValue>
@@ -40,7 +40,7 @@ ChannelOf(std::pair<Corvane::Data::Channels::Guid const, TValue> const& entry) n
     return entry.first;
 }
 
-/// Eight bytes as one number, which compares as they do.
+/// Eight bytes as one number that compares as the bytes do.
 inline std::uint64_t Word(unsigned char const* const bytes) noexcept
 {
     std::uint64_t word = 0;
@@ -48,11 +48,11 @@ inline std::uint64_t Word(unsigned char const* const bytes) noexcept
     return word;
 }
 
-/// Up to so many entries, sorting costs more than it saves.
+/// Up to this many entries, sorting costs more than it saves.
 constexpr std::size_t Few = 10;
 
-/// Calls `visit` with each entry in the order of the channels, which is that of the wire's keys: each then goes to the end
-/// of a new set or map.
+/// Calls `visit` with each entry in the order of the channels. The wire's keys have the same order, so each entry is
+/// inserted at the end of a new set or map.
 template<typename TContainer, typename TVisit>
 void VisitSorted(TContainer const& source, TVisit const& visit)
 {
@@ -62,7 +62,7 @@ void VisitSorted(TContainer const& source, TVisit const& visit)
         std::uint64_t second;
         typename TContainer::value_type const* entry;
     };
-    std::array<std::byte, 128 * sizeof(Place)> room; // enough for most
+    std::array<std::byte, 128 * sizeof(Place)> room; // enough in most cases
     std::pmr::monotonic_buffer_resource memory(room.data(), room.size());
     std::pmr::vector<Place> places(&memory);
     places.reserve(source.size());
@@ -77,7 +77,8 @@ void VisitSorted(TContainer const& source, TVisit const& visit)
     for (auto const& place : places) visit(*place.entry);
 }
 
-/// Makes room for `count` more entries at once. A table that has room is left alone: reserve() could make it smaller.
+/// Reserves room for `count` more entries. A table with enough room is unchanged, because reserve() could make it
+/// smaller.
 template<typename TContainer>
 void ReserveEntries(TContainer& destination, std::size_t const count)
 {
@@ -109,7 +110,8 @@ inline void ReadChannels(bool const isSet, std::set<Corvane::Data::Generated::Gu
     for (auto const& channel : source) destination.insert(ReadGuidAs<Corvane::Data::Channels::Guid>(channel));
 }
 
-/// `send(value, wireValue)` converts one value; the wire's entry of the same channel is replaced.
+/// Writes the entries; `send(value, wireValue)` converts one value. An entry of the same channel on the wire is
+/// replaced.
 template<typename TValue, typename TWireValue, typename TSend>
 bool SendByChannel(ChannelMap<TValue> const& source, std::map<Corvane::Data::Generated::Guid, TWireValue>& destination,
                    TSend const& send)
@@ -128,7 +130,8 @@ bool SendByChannel(ChannelMap<TValue> const& source, std::map<Corvane::Data::Gen
     return !source.empty();
 }
 
-/// `read(wireValue)` converts one value; the destination's entry of the same channel stays.
+/// Reads the entries; `read(wireValue)` converts one value. An existing entry of the same channel in the destination is
+/// kept.
 template<typename TValue, typename TWireValue, typename TRead>
 void ReadByChannel(bool const isSet, std::map<Corvane::Data::Generated::Guid, TWireValue> const& source,
                    ChannelMap<TValue>& destination, TRead const& read)

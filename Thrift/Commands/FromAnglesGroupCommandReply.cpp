@@ -23,7 +23,7 @@ AnglesGroupCommandReplyToThriftConverter::To(HighLevelOperations::Commands::Angl
     ClipCommandReplyToThriftConverter const fromClipCommandReply;
 
     SendGuid(source.commandGuid, TALVO_FLAGGED(destination, commandGuid));
-    // The identifier of the command a second time: that of the group does not travel. Peers rely on it.
+    // The identifier of the command is written again instead of the group's. Peers rely on this.
     SendGuid(source.commandGuid, TALVO_FLAGGED(destination, groupGuid));
     std::ignore = fromStatus.To(source.operationStatus, TALVO_FLAGGED(destination, operationStatus));
     std::ignore = fromClipCommandReply.To(source.clipCommandReply, TALVO_FLAGGED(destination, clipCommandReply));

@@ -17,7 +17,7 @@ class AnglesGroupCommandReply;
 
 /// Writes a domain `AnglesGroupCommandReply` into the wire record `AnglesGroupCommandReply`. It can't fail.
 ///
-/// Lost on the way: `groupGuid`, in whose place the identifier of the command travels a second time.
+/// Lost: `groupGuid`; the identifier of the command is written in its place.
 class AnglesGroupCommandReplyToThriftConverter
     : public Converter<HighLevelOperations::Commands::AnglesGroupCommandReply, Generated::AnglesGroupCommandReply>
 {

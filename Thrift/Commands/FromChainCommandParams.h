@@ -17,8 +17,8 @@ class ChainCommandParams;
 
 /// Writes a domain `ChainCommandParams` into the wire record `ChainCommandParams`. It can't fail.
 ///
-/// Entries are stored among those that the destination holds, where they replace one of the same channel; none leaves
-/// the flag as it was.
+/// Entries are added to those in the destination and replace an entry of the same channel; without entries the flag is
+/// unchanged.
 class ChainCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::ChainCommandParams, Generated::ChainCommandParams>
 {

@@ -23,7 +23,8 @@ ChannelCommandReplyToThriftConverter::To(HighLevelOperations::Commands::ChannelC
     Data::OperationStatusToThriftConverter const fromStatus;
 
     SendGuid(source.commandGuid, TALVO_FLAGGED(destination, guid));
-    // Tests at its end: a reply without results sends its first slot all the same. Peers rely on it.
+    // The condition is tested after the first pass: a reply without results still sends its first slot. Peers rely on
+    // this.
     std::size_t i = 0;
     do
     {

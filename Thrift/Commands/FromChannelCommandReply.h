@@ -17,8 +17,8 @@ class ChannelCommandReply;
 
 /// Writes a domain `ChannelCommandReply` into the wire record `ChannelCommandReply`. It can't fail.
 ///
-/// Results are appended to those that the destination holds. A reply without results sends the one in its first slot;
-/// of a `resultCount` above 12 the twelve slots travel.
+/// Results are appended to those in the destination. A reply without results writes the one in its first slot; with a
+/// `resultCount` above 12, the twelve slots are written.
 class ChannelCommandReplyToThriftConverter
     : public Converter<HighLevelOperations::Commands::ChannelCommandReply, Generated::ChannelCommandReply>
 {

@@ -17,7 +17,7 @@ class ClipCommandReply;
 
 /// Writes a domain `ClipCommandReply` into the wire record `ClipCommandReply`. It can't fail.
 ///
-/// Items are appended to those that the destination holds; the list's flag is set also without any.
+/// Items are appended to those in the destination; the list's flag is set even without items.
 class ClipCommandReplyToThriftConverter
     : public Converter<HighLevelOperations::Commands::ClipCommandReply, Generated::ClipCommandReply>
 {

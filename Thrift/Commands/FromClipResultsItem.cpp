@@ -21,7 +21,7 @@ ConversionResult ClipResultsItemToThriftConverter::To(HighLevelOperations::Comma
     Data::Clips::ClipToThriftConverter const fromClip;
 
     std::ignore = fromStatus.To(source.OperationStatus(), TALVO_FLAGGED(destination, operationStatus));
-    // Only the clip of an item that succeeded travels, and none that holds nothing but defaults.
+    // A clip is written only if the item succeeded and the clip does not hold defaults only.
     auto const& clip = source.Clip();
     bool const hasClip = clip != Corvane::Data::Clips::Clip::Empty();
     if (hasClip) std::ignore = fromClip.To(clip, destination.clip);

@@ -17,8 +17,8 @@ class ClipResultsItem;
 
 /// Writes a domain `ClipResultsItem` into the wire record `ClipResultsItem`. It can't fail.
 ///
-/// The clip travels only if the item succeeded and holds one that differs from Clip::Empty(); otherwise the wire's flag
-/// is cleared.
+/// The clip is written only if the item succeeded and the clip differs from Clip::Empty(); otherwise the wire's flag is
+/// cleared.
 class ClipResultsItemToThriftConverter
     : public Converter<HighLevelOperations::Commands::ClipResultsItem, Generated::ClipResultsItem>
 {

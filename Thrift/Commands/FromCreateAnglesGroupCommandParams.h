@@ -16,7 +16,7 @@ class CreateAnglesGroupCommandParams;
 } // namespace Generated
 
 /// Writes a domain `CreateAnglesGroupCommandParams` into the wire record `CreateAnglesGroupCommandParams`. It can't
-/// fail. The clips' own command travels with an identifier of its own.
+/// fail. The nested command for the clips is written with its own identifier.
 class CreateAnglesGroupCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::CreateAnglesGroupCommandParams,
                        Generated::CreateAnglesGroupCommandParams>

@@ -17,8 +17,8 @@ class CreateClipsCommandParams;
 
 /// Writes a domain `CreateClipsCommandParams` into the wire record `CreateClipsCommandParams`. It can't fail.
 ///
-/// The list is appended to what the destination holds; an empty one leaves the wire's flag as it was. What a nested
-/// conversion reports is not looked at.
+/// The list is appended to the destination's; an empty list leaves the wire's flag unchanged. The results of nested
+/// conversions are ignored.
 class CreateClipsCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::CreateClipsCommandParams, Generated::CreateClipsCommandParams>
 {

@@ -17,8 +17,8 @@ class CreatePlaylistsCommandParams;
 
 /// Writes a domain `CreatePlaylistsCommandParams` into the wire record `CreatePlaylistsCommandParams`. It can't fail.
 ///
-/// The list is appended to what the destination holds; an empty one leaves the wire's flag as it was. What a nested
-/// conversion reports is not looked at.
+/// The list is appended to the destination's; an empty list leaves the wire's flag unchanged. The results of nested
+/// conversions are ignored.
 class CreatePlaylistsCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::CreatePlaylistsCommandParams,
                        Generated::CreatePlaylistsCommandParams>

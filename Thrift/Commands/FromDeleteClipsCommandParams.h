@@ -17,7 +17,7 @@ class DeleteClipsCommandParams;
 
 /// Writes a domain `DeleteClipsCommandParams` into the wire record `DeleteClipsCommandParams`. It can't fail.
 ///
-/// The identifiers are appended to those that the destination holds; none leaves the wire's flag as it was.
+/// The identifiers are appended to those in the destination; without identifiers the wire's flag is unchanged.
 class DeleteClipsCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::DeleteClipsCommandParams, Generated::DeleteClipsCommandParams>
 {

@@ -17,7 +17,7 @@ class DeletePlaylistsCommandParams;
 
 /// Writes a domain `DeletePlaylistsCommandParams` into the wire record `DeletePlaylistsCommandParams`. It can't fail.
 ///
-/// The identifiers are appended to those that the destination holds; none leaves the wire's flag as it was.
+/// The identifiers are appended to those in the destination; without identifiers the wire's flag is unchanged.
 class DeletePlaylistsCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::DeletePlaylistsCommandParams,
                        Generated::DeletePlaylistsCommandParams>

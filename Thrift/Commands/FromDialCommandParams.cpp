@@ -17,7 +17,7 @@ ConversionResult DialCommandParamsToThriftConverter::To(HighLevelOperations::Com
 {
     SendGuid(source.commandGuid, TALVO_FLAGGED(destination, commandGuid));
     if (SendChannels(source.players, destination.players)) destination.__isset.players = true;
-    destination.__set_velocity(source.velocity); // its flag stays as it is
+    destination.__set_velocity(source.velocity); // its flag is unchanged
     return Success();
 }
 

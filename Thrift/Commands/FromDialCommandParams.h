@@ -17,8 +17,8 @@ class DialCommandParams;
 
 /// Writes a domain `DialCommandParams` into the wire record `DialCommandParams`. It can't fail.
 ///
-/// Channels are added to those that the destination holds; none leaves the flag as it was. `velocity` is written with
-/// its flag as it was.
+/// Channels are added to those in the destination; without channels the flag is unchanged. `velocity` is written, but
+/// its flag is unchanged.
 class DialCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::DialCommandParams, Generated::DialCommandParams>
 {

@@ -16,7 +16,7 @@ class FailureReply;
 } // namespace Generated
 
 /// Writes a domain `FailureReply` into the wire record `FailureReply`. It can't fail. An empty text leaves the wire's
-/// field and flag as they were.
+/// field and flag unchanged.
 class FailureReplyToThriftConverter
     : public Converter<HighLevelOperations::Commands::FailureReply, Generated::FailureReply>
 {

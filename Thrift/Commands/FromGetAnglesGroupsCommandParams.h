@@ -16,7 +16,7 @@ class GetAnglesGroupsCommandParams;
 } // namespace Generated
 
 /// Writes a domain `GetAnglesGroupsCommandParams` into the wire record `GetAnglesGroupsCommandParams`. It can't fail.
-/// Only the identifier travels.
+/// Only the identifier is written.
 class GetAnglesGroupsCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::GetAnglesGroupsCommandParams,
                        Generated::GetAnglesGroupsCommandParams>

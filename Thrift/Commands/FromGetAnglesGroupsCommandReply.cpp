@@ -22,7 +22,7 @@ ConversionResult GetAnglesGroupsCommandReplyToThriftConverter::To(
     Data::Clips::AnglesGroupToThriftConverter const fromItem;
 
     SendGuid(source.commandGuid, TALVO_FLAGGED(destination, guid));
-    // From wherever the cursor stands to the end. What an item reports is not looked at.
+    // From the current position of the cursor to the end. The results of the items are ignored.
     ReserveFor(destination.groups, source);
     while (source.MoveNext())
     {

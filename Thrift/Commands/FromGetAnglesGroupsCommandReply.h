@@ -15,11 +15,11 @@ namespace Generated
 class GetAnglesGroupsCommandReply;
 } // namespace Generated
 
-/// Writes a domain `GetAnglesGroupsCommandReply` into the wire record `GetAnglesGroupsCommandReply`. It can't fail, and
-/// what the conversion of an item reports is not looked at.
+/// Writes a domain `GetAnglesGroupsCommandReply` into the wire record `GetAnglesGroupsCommandReply`. It can't fail. The
+/// results of the items' conversions are ignored.
 ///
-/// Items are appended to those that the destination holds; the list's flag is set only if there is any. The items are
-/// those that the reply's cursor has still to give; it stands at the end afterwards.
+/// Items are appended to those in the destination; the list's flag is set only if the reply has items. The items are
+/// those that the reply's cursor has not yet returned; afterwards the cursor is at the end.
 class GetAnglesGroupsCommandReplyToThriftConverter
     : public Converter<HighLevelOperations::Commands::GetAnglesGroupsCommandReply,
                        Generated::GetAnglesGroupsCommandReply>

@@ -16,7 +16,7 @@ class GetChannelsCommandParams;
 } // namespace Generated
 
 /// Writes a domain `GetChannelsCommandParams` into the wire record `GetChannelsCommandParams`. It can't fail. Only the
-/// identifier travels.
+/// identifier is written.
 class GetChannelsCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::GetChannelsCommandParams, Generated::GetChannelsCommandParams>
 {

@@ -24,7 +24,7 @@ GetChannelsCommandReplyToThriftConverter::To(HighLevelOperations::Commands::GetC
     Data::Channels::RecorderStateToThriftConverter const fromRecorder;
 
     SendGuid(source.commandGuid, TALVO_FLAGGED(destination, guid));
-    // The flags of both maps stay as they are. What a state reports is not looked at.
+    // The flags of both maps are unchanged. The results of the states are ignored.
     for (auto const& [channel, player] : source.players)
     {
         Data::Channels::Generated::PlayerState wirePlayer;

@@ -15,11 +15,11 @@ namespace Generated
 class GetChannelsCommandReply;
 } // namespace Generated
 
-/// Writes a domain `GetChannelsCommandReply` into the wire record `GetChannelsCommandReply`. It can't fail, and what
-/// the conversion of a state reports is not looked at.
+/// Writes a domain `GetChannelsCommandReply` into the wire record `GetChannelsCommandReply`. It can't fail. The results
+/// of the states' conversions are ignored.
 ///
-/// States are stored among those that the destination holds, where they replace one of the same channel. The flags of
-/// both maps stay as they were.
+/// States are added to those in the destination and replace a state of the same channel. The flags of both maps are
+/// unchanged.
 class GetChannelsCommandReplyToThriftConverter
     : public Converter<HighLevelOperations::Commands::GetChannelsCommandReply, Generated::GetChannelsCommandReply>
 {

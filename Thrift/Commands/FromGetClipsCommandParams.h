@@ -16,7 +16,7 @@ class GetClipsCommandParams;
 } // namespace Generated
 
 /// Writes a domain `GetClipsCommandParams` into the wire record `GetClipsCommandParams`. It can't fail. Only the
-/// identifier travels.
+/// identifier is written.
 class GetClipsCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::GetClipsCommandParams, Generated::GetClipsCommandParams>
 {

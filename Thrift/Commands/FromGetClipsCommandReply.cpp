@@ -22,7 +22,7 @@ GetClipsCommandReplyToThriftConverter::To(HighLevelOperations::Commands::GetClip
     Data::Clips::ClipToThriftConverter const fromItem;
 
     SendGuid(source.commandGuid, TALVO_FLAGGED(destination, guid));
-    // From wherever the cursor stands to the end. What an item reports is not looked at.
+    // From the current position of the cursor to the end. The results of the items are ignored.
     ReserveFor(destination.clips, source);
     while (source.MoveNext())
     {

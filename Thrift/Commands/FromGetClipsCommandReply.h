@@ -15,11 +15,11 @@ namespace Generated
 class GetClipsCommandReply;
 } // namespace Generated
 
-/// Writes a domain `GetClipsCommandReply` into the wire record `GetClipsCommandReply`. It can't fail, and what the
-/// conversion of an item reports is not looked at.
+/// Writes a domain `GetClipsCommandReply` into the wire record `GetClipsCommandReply`. It can't fail. The results of
+/// the items' conversions are ignored.
 ///
-/// Items are appended to those that the destination holds; the list's flag is set only if there is any. The items are
-/// those that the reply's cursor has still to give; it stands at the end afterwards.
+/// Items are appended to those in the destination; the list's flag is set only if the reply has items. The items are
+/// those that the reply's cursor has not yet returned; afterwards the cursor is at the end.
 class GetClipsCommandReplyToThriftConverter
     : public Converter<HighLevelOperations::Commands::GetClipsCommandReply, Generated::GetClipsCommandReply>
 {

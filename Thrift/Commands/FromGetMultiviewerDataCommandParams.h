@@ -15,8 +15,8 @@ namespace Generated
 class GetMultiviewerDataCommandParams;
 } // namespace Generated
 
-/// Writes a domain `GetMultiviewerDataCommandParams` into the wire record `GetMultiviewerDataCommandParams`. Its result
-/// is that of the identifier, which can't fail.
+/// Writes a domain `GetMultiviewerDataCommandParams` into the wire record `GetMultiviewerDataCommandParams`. It returns
+/// the result of the identifier's conversion, which can't fail.
 class GetMultiviewerDataCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::GetMultiviewerDataCommandParams,
                        Generated::GetMultiviewerDataCommandParams>

@@ -17,9 +17,9 @@ class GetMultiviewerDataCommandReply;
 
 /// Writes a domain `GetMultiviewerDataCommandReply` into the wire record `GetMultiviewerDataCommandReply`.
 ///
-/// Entries are added to those that the destination holds, of which one of the same channel keeps its value.
+/// Entries are added to those in the destination, where an existing entry of the same channel keeps its value.
 ///
-/// Failures: the first of a nested conversion ends it, with its text. None of them can fail today.
+/// Failures: the first failure of a nested conversion, returned unchanged. No nested conversion can fail today.
 class GetMultiviewerDataCommandReplyToThriftConverter
     : public Converter<HighLevelOperations::Commands::GetMultiviewerDataCommandReply,
                        Generated::GetMultiviewerDataCommandReply>

@@ -23,7 +23,7 @@ Generated::ElementConversionMode::type Mode(ElementMode const mode) noexcept
         return Generated::ElementConversionMode::Lazy;
     case ElementMode::OnlyRelative:
         return Generated::ElementConversionMode::OnlyRelative;
-    default: // unknown modes too
+    default: // including unknown modes
         return Generated::ElementConversionMode::Normal;
     }
 }
@@ -36,7 +36,7 @@ GetPlaylistsCommandParamsToThriftConverter::To(HighLevelOperations::Commands::Ge
 {
     SendGuid(source.commandGuid, TALVO_FLAGGED(destination, commandGuid));
     TALVO_FLAGGED(destination, elementMode) = Mode(source.elementMode);
-    // The flag follows the filter, also to false: a record that is used again keeps no stale one.
+    // The flag is set or cleared with the filter, so a reused record keeps no stale filter.
     bool const hasFilter = source.idFilter != Corvane::Data::Sequences::Guid::Empty();
     if (hasFilter) SendGuid(source.idFilter, destination.idFilter);
     destination.__isset.idFilter = hasFilter;

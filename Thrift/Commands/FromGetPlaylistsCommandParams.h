@@ -16,7 +16,7 @@ class GetPlaylistsCommandParams;
 } // namespace Generated
 
 /// Writes a domain `GetPlaylistsCommandParams` into the wire record `GetPlaylistsCommandParams`. It can't fail. A mode
-/// outside its enumeration travels as `Normal`; an empty filter clears the wire's flag.
+/// outside its enumeration is written as `Normal`; an empty filter clears the wire's flag.
 class GetPlaylistsCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::GetPlaylistsCommandParams, Generated::GetPlaylistsCommandParams>
 {

@@ -17,10 +17,10 @@ class GetPlaylistsCommandReply;
 
 /// Writes a domain `GetPlaylistsCommandReply` into the wire record `GetPlaylistsCommandReply`.
 ///
-/// Items are appended to those that the destination holds; the list's flag is set only if there is any.
+/// Items are appended to those in the destination; the list's flag is set only if the reply has items.
 ///
-/// Failures: any of PlaylistToThriftConverter, with the items before it left in the destination and the list's flag as
-/// it was. None of them can fail today.
+/// Failures: any failure of PlaylistToThriftConverter; the items before it stay in the destination and the list's flag
+/// is unchanged. PlaylistToThriftConverter has no failures today.
 class GetPlaylistsCommandReplyToThriftConverter
     : public Converter<HighLevelOperations::Commands::GetPlaylistsCommandReply, Generated::GetPlaylistsCommandReply>
 {

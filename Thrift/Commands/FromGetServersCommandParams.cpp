@@ -23,7 +23,7 @@ Generated::ServerRange::type Range(ServerRange const range) noexcept
         return Generated::ServerRange::Local;
     case ServerRange::Remote:
         return Generated::ServerRange::Remote;
-    default: // unknown ranges too
+    default: // including unknown ranges
         return Generated::ServerRange::LocalAndRemote;
     }
 }

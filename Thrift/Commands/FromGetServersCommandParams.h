@@ -16,7 +16,7 @@ class GetServersCommandParams;
 } // namespace Generated
 
 /// Writes a domain `GetServersCommandParams` into the wire record `GetServersCommandParams`. It can't fail. A range
-/// outside its enumeration travels as local and remote.
+/// outside its enumeration is written as local and remote.
 class GetServersCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::GetServersCommandParams, Generated::GetServersCommandParams>
 {

@@ -17,10 +17,10 @@ class GetServersCommandReply;
 
 /// Writes a domain `GetServersCommandReply` into the wire record `GetServersCommandReply`.
 ///
-/// Items are appended to those that the destination holds; the list's flag is set only if there is any.
+/// Items are appended to those in the destination; the list's flag is set only if the reply has items.
 ///
-/// Failures: any of ServerInfoToThriftConverter, with the items before it left in the destination and the list's flag
-/// as it was. None of them can fail today.
+/// Failures: any failure of ServerInfoToThriftConverter; the items before it stay in the destination and the list's
+/// flag is unchanged. ServerInfoToThriftConverter has no failures today.
 class GetServersCommandReplyToThriftConverter
     : public Converter<HighLevelOperations::Commands::GetServersCommandReply, Generated::GetServersCommandReply>
 {

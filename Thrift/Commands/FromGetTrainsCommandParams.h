@@ -16,7 +16,7 @@ class GetTrainsCommandParams;
 } // namespace Generated
 
 /// Writes a domain `GetTrainsCommandParams` into the wire record `GetTrainsCommandParams`. It can't fail. Only the
-/// identifier travels.
+/// identifier is written.
 class GetTrainsCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::GetTrainsCommandParams, Generated::GetTrainsCommandParams>
 {

@@ -15,10 +15,10 @@ namespace Generated
 class GetTrainsCommandReply;
 } // namespace Generated
 
-/// Writes a domain `GetTrainsCommandReply` into the wire record `GetTrainsCommandReply`. It can't fail, and what the
-/// conversion of an item reports is not looked at.
+/// Writes a domain `GetTrainsCommandReply` into the wire record `GetTrainsCommandReply`. It can't fail. The results of
+/// the items' conversions are ignored.
 ///
-/// Items are appended to those that the destination holds; the list's flag is set only if there is any.
+/// Items are appended to those in the destination; the list's flag is set only if the reply has items.
 class GetTrainsCommandReplyToThriftConverter
     : public Converter<HighLevelOperations::Commands::GetTrainsCommandReply, Generated::GetTrainsCommandReply>
 {

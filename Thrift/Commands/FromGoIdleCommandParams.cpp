@@ -18,7 +18,7 @@ GoIdleCommandParamsToThriftConverter::To(HighLevelOperations::Commands::GoIdleCo
 {
     SendGuid(source.commandGuid, TALVO_FLAGGED(destination, commandGuid));
     if (SendChannels(source.players, destination.players)) destination.__isset.players = true;
-    destination.__set_setBlackScreen(source.setBlackScreen); // its flag stays as it is
+    destination.__set_setBlackScreen(source.setBlackScreen); // its flag is unchanged
     return Success();
 }
 

@@ -17,8 +17,8 @@ class GoIdleCommandParams;
 
 /// Writes a domain `GoIdleCommandParams` into the wire record `GoIdleCommandParams`. It can't fail.
 ///
-/// Channels are added to those that the destination holds; none leaves the flag as it was. `setBlackScreen` is written
-/// with its flag as it was.
+/// Channels are added to those in the destination; without channels the flag is unchanged. `setBlackScreen` is written,
+/// but its flag is unchanged.
 class GoIdleCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::GoIdleCommandParams, Generated::GoIdleCommandParams>
 {

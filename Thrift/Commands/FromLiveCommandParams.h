@@ -17,8 +17,8 @@ class LiveCommandParams;
 
 /// Writes a domain `LiveCommandParams` into the wire record `LiveCommandParams`. It can't fail.
 ///
-/// Entries are stored among those that the destination holds, where they replace one of the same channel; none leaves
-/// the flag as it was.
+/// Entries are added to those in the destination and replace an entry of the same channel; without entries the flag is
+/// unchanged.
 class LiveCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::LiveCommandParams, Generated::LiveCommandParams>
 {

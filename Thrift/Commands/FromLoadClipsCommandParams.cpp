@@ -17,7 +17,7 @@ using HighLevelOperations::Commands::LoadClipsCommandParams;
 namespace
 {
 
-/// Only the time point has its flag set; the others stay as they are.
+/// Writes the fields of an entry. Only the flag of the time point is set; the other flags are unchanged.
 void SendClipsParam(LoadClipsCommandParams::PlayerParam const& source, Generated::LoadClipCommandParam& destination)
 {
     SendGuid(source.clip, destination.clip);

@@ -17,8 +17,8 @@ class LoadClipsCommandParams;
 
 /// Writes a domain `LoadClipsCommandParams` into the wire record `LoadClipsCommandParams`. It can't fail.
 ///
-/// Entries are stored among those that the destination holds, where they replace one of the same channel; none leaves
-/// the flag as it was. Of an entry's fields only `timepoint` has its flag set.
+/// Entries are added to those in the destination and replace an entry of the same channel; without entries the flag is
+/// unchanged. Of an entry's fields, only `timepoint` has its flag set.
 class LoadClipsCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::LoadClipsCommandParams, Generated::LoadClipsCommandParams>
 {

@@ -16,7 +16,7 @@ using HighLevelOperations::Commands::LoadSequencesCommandParams;
 namespace
 {
 
-/// The flag of the sequence stays as it is.
+/// Writes the fields of an entry. The flag of the sequence is unchanged.
 void SendSequenceParam(LoadSequencesCommandParams::PlayerParam const& source,
                        Generated::LoadSequenceCommandParam& destination)
 {

@@ -17,8 +17,8 @@ class LoadSequencesCommandParams;
 
 /// Writes a domain `LoadSequencesCommandParams` into the wire record `LoadSequencesCommandParams`. It can't fail.
 ///
-/// Entries are stored among those that the destination holds, where they replace one of the same channel; none leaves
-/// the flag as it was. Of an entry's fields all but `sequence` have their flags set.
+/// Entries are added to those in the destination and replace an entry of the same channel; without entries the flag is
+/// unchanged. All fields of an entry except `sequence` have their flags set.
 class LoadSequencesCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::LoadSequencesCommandParams, Generated::LoadSequencesCommandParams>
 {

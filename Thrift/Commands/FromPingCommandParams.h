@@ -15,8 +15,8 @@ namespace Generated
 class PingCommandParams;
 } // namespace Generated
 
-/// Writes a domain `PingCommandParams` into the wire record `PingCommandParams`. It can't fail. Only the identifier
-/// travels.
+/// Writes a domain `PingCommandParams` into the wire record `PingCommandParams`. It can't fail. Only the identifier is
+/// written.
 class PingCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::PingCommandParams, Generated::PingCommandParams>
 {

@@ -17,7 +17,7 @@ ConversionResult PlayCommandParamsToThriftConverter::To(HighLevelOperations::Com
 {
     SendGuid(source.commandGuid, TALVO_FLAGGED(destination, commandId));
     if (SendChannels(source.players, destination.players)) destination.__isset.players = true;
-    // A speed travels as a pair, or not at all.
+    // A speed is written as a pair, or not at all.
     if (source.speedNumerator != 0 && source.speedDenominator != 0)
     {
         TALVO_FLAGGED(destination, speedNum) = source.speedNumerator;

@@ -17,8 +17,8 @@ class PlayCommandParams;
 
 /// Writes a domain `PlayCommandParams` into the wire record `PlayCommandParams`. It can't fail.
 ///
-/// Channels are added to those that the destination holds; none leaves the flag as it was. A speed of which numerator
-/// or denominator is 0 stays off the wire as a pair.
+/// Channels are added to those in the destination; without channels the flag is unchanged. A speed whose numerator or
+/// denominator is 0 is not written.
 class PlayCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::PlayCommandParams, Generated::PlayCommandParams>
 {

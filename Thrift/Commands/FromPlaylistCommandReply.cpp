@@ -21,7 +21,7 @@ PlaylistCommandReplyToThriftConverter::To(HighLevelOperations::Commands::Playlis
 
     SendGuid(source.commandGuid, TALVO_FLAGGED(destination, guid));
     AppendAll("results", fromItem, source.results, destination.results);
-    destination.__isset.results = true; // also without any item
+    destination.__isset.results = true; // even without items
     return Success();
 }
 

@@ -17,7 +17,7 @@ class PlaylistCommandReply;
 
 /// Writes a domain `PlaylistCommandReply` into the wire record `PlaylistCommandReply`. It can't fail.
 ///
-/// Items are appended to those that the destination holds; the list's flag is set also without any.
+/// Items are appended to those in the destination; the list's flag is set even without items.
 class PlaylistCommandReplyToThriftConverter
     : public Converter<HighLevelOperations::Commands::PlaylistCommandReply, Generated::PlaylistCommandReply>
 {

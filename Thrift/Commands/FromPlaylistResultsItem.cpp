@@ -22,7 +22,8 @@ PlaylistResultsItemToThriftConverter::To(HighLevelOperations::Commands::Playlist
     Data::Sequences::PlaylistToThriftConverter const fromPlaylist;
 
     std::ignore = fromStatus.To(source.OperationStatus(), TALVO_FLAGGED(destination, operationStatus));
-    // Every held playlist travels, whatever the status is and whatever it holds, unlike the clip of a clip's item.
+    // A held playlist is always written, regardless of the status and its contents, unlike the clip in a
+    // ClipResultsItem.
     bool const hasPlaylist = source.playlist != nullptr;
     if (hasPlaylist) std::ignore = fromPlaylist.To(*source.playlist, destination.playlist);
     destination.__isset.playlist = hasPlaylist;

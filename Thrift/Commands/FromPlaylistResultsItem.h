@@ -17,7 +17,7 @@ class PlaylistResultsItem;
 
 /// Writes a domain `PlaylistResultsItem` into the wire record `PlaylistResultsItem`. It can't fail.
 ///
-/// A held playlist travels whatever the status is and whatever it holds; without one the wire's flag is cleared.
+/// A held playlist is written regardless of the status and its contents; without one the wire's flag is cleared.
 class PlaylistResultsItemToThriftConverter
     : public Converter<HighLevelOperations::Commands::PlaylistResultsItem, Generated::PlaylistResultsItem>
 {

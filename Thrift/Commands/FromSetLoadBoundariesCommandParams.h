@@ -18,8 +18,8 @@ class SetLoadBoundariesCommandParams;
 /// Writes a domain `SetLoadBoundariesCommandParams` into the wire record `SetLoadBoundariesCommandParams`. It can't
 /// fail.
 ///
-/// Entries are stored among those that the destination holds, where they replace one of the same channel; none leaves
-/// the flag as it was.
+/// Entries are added to those in the destination and replace an entry of the same channel; without entries the flag is
+/// unchanged.
 class SetLoadBoundariesCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::SetLoadBoundariesCommandParams,
                        Generated::SetLoadBoundariesCommandParams>

@@ -15,7 +15,7 @@ ConversionResult SetMultiviewerDataCommandParamsToThriftConverter::To(
     HighLevelOperations::Commands::SetMultiviewerDataCommandParams const& source,
     Generated::SetMultiviewerDataCommandParams& destination) const noexcept
 {
-    // The identifier does not travel. Peers rely on it.
+    // The identifier is not written. Peers rely on this.
     return SendOverrides(
         source.playersDataOverrides,
         [&](Corvane::Data::Generated::Guid&& channel, Corvane::Data::Generated::PlayerDataOverrides&& overrides)

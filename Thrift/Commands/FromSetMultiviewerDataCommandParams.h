@@ -17,11 +17,11 @@ class SetMultiviewerDataCommandParams;
 
 /// Writes a domain `SetMultiviewerDataCommandParams` into the wire record `SetMultiviewerDataCommandParams`.
 ///
-/// Entries are stored among those that the destination holds, where they replace one of the same channel.
+/// Entries are added to those in the destination and replace an entry of the same channel.
 ///
-/// Failures: the first of a nested conversion ends it, with its text. None of them can fail today.
+/// Failures: the first failure of a nested conversion, returned unchanged. No nested conversion can fail today.
 ///
-/// Lost on the way: the identifier. The wire's stays as the destination held it.
+/// Lost: the identifier. The destination's identifier is unchanged.
 class SetMultiviewerDataCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::SetMultiviewerDataCommandParams,
                        Generated::SetMultiviewerDataCommandParams>

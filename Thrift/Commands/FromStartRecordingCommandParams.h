@@ -17,7 +17,7 @@ class StartRecordingCommandParams;
 
 /// Writes a domain `StartCommandParams` into the wire record `StartRecordingCommandParams`. It can't fail.
 ///
-/// Channels are added to those that the destination holds; none leaves the flag as it was.
+/// Channels are added to those in the destination; without channels the flag is unchanged.
 class StartRecordingCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::StartCommandParams, Generated::StartRecordingCommandParams>
 {

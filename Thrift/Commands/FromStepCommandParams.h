@@ -17,8 +17,8 @@ class StepCommandParams;
 
 /// Writes a domain `StepCommandParams` into the wire record `StepCommandParams`. It can't fail.
 ///
-/// Channels are added to those that the destination holds; none leaves the flag as it was. `fieldCount` is written with
-/// its flag as it was.
+/// Channels are added to those in the destination; without channels the flag is unchanged. `fieldCount` is written, but
+/// its flag is unchanged.
 class StepCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::StepCommandParams, Generated::StepCommandParams>
 {

@@ -17,7 +17,7 @@ class StopRecordingCommandParams;
 
 /// Writes a domain `StopCommandParams` into the wire record `StopRecordingCommandParams`. It can't fail.
 ///
-/// Channels are added to those that the destination holds; none leaves the flag as it was.
+/// Channels are added to those in the destination; without channels the flag is unchanged.
 class StopRecordingCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::StopCommandParams, Generated::StopRecordingCommandParams>
 {

@@ -17,7 +17,7 @@ class SyncCommandParams;
 
 /// Writes a domain `SyncCommandParams` into the wire record `SyncCommandParams`. It can't fail.
 ///
-/// Channels are added to those that the destination holds; none leaves the flag as it was.
+/// Channels are added to those in the destination; without channels the flag is unchanged.
 class SyncCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::SyncCommandParams, Generated::SyncCommandParams>
 {

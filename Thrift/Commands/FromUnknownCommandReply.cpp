@@ -13,7 +13,7 @@ ConversionResult
 UnknownCommandReplyToThriftConverter::To(HighLevelOperations::Commands::UnknownCommandReply const& source,
                                          Generated::UnknownCommandReply& destination) const noexcept
 {
-    // The identifier does not travel, and the flag stays as it is.
+    // The identifier is not written, and the flag is unchanged.
     destination.__set_commandType(source.commandType);
     return Success();
 }

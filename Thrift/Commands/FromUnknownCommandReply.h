@@ -17,7 +17,7 @@ class UnknownCommandReply;
 
 /// Writes a domain `UnknownCommandReply` into the wire record `UnknownCommandReply`. It can't fail.
 ///
-/// Lost on the way: the identifier, which the wire record has no field for.
+/// Lost: the identifier, for which the wire record has no field.
 class UnknownCommandReplyToThriftConverter
     : public Converter<HighLevelOperations::Commands::UnknownCommandReply, Generated::UnknownCommandReply>
 {

@@ -16,7 +16,7 @@ class UpdateAnglesGroupCommandParams;
 } // namespace Generated
 
 /// Writes a domain `UpdateAnglesGroupCommandParams` into the wire record `UpdateAnglesGroupCommandParams`. It can't
-/// fail. An angle that is missing leaves the wire's flag as it was.
+/// fail. A missing angle leaves the wire's flag unchanged.
 class UpdateAnglesGroupCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::UpdateAnglesGroupCommandParams,
                        Generated::UpdateAnglesGroupCommandParams>

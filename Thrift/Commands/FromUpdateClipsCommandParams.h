@@ -17,8 +17,8 @@ class UpdateClipsCommandParams;
 
 /// Writes a domain `UpdateClipsCommandParams` into the wire record `UpdateClipsCommandParams`. It can't fail.
 ///
-/// The list is appended to what the destination holds; an empty one leaves the wire's flag as it was. What a nested
-/// conversion reports is not looked at.
+/// The list is appended to the destination's; an empty list leaves the wire's flag unchanged. The results of nested
+/// conversions are ignored.
 class UpdateClipsCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::UpdateClipsCommandParams, Generated::UpdateClipsCommandParams>
 {

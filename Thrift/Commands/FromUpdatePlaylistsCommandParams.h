@@ -17,8 +17,8 @@ class UpdatePlaylistsCommandParams;
 
 /// Writes a domain `UpdatePlaylistsCommandParams` into the wire record `UpdatePlaylistsCommandParams`. It can't fail.
 ///
-/// The list is appended to what the destination holds; an empty one leaves the wire's flag as it was. What a nested
-/// conversion reports is not looked at.
+/// The list is appended to the destination's; an empty list leaves the wire's flag unchanged. The results of nested
+/// conversions are ignored.
 class UpdatePlaylistsCommandParamsToThriftConverter
     : public Converter<HighLevelOperations::Commands::UpdatePlaylistsCommandParams,
                        Generated::UpdatePlaylistsCommandParams>

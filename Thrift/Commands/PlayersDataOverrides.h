@@ -19,11 +19,11 @@
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Detail
 {
 
-// The overrides by player that multiviewer parameters and replies carry. The first that fails ends the conversion.
+// The overrides by player that multiviewer parameters and replies carry. The first failure ends the conversion.
 
 using PlayersDataOverrides = std::map<Corvane::Data::Channels::Guid, Multiviewer::PlayerDataOverrides>;
 
-/// `add(channel, overrides)` puts one entry of the wire.
+/// Writes the overrides; `add(channel, overrides)` adds one entry to the wire record.
 template<typename TAdd>
 Common::Serialization::ConversionResult SendOverrides(PlayersDataOverrides const& source, TAdd const& add)
 {
@@ -42,7 +42,7 @@ Common::Serialization::ConversionResult SendOverrides(PlayersDataOverrides const
     return Success();
 }
 
-/// The destination's entry of the same channel stays.
+/// Reads the overrides. An existing entry of the same channel in the destination is kept.
 inline Common::Serialization::ConversionResult
 ReadOverrides(std::map<Corvane::Data::Generated::Guid, Corvane::Data::Generated::PlayerDataOverrides> const& source,
               PlayersDataOverrides& destination)

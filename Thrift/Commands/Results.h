@@ -13,12 +13,12 @@
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Detail
 {
 
-// The results of commands on clips and on playlists, which are read alike.
+// Reads the results of commands on clips and on playlists, which have the same form.
 
 inline constexpr Corvane::Data::OperationStatus DefaultFailure{Corvane::Data::OperationStatus::Status::Failed,
                                                                Corvane::Data::OperationResult::DefaultError};
 
-/// Replaces a reply by the record. An item that fails stays as it starts.
+/// Replaces a reply with the record. An item that fails keeps its initial state.
 template<typename TItemConverter, typename TWireReply, typename TReply>
 void ReadResults(TItemConverter const& toItem, TWireReply const& source, TReply& destination)
 {
@@ -31,7 +31,7 @@ void ReadResults(TItemConverter const& toItem, TWireReply const& source, TReply&
     }
 }
 
-/// Replaces the status of an item, which destroys what it holds unless it succeeded.
+/// Replaces the status of an item. A status other than `Succeeded` destroys what the item holds.
 template<typename TWireItem, typename TItem>
 void ReadStatus(TWireItem const& source, TItem& destination)
 {

@@ -29,7 +29,7 @@ ConversionResult ThriftToAnglesGroupCommandReplyConverter::ToOrThrow(
                    ReadGuidAs<Corvane::Data::Clips::Groups::Guid>(source.groupGuid)};
     if (isset.operationStatus)
         std::ignore = Read("operationStatus", toStatus, source.operationStatus, destination.operationStatus);
-    // A reply that fails leaves the new one without items.
+    // If the nested reply fails, the new one has no items.
     if (isset.clipCommandReply)
         std::ignore =
             Read("clipCommandReply", toClipCommandReply, source.clipCommandReply, destination.clipCommandReply);

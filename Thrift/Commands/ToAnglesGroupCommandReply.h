@@ -15,18 +15,18 @@ namespace Generated
 class AnglesGroupCommandReply;
 } // namespace Generated
 
-/// Replaces a domain `AnglesGroupCommandReply` by the wire record `AnglesGroupCommandReply`. A nested reply that fails
-/// is kept without items.
+/// Replaces a domain `AnglesGroupCommandReply` with the wire record `AnglesGroupCommandReply`. A nested reply that
+/// fails is kept without items.
 ///
 /// Failure: "AnglesGroupCommandReply is empty" when the flag of `commandGuid` or `groupGuid` is clear; the destination
 /// is then unchanged.
 ///
-/// Ends the process: what ends it in ThriftToClipConverter.
+/// Ends the process: anything that ends it in ThriftToClipConverter.
 class ThriftToAnglesGroupCommandReplyConverter
     : public Converter<Generated::AnglesGroupCommandReply, HighLevelOperations::Commands::AnglesGroupCommandReply>
 {
 public:
-    /// As To(), but throws BadValue for what ends the process there.
+    /// Like To(), but throws BadValue where To() ends the process.
     ConversionResult ToOrThrow(Generated::AnglesGroupCommandReply const& source,
                                HighLevelOperations::Commands::AnglesGroupCommandReply& destination) const;
 

@@ -25,7 +25,7 @@ ThriftToChainCommandParamsConverter::To(Generated::ChainCommandParams const& sou
     ReadGuid(source.commandGuid, destination.commandGuid);
     ReadByChannel(isset.players, source.players, destination.players, ReadGuidAs<Corvane::Data::Clips::Guid>);
     if (isset.timepoint) destination.timepoint = {source.timepoint};
-    // A boundary that is refused leaves the destination's as it was.
+    // A boundary that is rejected leaves the destination's unchanged.
     if (isset.inBoundary)
         std::ignore = Read("inBoundary", loadBoundaryConverter, source.inBoundary, destination.inBoundary);
     if (isset.outBoundary)

@@ -17,9 +17,9 @@ class ChainCommandParams;
 
 /// Reads a domain `ChainCommandParams` from the wire record `ChainCommandParams`. It can't fail.
 ///
-/// The identifier is taken whether its flag is set or not. Entries are added to those that the destination holds, of
-/// which one of the same channel keeps its value; a clear flag empties them. The other fields are taken only if their
-/// flags are set; a boundary that ThriftToLoadBoundaryConverter refuses leaves the destination's as it was.
+/// The identifier is read regardless of its flag. Entries are added to those in the destination, where an existing
+/// entry of the same channel keeps its value; a clear flag removes all entries. The other fields are read only if their
+/// flags are set; a boundary that ThriftToLoadBoundaryConverter rejects leaves the destination's unchanged.
 class ThriftToChainCommandParamsConverter
     : public Converter<Generated::ChainCommandParams, HighLevelOperations::Commands::ChainCommandParams>
 {

@@ -21,9 +21,9 @@ using HighLevelOperations::Commands::ChannelResult;
 namespace
 {
 
-/// Puts a result into the slot of its channel, or behind the others; a channel for which there is no slot left is
-/// dropped. Tests at its end: the first slot is looked at even where none counts, so a default channel takes it without
-/// being counted.
+/// Stores a result in the slot of its channel, or after the others; a channel for which no slot is left is dropped. The
+/// condition is tested after the first pass: the first slot is compared even if there are no results, so a default
+/// channel takes it without being counted.
 void Put(ChannelCommandReply& reply, ChannelResult const& result) noexcept
 {
     std::size_t i = 0;
@@ -63,7 +63,8 @@ ThriftToChannelCommandReplyConverter::To(Generated::ChannelCommandReply const& s
         std::ignore = Read("channelResults", toStatus, wireResult.status, status);
         Put(received, {ReadGuidAs<Corvane::Data::Channels::Guid>(wireResult.guid), status});
     }
-    // Tests at its end: without any result the first, default slot is put all the same.
+    // The condition is tested after the first pass: without results the first slot, which holds the default, is still
+    // stored.
     std::size_t i = 0;
     do
     {
@@ -71,7 +72,7 @@ ThriftToChannelCommandReplyConverter::To(Generated::ChannelCommandReply const& s
         ++i;
     } while (static_cast<std::int32_t>(i) < received.resultCount);
 
-    // Without an identifier it fails, although the results have been put.
+    // Without an identifier the conversion fails, although the results have been stored.
     return isset.guid ? Success() : Failure("ChannelCommandReply is empty");
 }
 

@@ -17,13 +17,13 @@ class ChannelCommandReply;
 
 /// Applies the wire record `ChannelCommandReply` to a domain `ChannelCommandReply`.
 ///
-/// An identifier replaces the whole destination by a new reply; without one the results are put among those that it
-/// holds. A result of a channel that is there takes its place. An empty list counts as one default result.
+/// An identifier replaces the whole destination with a new reply; without one the results are added to those in the
+/// destination. A result replaces an existing result of the same channel. An empty list counts as one default result.
 ///
-/// Failure: "ChannelCommandReply is empty" when the flag of `guid` is clear. With that of `channelResults` clear too
-/// the destination is unchanged, else the results have been put there all the same.
+/// Failure: "ChannelCommandReply is empty" when the flag of `guid` is clear. If the flag of `channelResults` is clear
+/// too, the destination is unchanged; otherwise the results have been stored anyway.
 ///
-/// Lost on the way: results beyond the twelfth channel.
+/// Lost: results after the twelfth channel.
 class ThriftToChannelCommandReplyConverter
     : public Converter<Generated::ChannelCommandReply, HighLevelOperations::Commands::ChannelCommandReply>
 {

@@ -15,17 +15,17 @@ namespace Generated
 class ClipCommandReply;
 } // namespace Generated
 
-/// Replaces a domain `ClipCommandReply` by the wire record `ClipCommandReply`. An item that fails is kept as `Failed`,
-/// `DefaultError`.
+/// Replaces a domain `ClipCommandReply` with the wire record `ClipCommandReply`. An item that fails is kept as
+/// `Failed`, `DefaultError`.
 ///
 /// Failure: "ClipCommandReply is empty" when one of the two flags is clear; the destination is then unchanged.
 ///
-/// Ends the process: what ends it in ThriftToClipConverter.
+/// Ends the process: anything that ends it in ThriftToClipConverter.
 class ThriftToClipCommandReplyConverter
     : public Converter<Generated::ClipCommandReply, HighLevelOperations::Commands::ClipCommandReply>
 {
 public:
-    /// As To(), but throws BadValue for what ends the process there.
+    /// Like To(), but throws BadValue where To() ends the process.
     ConversionResult ToOrThrow(Generated::ClipCommandReply const& source,
                                HighLevelOperations::Commands::ClipCommandReply& destination) const;
 

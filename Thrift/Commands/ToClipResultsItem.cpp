@@ -29,7 +29,7 @@ ThriftToClipResultsItemConverter::ToOrThrow(Generated::ClipResultsItem const& so
     if (seen(isset.operationStatus)) ReadStatus(source, destination);
     if (seen(isset.clip))
     {
-        // The clip is converted even where it is dropped. What it reports is not looked at.
+        // The clip is converted even if it is then dropped. Its result is ignored.
         auto clip = std::make_unique<Corvane::Data::Clips::Clip>();
         std::ignore = Read("clip", toClip, source.clip, *clip);
         if (destination.OperationStatus().status == OperationStatus::Status::Succeeded)

@@ -17,17 +17,17 @@ class ClipResultsItem;
 
 /// Applies the wire record `ClipResultsItem` to a domain `ClipResultsItem`.
 ///
-/// A status other than `Succeeded` destroys the clip that the item held. A clip is kept only if the item has by then
-/// succeeded, with what ThriftToClipConverter applied before a failure, which is not looked at.
+/// A status other than `Succeeded` destroys the clip that the item held. A clip is kept only if the item's status is
+/// then `Succeeded`. A failure of ThriftToClipConverter is ignored: the clip keeps what was applied before it.
 ///
 /// Failure: "ClipResultsItem is empty" when no flag is set; the destination is then unchanged.
 ///
-/// Ends the process: what ends it in ThriftToClipConverter.
+/// Ends the process: anything that ends it in ThriftToClipConverter.
 class ThriftToClipResultsItemConverter
     : public Converter<Generated::ClipResultsItem, HighLevelOperations::Commands::ClipResultsItem>
 {
 public:
-    /// As To(), but throws BadValue for what ends the process there.
+    /// Like To(), but throws BadValue where To() ends the process.
     ConversionResult ToOrThrow(Generated::ClipResultsItem const& source,
                                HighLevelOperations::Commands::ClipResultsItem& destination) const;
 

@@ -18,10 +18,10 @@ ConversionResult ThriftToCreateAnglesGroupCommandParamsConverter::ToOrThrow(
     Generated::CreateAnglesGroupCommandParams const& source,
     HighLevelOperations::Commands::CreateAnglesGroupCommandParams& destination) const
 {
-    static ThriftToCreateClipsCommandParamsConverter const createClipsCommanParamsConverter; // spelled so
+    static ThriftToCreateClipsCommandParamsConverter const createClipsCommanParamsConverter; // the spelling is intended
 
     ReadGuid(source.commandGuid, destination.commandGuid);
-    destination.groupKviIndex = source.groupKviIndex; // whether its flag is set or not
+    destination.groupKviIndex = source.groupKviIndex; // regardless of its flag
     std::ignore =
         Read("creationParams", createClipsCommanParamsConverter, source.creationParams, destination.creationParams);
     return Success();

@@ -16,16 +16,16 @@ class CreateAnglesGroupCommandParams;
 } // namespace Generated
 
 /// Reads a domain `CreateAnglesGroupCommandParams` from the wire record `CreateAnglesGroupCommandParams`. It can't
-/// fail. No flag of this record is read: what was not sent is taken as the wire record
-/// holds it. The clips' own command is read as ThriftToCreateClipsCommandParamsConverter says.
+/// fail. The flags of this record are ignored: fields that were not sent are read as the wire record holds them. The
+/// nested command for the clips is read with ThriftToCreateClipsCommandParamsConverter.
 ///
-/// Ends the process: what ends it in ThriftToClipConverter.
+/// Ends the process: anything that ends it in ThriftToClipConverter.
 class ThriftToCreateAnglesGroupCommandParamsConverter
     : public Converter<Generated::CreateAnglesGroupCommandParams,
                        HighLevelOperations::Commands::CreateAnglesGroupCommandParams>
 {
 public:
-    /// As To(), but throws BadValue for what ends the process there.
+    /// Like To(), but throws BadValue where To() ends the process.
     ConversionResult ToOrThrow(Generated::CreateAnglesGroupCommandParams const& source,
                                HighLevelOperations::Commands::CreateAnglesGroupCommandParams& destination) const;
 

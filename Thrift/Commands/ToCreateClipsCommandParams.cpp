@@ -29,7 +29,7 @@ ConversionResult ThriftToCreateClipsCommandParamsConverter::ToOrThrow(
         ReserveMore(destination.clips, source.clips.size());
         for (std::size_t i = 0; i < source.clips.size(); ++i)
         {
-            // The flags inside are not read, and the clip's result is dropped.
+            // The flags inside are ignored, and so is the clip's result.
             auto const& wireParams = source.clips[i];
             auto& params = destination.clips.emplace_back();
             ReadGuid(wireParams.sourceId, params.sourceId);

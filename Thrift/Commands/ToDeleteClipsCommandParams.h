@@ -17,8 +17,8 @@ class DeleteClipsCommandParams;
 
 /// Reads a domain `DeleteClipsCommandParams` from the wire record `DeleteClipsCommandParams`. It can't fail.
 ///
-/// The identifier is taken whether its flag is set or not. The destination's list is replaced by the one that was sent,
-/// or emptied.
+/// The identifier is read regardless of its flag. The list replaces the destination's; if its flag is clear, the
+/// destination's list is emptied.
 class ThriftToDeleteClipsCommandParamsConverter
     : public Converter<Generated::DeleteClipsCommandParams, HighLevelOperations::Commands::DeleteClipsCommandParams>
 {

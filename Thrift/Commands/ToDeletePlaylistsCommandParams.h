@@ -17,8 +17,8 @@ class DeletePlaylistsCommandParams;
 
 /// Reads a domain `DeletePlaylistsCommandParams` from the wire record `DeletePlaylistsCommandParams`. It can't fail.
 ///
-/// The identifier is taken whether its flag is set or not. The destination's list is replaced by the one that was sent,
-/// or emptied.
+/// The identifier is read regardless of its flag. The list replaces the destination's; if its flag is clear, the
+/// destination's list is emptied.
 class ThriftToDeletePlaylistsCommandParamsConverter
     : public Converter<Generated::DeletePlaylistsCommandParams,
                        HighLevelOperations::Commands::DeletePlaylistsCommandParams>

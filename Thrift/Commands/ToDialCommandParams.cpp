@@ -17,7 +17,7 @@ ThriftToDialCommandParamsConverter::To(Generated::DialCommandParams const& sourc
 {
     ReadGuid(source.commandGuid, destination.commandGuid);
     ReadChannels(source.__isset.players, source.players, destination.players);
-    destination.velocity = source.velocity; // whether its flag is set or not
+    destination.velocity = source.velocity; // regardless of its flag
     return Success();
 }
 

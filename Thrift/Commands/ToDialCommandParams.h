@@ -17,8 +17,8 @@ class DialCommandParams;
 
 /// Reads a domain `DialCommandParams` from the wire record `DialCommandParams`. It can't fail.
 ///
-/// The identifier is taken whether its flag is set or not. Channels are added to those that the destination holds; a
-/// clear flag empties them. `velocity` is taken whether its flag is set or not.
+/// The identifier is read regardless of its flag. Channels are added to those in the destination; a clear flag removes
+/// all of them. `velocity` is read regardless of its flag.
 class ThriftToDialCommandParamsConverter
     : public Converter<Generated::DialCommandParams, HighLevelOperations::Commands::DialCommandParams>
 {

@@ -18,7 +18,7 @@ ThriftToFailureReplyConverter::To(Generated::FailureReply const& source,
     auto const& isset = source.__isset;
     SeenFields seen;
 
-    // An identifier starts the destination anew, so the text that it held is lost.
+    // An identifier resets the destination, so its text is lost.
     if (seen(isset.guid)) destination = {ReadGuidAs<Corvane::Data::Guid>(source.guid), ""};
     if (seen(isset.error)) destination.error = source.error;
     return seen.None() ? Failure("FailureReply is empty") : Success();

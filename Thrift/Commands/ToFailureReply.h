@@ -17,7 +17,7 @@ class FailureReply;
 
 /// Reads a domain `FailureReply` from the wire record `FailureReply`.
 ///
-/// An identifier replaces the whole destination, so the text that it held is lost; a text alone keeps the identifier.
+/// An identifier replaces the whole destination, so its text is lost; a text alone keeps the identifier.
 ///
 /// Failure: "FailureReply is empty" when no flag is set; the destination is then unchanged.
 class ThriftToFailureReplyConverter

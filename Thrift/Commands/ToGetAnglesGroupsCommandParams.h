@@ -16,7 +16,7 @@ class GetAnglesGroupsCommandParams;
 } // namespace Generated
 
 /// Reads a domain `GetAnglesGroupsCommandParams` from the wire record `GetAnglesGroupsCommandParams`. It can't fail.
-/// The identifier is taken whether its flag is set or not.
+/// The identifier is read regardless of its flag.
 class ThriftToGetAnglesGroupsCommandParamsConverter
     : public Converter<Generated::GetAnglesGroupsCommandParams,
                        HighLevelOperations::Commands::GetAnglesGroupsCommandParams>

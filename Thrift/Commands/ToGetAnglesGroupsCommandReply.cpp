@@ -32,7 +32,7 @@ ConversionResult ThriftToGetAnglesGroupsCommandReplyConverter::To(
             std::ignore = Read({"groups", i}, toGroup, source.groups[i],
                                groups.emplace_back(Corvane::Data::Clips::Groups::Guid()));
     }
-    // A revision alone does not count, yet the destination takes it.
+    // A revision alone does not count, but the destination takes it.
     destination = {guid, isset.revision ? source.revision : 0, std::move(groups)};
     return isset.guid || isset.groups ? Success() : Failure("GetAnglesGroupsCommandReply is empty");
 }

@@ -15,8 +15,9 @@ namespace Generated
 class GetAnglesGroupsCommandReply;
 } // namespace Generated
 
-/// Replaces a domain `GetAnglesGroupsCommandReply` by the wire record `GetAnglesGroupsCommandReply`. A revision that
-/// was not sent is 0. What the conversion of an item reports is not looked at: the item keeps what was applied.
+/// Replaces a domain `GetAnglesGroupsCommandReply` with the wire record `GetAnglesGroupsCommandReply`. A revision that
+/// was not sent is 0. The results of the items' conversions are ignored: an item keeps what was applied before a
+/// failure.
 ///
 /// Failure: "GetAnglesGroupsCommandReply is empty" when neither the flag of `guid` nor that of `groups` is set; the
 /// destination is then an empty reply with the revision.

@@ -16,7 +16,7 @@ class GetChannelsCommandParams;
 } // namespace Generated
 
 /// Reads a domain `GetChannelsCommandParams` from the wire record `GetChannelsCommandParams`. It can't fail. The
-/// identifier is taken whether its flag is set or not.
+/// identifier is read regardless of its flag.
 class ThriftToGetChannelsCommandParamsConverter
     : public Converter<Generated::GetChannelsCommandParams, HighLevelOperations::Commands::GetChannelsCommandParams>
 {

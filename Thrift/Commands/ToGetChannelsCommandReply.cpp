@@ -27,7 +27,7 @@ ConversionResult GetChannelsCommandReplyFromThriftConverter::ToOrThrow(
     Data::Channels::ThriftToPlayerStateConverter const toPlayer;
     Data::Channels::ThriftToRecorderStateConverter const toRecorder;
 
-    // No flag is read. What a state reports is not looked at, and of two keys that become one channel the later counts.
+    // Flags and the results of the states are ignored. If two keys become one channel, the later one counts.
     GetChannelsCommandReply reply;
     reply.commandGuid = ReadGuidAs<ChannelGuid>(source.guid);
     for (auto const& [wireChannel, wirePlayer] : source.players)

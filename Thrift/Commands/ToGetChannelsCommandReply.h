@@ -15,16 +15,16 @@ namespace Generated
 class GetChannelsCommandReply;
 } // namespace Generated
 
-/// Replaces a domain `GetChannelsCommandReply` by the wire record `GetChannelsCommandReply`. It can't fail: no flag is
-/// read, and what the conversion of a state reports is not looked at. Of two keys that become one channel the later
-/// replaces the earlier.
+/// Replaces a domain `GetChannelsCommandReply` with the wire record `GetChannelsCommandReply`. It can't fail. Flags and
+/// the results of the states' conversions are ignored. If two keys become one channel, the later one replaces the
+/// earlier.
 ///
-/// Ends the process: what ends it in ThriftToPlayerStateConverter and ThriftToRecorderStateConverter.
+/// Ends the process: anything that ends it in ThriftToPlayerStateConverter and ThriftToRecorderStateConverter.
 class GetChannelsCommandReplyFromThriftConverter
     : public Converter<Generated::GetChannelsCommandReply, HighLevelOperations::Commands::GetChannelsCommandReply>
 {
 public:
-    /// As To(), but throws BadValue for what ends the process there.
+    /// Like To(), but throws BadValue where To() ends the process.
     ConversionResult ToOrThrow(Generated::GetChannelsCommandReply const& source,
                                HighLevelOperations::Commands::GetChannelsCommandReply& destination) const;
 

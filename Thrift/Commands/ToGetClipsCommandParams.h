@@ -16,7 +16,7 @@ class GetClipsCommandParams;
 } // namespace Generated
 
 /// Reads a domain `GetClipsCommandParams` from the wire record `GetClipsCommandParams`. It can't fail. The identifier
-/// is taken whether its flag is set or not.
+/// is read regardless of its flag.
 class ThriftToGetClipsCommandParamsConverter
     : public Converter<Generated::GetClipsCommandParams, HighLevelOperations::Commands::GetClipsCommandParams>
 {

@@ -31,7 +31,7 @@ ThriftToGetClipsCommandReplyConverter::ToOrThrow(Generated::GetClipsCommandReply
         for (std::size_t i = 0; i < source.clips.size(); ++i)
             std::ignore = Read({"clips", i}, toClip, source.clips[i], clips.emplace_back());
     }
-    // A revision alone does not count, yet the destination takes it.
+    // A revision alone does not count, but the destination takes it.
     destination = {guid, isset.revision ? source.revision : 0, std::move(clips)};
     return isset.guid || isset.clips ? Success() : Failure("GetClipsCommandReply is empty");
 }

@@ -15,18 +15,19 @@ namespace Generated
 class GetClipsCommandReply;
 } // namespace Generated
 
-/// Replaces a domain `GetClipsCommandReply` by the wire record `GetClipsCommandReply`. A revision that was not sent is
-/// 0. What the conversion of an item reports is not looked at: the item keeps what was applied.
+/// Replaces a domain `GetClipsCommandReply` with the wire record `GetClipsCommandReply`. A revision that was not sent
+/// is
+/// 0. The results of the items' conversions are ignored: an item keeps what was applied before a failure.
 ///
 /// Failure: "GetClipsCommandReply is empty" when neither the flag of `guid` nor that of `clips` is set; the destination
 /// is then an empty reply with the revision.
 ///
-/// Ends the process: what ends it in ThriftToClipConverter.
+/// Ends the process: anything that ends it in ThriftToClipConverter.
 class ThriftToGetClipsCommandReplyConverter
     : public Converter<Generated::GetClipsCommandReply, HighLevelOperations::Commands::GetClipsCommandReply>
 {
 public:
-    /// As To(), but throws BadValue for what ends the process there.
+    /// Like To(), but throws BadValue where To() ends the process.
     ConversionResult ToOrThrow(Generated::GetClipsCommandReply const& source,
                                HighLevelOperations::Commands::GetClipsCommandReply& destination) const;
 

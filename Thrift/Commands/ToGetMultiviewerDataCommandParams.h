@@ -15,8 +15,8 @@ namespace Generated
 class GetMultiviewerDataCommandParams;
 } // namespace Generated
 
-/// Reads a domain `GetMultiviewerDataCommandParams` from the wire record `GetMultiviewerDataCommandParams`. Its result
-/// is that of the identifier, which can't fail.
+/// Reads a domain `GetMultiviewerDataCommandParams` from the wire record `GetMultiviewerDataCommandParams`. It returns
+/// the result of the identifier's conversion, which can't fail.
 class ThriftToGetMultiviewerDataCommandParamsConverter
     : public Converter<Generated::GetMultiviewerDataCommandParams,
                        HighLevelOperations::Commands::GetMultiviewerDataCommandParams>

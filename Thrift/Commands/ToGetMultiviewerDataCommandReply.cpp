@@ -28,7 +28,7 @@ ConversionResult ThriftToGetMultiviewerDataCommandReplyConverter::To(
         return Nested(result);
     if (auto const result = Read("status", toOperationStatus, source.status, reply.operationStatus); !result.success)
         return Nested(result);
-    // Stored before the entries are read: one that fails leaves the destination with the new status alone.
+    // Stored before the entries are read: if an entry fails, the destination holds only the new status.
     destination.operationStatus = reply.operationStatus;
     if (auto const result = ReadOverrides(source.playersDataOverrides, reply.playersDataOverrides); !result.success)
         return Nested(result);

@@ -15,11 +15,11 @@ namespace Generated
 class GetMultiviewerDataCommandReply;
 } // namespace Generated
 
-/// Replaces a domain `GetMultiviewerDataCommandReply` by the wire record `GetMultiviewerDataCommandReply`. Of two keys
-/// that become one channel the first keeps its value.
+/// Replaces a domain `GetMultiviewerDataCommandReply` with the wire record `GetMultiviewerDataCommandReply`. If two
+/// keys become one channel, the first keeps its value.
 ///
-/// Failures: the first of a nested conversion ends it, with its text; from an entry, the destination holds the new
-/// status and nothing else of the record. None of them can fail today.
+/// Failures: the first failure of a nested conversion, returned unchanged; after the failure of an entry, the
+/// destination holds only the new status. No nested conversion can fail today.
 class ThriftToGetMultiviewerDataCommandReplyConverter
     : public Converter<Generated::GetMultiviewerDataCommandReply,
                        HighLevelOperations::Commands::GetMultiviewerDataCommandReply>

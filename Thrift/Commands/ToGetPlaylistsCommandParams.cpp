@@ -22,7 +22,7 @@ ElementMode Mode(Generated::ElementConversionMode::type const mode) noexcept
         return ElementMode::Lazy;
     case Generated::ElementConversionMode::OnlyRelative:
         return ElementMode::OnlyRelative;
-    default: // unknown modes too
+    default: // including unknown modes
         return ElementMode::Normal;
     }
 }

@@ -16,7 +16,7 @@ class GetPlaylistsCommandParams;
 } // namespace Generated
 
 /// Reads a domain `GetPlaylistsCommandParams` from the wire record `GetPlaylistsCommandParams`. It can't fail. The
-/// identifier is taken whether its flag is set or not, mode and filter only if they are; an unknown mode reads as
+/// identifier is read regardless of its flag, mode and filter only if their flags are set; an unknown mode reads as
 /// `Normal`.
 class ThriftToGetPlaylistsCommandParamsConverter
     : public Converter<Generated::GetPlaylistsCommandParams, HighLevelOperations::Commands::GetPlaylistsCommandParams>

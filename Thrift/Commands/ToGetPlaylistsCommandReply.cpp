@@ -30,7 +30,7 @@ ConversionResult ThriftToGetPlaylistsCommandReplyConverter::ToOrThrow(
         if (auto const result = AppendEach("playlists", toPlaylist, source.playlists, playlists); !result.success)
             return Nested(result);
     }
-    // Here the revision counts, and a missing one is -1.
+    // The revision counts here, and a missing revision is -1.
     destination = {guid, isset.revision ? source.revision : -1, std::move(playlists)};
     return isset.guid || isset.revision || isset.playlists ? Success() : Failure("GetPlaylistsCommandReply is empty");
 }

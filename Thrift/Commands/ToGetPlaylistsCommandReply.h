@@ -15,19 +15,19 @@ namespace Generated
 class GetPlaylistsCommandReply;
 } // namespace Generated
 
-/// Replaces a domain `GetPlaylistsCommandReply` by the wire record `GetPlaylistsCommandReply`. A revision that was not
-/// sent is -1.
+/// Replaces a domain `GetPlaylistsCommandReply` with the wire record `GetPlaylistsCommandReply`. A revision that was
+/// not sent is -1.
 ///
 /// Failures:
-/// - any of ThriftToPlaylistConverter, from an item; the destination is then unchanged.
+/// - any failure of ThriftToPlaylistConverter, from an item; the destination is then unchanged.
 /// - "GetPlaylistsCommandReply is empty": no flag is set; the destination is then an empty reply.
 ///
-/// Ends the process: what ends it in ThriftToPlaylistConverter.
+/// Ends the process: anything that ends it in ThriftToPlaylistConverter.
 class ThriftToGetPlaylistsCommandReplyConverter
     : public Converter<Generated::GetPlaylistsCommandReply, HighLevelOperations::Commands::GetPlaylistsCommandReply>
 {
 public:
-    /// As To(), but throws BadValue for what ends the process there.
+    /// Like To(), but throws BadValue where To() ends the process.
     ConversionResult ToOrThrow(Generated::GetPlaylistsCommandReply const& source,
                                HighLevelOperations::Commands::GetPlaylistsCommandReply& destination) const;
 

@@ -22,7 +22,7 @@ ServerRange Range(Generated::ServerRange::type const range) noexcept
         return ServerRange::Local;
     case Generated::ServerRange::Remote:
         return ServerRange::Remote;
-    default: // unknown ranges too
+    default: // including unknown ranges
         return ServerRange::LocalAndRemote;
     }
 }

@@ -16,7 +16,7 @@ class GetServersCommandParams;
 } // namespace Generated
 
 /// Reads a domain `GetServersCommandParams` from the wire record `GetServersCommandParams`. It can't fail. The
-/// identifier is taken whether its flag is set or not, the range only if it is; an unknown range reads as local and
+/// identifier is read regardless of its flag, the range only if its flag is set; an unknown range reads as local and
 /// remote.
 class ThriftToGetServersCommandParamsConverter
     : public Converter<Generated::GetServersCommandParams, HighLevelOperations::Commands::GetServersCommandParams>

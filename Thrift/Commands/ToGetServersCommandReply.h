@@ -15,10 +15,10 @@ namespace Generated
 class GetServersCommandReply;
 } // namespace Generated
 
-/// Replaces a domain `GetServersCommandReply` by the wire record `GetServersCommandReply`.
+/// Replaces a domain `GetServersCommandReply` with the wire record `GetServersCommandReply`.
 ///
 /// Failures:
-/// - any of ThriftToServerInfoConverter, from an item; the destination is then unchanged.
+/// - any failure of ThriftToServerInfoConverter, from an item; the destination is then unchanged.
 /// - "GetServersCommandReply is empty": no flag is set; the destination is then an empty reply.
 class ThriftToGetServersCommandReplyConverter
     : public Converter<Generated::GetServersCommandReply, HighLevelOperations::Commands::GetServersCommandReply>

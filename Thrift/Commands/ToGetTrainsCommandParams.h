@@ -16,7 +16,7 @@ class GetTrainsCommandParams;
 } // namespace Generated
 
 /// Reads a domain `GetTrainsCommandParams` from the wire record `GetTrainsCommandParams`. It can't fail. The identifier
-/// is taken whether its flag is set or not.
+/// is read regardless of its flag.
 class ThriftToGetTrainsCommandParamsConverter
     : public Converter<Generated::GetTrainsCommandParams, HighLevelOperations::Commands::GetTrainsCommandParams>
 {

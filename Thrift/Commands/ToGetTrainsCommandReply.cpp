@@ -26,7 +26,7 @@ ConversionResult ThriftToGetTrainsCommandReplyConverter::ToOrThrow(
     auto const& isset = source.__isset;
 
     destination.commandGuid = isset.guid ? ReadGuidAs<Corvane::Data::Guid>(source.guid) : Corvane::Data::Guid::Empty();
-    destination.dbRevision = source.dbRevision; // whether its flag is set or not
+    destination.dbRevision = source.dbRevision; // regardless of its flag
     destination.trains.clear();
     if (isset.trains)
     {

@@ -15,19 +15,18 @@ namespace Generated
 class GetTrainsCommandReply;
 } // namespace Generated
 
-/// Replaces a domain `GetTrainsCommandReply` by the wire record `GetTrainsCommandReply`. The revision is taken whether
-/// its flag is set or not. What the conversion of an item reports is not looked at: a train whose clip fails is an
-/// empty one.
+/// Replaces a domain `GetTrainsCommandReply` with the wire record `GetTrainsCommandReply`. The revision is read
+/// regardless of its flag. The results of the items' conversions are ignored: a train whose clip fails is empty.
 ///
 /// Failure: "GetTrainsCommandReply is empty" when neither the flag of `guid` nor that of `trains` is set; the
 /// destination is then an empty reply with the revision.
 ///
-/// Ends the process: what ends it in ThriftToTrainConverter.
+/// Ends the process: anything that ends it in ThriftToTrainConverter.
 class ThriftToGetTrainsCommandReplyConverter
     : public Converter<Generated::GetTrainsCommandReply, HighLevelOperations::Commands::GetTrainsCommandReply>
 {
 public:
-    /// As To(), but throws BadValue for what ends the process there.
+    /// Like To(), but throws BadValue where To() ends the process.
     ConversionResult ToOrThrow(Generated::GetTrainsCommandReply const& source,
                                HighLevelOperations::Commands::GetTrainsCommandReply& destination) const;
 

@@ -17,7 +17,7 @@ ThriftToGoIdleCommandParamsConverter::To(Generated::GoIdleCommandParams const& s
 {
     ReadGuid(source.commandGuid, destination.commandGuid);
     ReadChannels(source.__isset.players, source.players, destination.players);
-    destination.setBlackScreen = source.setBlackScreen; // whether its flag is set or not
+    destination.setBlackScreen = source.setBlackScreen; // regardless of its flag
     return Success();
 }
 

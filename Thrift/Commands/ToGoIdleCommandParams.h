@@ -17,8 +17,8 @@ class GoIdleCommandParams;
 
 /// Reads a domain `GoIdleCommandParams` from the wire record `GoIdleCommandParams`. It can't fail.
 ///
-/// The identifier is taken whether its flag is set or not. Channels are added to those that the destination holds; a
-/// clear flag empties them. `setBlackScreen` is taken whether its flag is set or not.
+/// The identifier is read regardless of its flag. Channels are added to those in the destination; a clear flag removes
+/// all of them. `setBlackScreen` is read regardless of its flag.
 class ThriftToGoIdleCommandParamsConverter
     : public Converter<Generated::GoIdleCommandParams, HighLevelOperations::Commands::GoIdleCommandParams>
 {

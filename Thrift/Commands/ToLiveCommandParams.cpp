@@ -16,8 +16,7 @@ ThriftToLiveCommandParamsConverter::To(Generated::LiveCommandParams const& sourc
                                        HighLevelOperations::Commands::LiveCommandParams& destination) const noexcept
 {
     ReadGuid(source.commandGuid, destination.commandGuid);
-    // Without players the whole destination starts anew: the identifier that was sent is lost, a new one takes its
-    // place.
+    // Without players the whole destination is reset: a new identifier replaces the one that was sent.
     if (!source.__isset.players)
         destination = HighLevelOperations::Commands::LiveCommandParams();
     else

@@ -17,10 +17,10 @@ class LiveCommandParams;
 
 /// Reads a domain `LiveCommandParams` from the wire record `LiveCommandParams`. It can't fail.
 ///
-/// Entries are added to those that the destination holds, of which one of the same channel keeps its value.
+/// Entries are added to those in the destination, where an existing entry of the same channel keeps its value.
 ///
-/// Lost on the way: with the flag of `players` clear the destination is replaced by a new `LiveCommandParams`, with an
-/// identifier of its own; the one that was sent is lost.
+/// Lost: if the flag of `players` is clear, the destination is replaced with a new `LiveCommandParams` with a new
+/// identifier; the identifier that was sent is lost.
 class ThriftToLiveCommandParamsConverter
     : public Converter<Generated::LiveCommandParams, HighLevelOperations::Commands::LiveCommandParams>
 {

@@ -16,7 +16,7 @@ using HighLevelOperations::Commands::LoadClipsCommandParams;
 namespace
 {
 
-/// Only the flag of the time point is read.
+/// Reads the fields of an entry. Only the flag of the time point counts.
 LoadClipsCommandParams::PlayerParam ReadClipsParam(Generated::LoadClipCommandParam const& source)
 {
     return {ReadGuidAs<Corvane::Data::Clips::Guid>(source.clip),

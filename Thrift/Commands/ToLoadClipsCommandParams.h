@@ -17,10 +17,10 @@ class LoadClipsCommandParams;
 
 /// Reads a domain `LoadClipsCommandParams` from the wire record `LoadClipsCommandParams`. It can't fail.
 ///
-/// The identifier is taken whether its flag is set or not. Entries are added to those that the destination holds, of
-/// which one of the same channel keeps its value; a clear flag empties them. Of an entry's fields only the flag of
-/// `timepoint` is read, whose absence is TimePoint::Empty(); a boundary that ThriftToLoadBoundaryConverter refuses
-/// reads as a new one.
+/// The identifier is read regardless of its flag. Entries are added to those in the destination, where an existing
+/// entry of the same channel keeps its value; a clear flag removes all entries. Of an entry's flags only that of
+/// `timepoint` counts: a missing time point reads as TimePoint::Empty(). A boundary that ThriftToLoadBoundaryConverter
+/// rejects reads as a new boundary.
 class ThriftToLoadClipsCommandParamsConverter
     : public Converter<Generated::LoadClipsCommandParams, HighLevelOperations::Commands::LoadClipsCommandParams>
 {

@@ -15,7 +15,7 @@ using HighLevelOperations::Commands::LoadSequencesCommandParams;
 namespace
 {
 
-/// The flag of the sequence is not read.
+/// Reads the fields of an entry. The flag of the sequence is ignored.
 LoadSequencesCommandParams::PlayerParam ReadSequenceParam(Generated::LoadSequenceCommandParam const& source)
 {
     return {ReadGuidAs<Corvane::Data::Sequences::Guid>(source.sequence),

@@ -17,9 +17,9 @@ class LoadSequencesCommandParams;
 
 /// Reads a domain `LoadSequencesCommandParams` from the wire record `LoadSequencesCommandParams`. It can't fail.
 ///
-/// The identifier is taken whether its flag is set or not. Entries are added to those that the destination holds, of
-/// which one of the same channel keeps its value; a clear flag empties them. Of an entry's fields the flag of
-/// `sequence` is not read; what else was not sent is 0 and false.
+/// The identifier is read regardless of its flag. Entries are added to those in the destination, where an existing
+/// entry of the same channel keeps its value; a clear flag removes all entries. In an entry, the flag of `sequence` is
+/// ignored; other fields that were not sent are 0 and false.
 class ThriftToLoadSequencesCommandParamsConverter
     : public Converter<Generated::LoadSequencesCommandParams, HighLevelOperations::Commands::LoadSequencesCommandParams>
 {

@@ -15,8 +15,8 @@ namespace Generated
 class PingCommandParams;
 } // namespace Generated
 
-/// Reads a domain `PingCommandParams` from the wire record `PingCommandParams`. It can't fail. The identifier is taken
-/// whether its flag is set or not.
+/// Reads a domain `PingCommandParams` from the wire record `PingCommandParams`. It can't fail. The identifier is read
+/// regardless of its flag.
 class ThriftToPingCommandParamsConverter
     : public Converter<Generated::PingCommandParams, HighLevelOperations::Commands::PingCommandParams>
 {

@@ -19,7 +19,7 @@ ThriftToPlayCommandParamsConverter::To(Generated::PlayCommandParams const& sourc
 
     ReadGuid(source.commandId, destination.commandGuid);
     ReadChannels(source.__isset.players, source.players, destination.players);
-    // Coming in a numerator of 0 is taken, though none is sent; a missing speed is 0 / 1.
+    // A numerator of 0 is read, although it is never written; a missing speed is 0 / 1.
     bool const hasSpeed = isset.speedNum && isset.speedDen && source.speedDen != 0;
     destination.speedNumerator = hasSpeed ? source.speedNum : 0;
     destination.speedDenominator = hasSpeed ? source.speedDen : 1;

@@ -17,10 +17,10 @@ class PlayCommandParams;
 
 /// Reads a domain `PlayCommandParams` from the wire record `PlayCommandParams`. It can't fail.
 ///
-/// The identifier is taken whether its flag is set or not. Channels are added to those that the destination holds; a
-/// clear flag empties them.
+/// The identifier is read regardless of its flag. Channels are added to those in the destination; a clear flag removes
+/// all of them.
 ///
-/// A speed of which one flag is clear or the denominator is 0 reads as 0 / 1; a numerator of 0 is kept.
+/// A speed with a clear flag or a denominator of 0 reads as 0 / 1; a numerator of 0 is kept.
 class ThriftToPlayCommandParamsConverter
     : public Converter<Generated::PlayCommandParams, HighLevelOperations::Commands::PlayCommandParams>
 {

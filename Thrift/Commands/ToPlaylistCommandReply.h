@@ -15,17 +15,17 @@ namespace Generated
 class PlaylistCommandReply;
 } // namespace Generated
 
-/// Replaces a domain `PlaylistCommandReply` by the wire record `PlaylistCommandReply`. An item that fails is kept as
+/// Replaces a domain `PlaylistCommandReply` with the wire record `PlaylistCommandReply`. An item that fails is kept as
 /// `Failed`, `DefaultError`.
 ///
 /// Failure: "PlaylistCommandReply is empty" when one of the two flags is clear; the destination is then unchanged.
 ///
-/// Ends the process: what ends it in ThriftToPlaylistConverter.
+/// Ends the process: anything that ends it in ThriftToPlaylistConverter.
 class ThriftToPlaylistCommandReplyConverter
     : public Converter<Generated::PlaylistCommandReply, HighLevelOperations::Commands::PlaylistCommandReply>
 {
 public:
-    /// As To(), but throws BadValue for what ends the process there.
+    /// Like To(), but throws BadValue where To() ends the process.
     ConversionResult ToOrThrow(Generated::PlaylistCommandReply const& source,
                                HighLevelOperations::Commands::PlaylistCommandReply& destination) const;
 

@@ -28,7 +28,7 @@ ThriftToPlaylistResultsItemConverter::ToOrThrow(Generated::PlaylistResultsItem c
     if (seen(isset.operationStatus)) ReadStatus(source, destination);
     if (seen(isset.playlist))
     {
-        // Kept whatever the status is, unlike the clip of a clip's item. What the playlist reports is not looked at.
+        // Kept regardless of the status, unlike the clip in a ClipResultsItem. The result of the playlist is ignored.
         auto playlist = std::make_unique<Corvane::Data::Sequences::Playlist>();
         std::ignore = Read("playlist", toPlaylist, source.playlist, *playlist);
         destination.playlist = std::move(playlist);

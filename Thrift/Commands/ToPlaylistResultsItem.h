@@ -17,17 +17,17 @@ class PlaylistResultsItem;
 
 /// Applies the wire record `PlaylistResultsItem` to a domain `PlaylistResultsItem`.
 ///
-/// A status other than `Succeeded` destroys the playlist that the item held, but a playlist of the same record is kept
-/// whatever the status is. What ThriftToPlaylistConverter reports is not looked at.
+/// A status other than `Succeeded` destroys the playlist that the item held, but a playlist in the same record is kept
+/// regardless of the status. The result of ThriftToPlaylistConverter is ignored.
 ///
 /// Failure: "PlaylistResultsItem is empty" when no flag is set; the destination is then unchanged.
 ///
-/// Ends the process: what ends it in ThriftToPlaylistConverter.
+/// Ends the process: anything that ends it in ThriftToPlaylistConverter.
 class ThriftToPlaylistResultsItemConverter
     : public Converter<Generated::PlaylistResultsItem, HighLevelOperations::Commands::PlaylistResultsItem>
 {
 public:
-    /// As To(), but throws BadValue for what ends the process there.
+    /// Like To(), but throws BadValue where To() ends the process.
     ConversionResult ToOrThrow(Generated::PlaylistResultsItem const& source,
                                HighLevelOperations::Commands::PlaylistResultsItem& destination) const;
 

@@ -16,7 +16,7 @@ using HighLevelOperations::Commands::SetLoadBoundariesCommandParams;
 namespace
 {
 
-/// The flags inside are not read.
+/// Reads the fields of an entry. Their flags are ignored.
 SetLoadBoundariesCommandParams::PlayerParam ReadBoundaryParam(Generated::SetLoadBoundariesCommandParam const& source)
 {
     return {ReadBoundary(source.inBoundary), ReadBoundary(source.outBoundary)};

@@ -18,9 +18,9 @@ class SetLoadBoundariesCommandParams;
 /// Reads a domain `SetLoadBoundariesCommandParams` from the wire record `SetLoadBoundariesCommandParams`. It can't
 /// fail.
 ///
-/// The identifier is taken whether its flag is set or not. Entries are added to those that the destination holds, of
-/// which one of the same channel keeps its value; a clear flag empties them. Flags inside an entry are not read; a
-/// boundary that ThriftToLoadBoundaryConverter refuses reads as a new one.
+/// The identifier is read regardless of its flag. Entries are added to those in the destination, where an existing
+/// entry of the same channel keeps its value; a clear flag removes all entries. Flags inside an entry are ignored; a
+/// boundary that ThriftToLoadBoundaryConverter rejects reads as a new boundary.
 class ThriftToSetLoadBoundariesCommandParamsConverter
     : public Converter<Generated::SetLoadBoundariesCommandParams,
                        HighLevelOperations::Commands::SetLoadBoundariesCommandParams>

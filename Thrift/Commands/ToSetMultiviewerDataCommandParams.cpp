@@ -17,7 +17,7 @@ ConversionResult ThriftToSetMultiviewerDataCommandParamsConverter::To(
     Generated::SetMultiviewerDataCommandParams const& source,
     HighLevelOperations::Commands::SetMultiviewerDataCommandParams& destination) const noexcept
 {
-    // The identifier that was sent is not read: these parameters have a new one. Peers rely on it.
+    // The identifier that was sent is not read: these parameters get a new one. Peers rely on this.
     SetMultiviewerDataCommandParams params;
     if (auto const result = ReadOverrides(source.playersDataOverrides, params.playersDataOverrides); !result.success)
         return Nested(result);

@@ -15,13 +15,13 @@ namespace Generated
 class SetMultiviewerDataCommandParams;
 } // namespace Generated
 
-/// Replaces a domain `SetMultiviewerDataCommandParams` by the wire record `SetMultiviewerDataCommandParams`. Of two
-/// keys that become one channel the first keeps its value.
+/// Replaces a domain `SetMultiviewerDataCommandParams` with the wire record `SetMultiviewerDataCommandParams`. If two
+/// keys become one channel, the first keeps its value.
 ///
-/// Failures: the first of a nested conversion ends it, with its text; the destination is then unchanged. None of them
-/// can fail today.
+/// Failures: the first failure of a nested conversion, returned unchanged; the destination is then unchanged. No nested
+/// conversion can fail today.
 ///
-/// Lost on the way: the identifier. The destination gets a new one.
+/// Lost: the identifier. The destination gets a new one.
 class ThriftToSetMultiviewerDataCommandParamsConverter
     : public Converter<Generated::SetMultiviewerDataCommandParams,
                        HighLevelOperations::Commands::SetMultiviewerDataCommandParams>

@@ -17,8 +17,8 @@ class StartRecordingCommandParams;
 
 /// Reads a domain `StartCommandParams` from the wire record `StartRecordingCommandParams`. It can't fail.
 ///
-/// The identifier is taken whether its flag is set or not. Channels are added to those that the destination holds; a
-/// clear flag empties them.
+/// The identifier is read regardless of its flag. Channels are added to those in the destination; a clear flag removes
+/// all of them.
 class ThriftToStartRecordingCommandParamsConverter
     : public Converter<Generated::StartRecordingCommandParams, HighLevelOperations::Commands::StartCommandParams>
 {

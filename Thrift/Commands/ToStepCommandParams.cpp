@@ -17,7 +17,7 @@ ThriftToStepCommandParamsConverter::To(Generated::StepCommandParams const& sourc
 {
     ReadGuid(source.commandGuid, destination.commandGuid);
     ReadChannels(source.__isset.players, source.players, destination.players);
-    destination.fieldCount = source.fieldCount; // whether its flag is set or not
+    destination.fieldCount = source.fieldCount; // regardless of its flag
     return Success();
 }
 

@@ -17,8 +17,8 @@ class StepCommandParams;
 
 /// Reads a domain `StepCommandParams` from the wire record `StepCommandParams`. It can't fail.
 ///
-/// The identifier is taken whether its flag is set or not. Channels are added to those that the destination holds; a
-/// clear flag empties them. `fieldCount` is taken whether its flag is set or not.
+/// The identifier is read regardless of its flag. Channels are added to those in the destination; a clear flag removes
+/// all of them. `fieldCount` is read regardless of its flag.
 class ThriftToStepCommandParamsConverter
     : public Converter<Generated::StepCommandParams, HighLevelOperations::Commands::StepCommandParams>
 {

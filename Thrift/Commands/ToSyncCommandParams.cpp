@@ -25,7 +25,7 @@ ThriftToSyncCommandParamsConverter::To(Generated::SyncCommandParams const& sourc
     ReadGuid(source.commandGuid, destination.commandGuid);
     if (isset.sourcePlayer) ReadGuid(source.sourcePlayer, destination.sourcePlayer);
     ReadChannels(source.__isset.players, source.players, destination.players);
-    // A boundary that is refused leaves the destination's as it was.
+    // A boundary that is rejected leaves the destination's unchanged.
     if (isset.inBoundary)
         std::ignore = Read("inBoundary", loadBoundaryConverter, source.inBoundary, destination.inBoundary);
     if (isset.outBoundary)

@@ -17,9 +17,9 @@ class SyncCommandParams;
 
 /// Reads a domain `SyncCommandParams` from the wire record `SyncCommandParams`. It can't fail.
 ///
-/// The identifier is taken whether its flag is set or not. Channels are added to those that the destination holds; a
-/// clear flag empties them. The other fields are taken only if their flags are set; a boundary that
-/// ThriftToLoadBoundaryConverter refuses leaves the destination's as it was.
+/// The identifier is read regardless of its flag. Channels are added to those in the destination; a clear flag removes
+/// all of them. The other fields are read only if their flags are set; a boundary that ThriftToLoadBoundaryConverter
+/// rejects leaves the destination's unchanged.
 class ThriftToSyncCommandParamsConverter
     : public Converter<Generated::SyncCommandParams, HighLevelOperations::Commands::SyncCommandParams>
 {

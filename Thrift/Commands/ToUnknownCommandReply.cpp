@@ -14,7 +14,7 @@ ThriftToUnknownCommandReplyConverter::To(Generated::UnknownCommandReply const& s
                                          HighLevelOperations::Commands::UnknownCommandReply& destination) const noexcept
 {
     destination.commandGuid = Corvane::Data::Guid::Empty();
-    destination.commandType = source.commandType; // whether the flag is set or not
+    destination.commandType = source.commandType; // regardless of the flag
     return Success();
 }
 

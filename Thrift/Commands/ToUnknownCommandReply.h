@@ -16,7 +16,7 @@ class UnknownCommandReply;
 } // namespace Generated
 
 /// Reads a domain `UnknownCommandReply` from the wire record `UnknownCommandReply`. It can't fail. The destination is
-/// replaced, whether the flag is set or not, and its identifier is Guid::Empty().
+/// replaced regardless of the flag, and its identifier becomes Guid::Empty().
 class ThriftToUnknownCommandReplyConverter
     : public Converter<Generated::UnknownCommandReply, HighLevelOperations::Commands::UnknownCommandReply>
 {

@@ -16,7 +16,7 @@ class UpdateAnglesGroupCommandParams;
 } // namespace Generated
 
 /// Reads a domain `UpdateAnglesGroupCommandParams` from the wire record `UpdateAnglesGroupCommandParams`. It can't
-/// fail. An angle that was not sent stays as it was.
+/// fail. An angle that was not sent is unchanged.
 class ThriftToUpdateAnglesGroupCommandParamsConverter
     : public Converter<Generated::UpdateAnglesGroupCommandParams,
                        HighLevelOperations::Commands::UpdateAnglesGroupCommandParams>

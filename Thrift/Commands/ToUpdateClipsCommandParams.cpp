@@ -29,7 +29,7 @@ ConversionResult ThriftToUpdateClipsCommandParamsConverter::ToOrThrow(
         ReserveMore(destination.clips, source.clips.size());
         for (std::size_t i = 0; i < source.clips.size(); ++i)
         {
-            // The flags inside are not read, and the clips' results are dropped.
+            // The flags inside are ignored, and so are the clips' results.
             auto const& wireParams = source.clips[i];
             auto& params = destination.clips.emplace_back();
             std::ignore = Read({"clips", i, "oldClip"}, clipConverter, wireParams.oldClip, params.oldClip);

@@ -17,16 +17,16 @@ class UpdateClipsCommandParams;
 
 /// Reads a domain `UpdateClipsCommandParams` from the wire record `UpdateClipsCommandParams`. It can't fail.
 ///
-/// The identifier is taken whether its flag is set or not. The destination's list is replaced by the one that was sent,
-/// or emptied. Flags inside its records are not read, and what a nested conversion reports is not looked at: the record
-/// keeps what was applied.
+/// The identifier is read regardless of its flag. The list replaces the destination's; if its flag is clear, the
+/// destination's list is emptied. Flags inside its records are ignored, and so are the results of nested conversions: a
+/// record keeps what was applied before a failure.
 ///
-/// Ends the process: what ends it in ThriftToClipConverter.
+/// Ends the process: anything that ends it in ThriftToClipConverter.
 class ThriftToUpdateClipsCommandParamsConverter
     : public Converter<Generated::UpdateClipsCommandParams, HighLevelOperations::Commands::UpdateClipsCommandParams>
 {
 public:
-    /// As To(), but throws BadValue for what ends the process there.
+    /// Like To(), but throws BadValue where To() ends the process.
     ConversionResult ToOrThrow(Generated::UpdateClipsCommandParams const& source,
                                HighLevelOperations::Commands::UpdateClipsCommandParams& destination) const;
 

@@ -29,7 +29,7 @@ ConversionResult ThriftToUpdatePlaylistsCommandParamsConverter::ToOrThrow(
         ReserveMore(destination.params, source.params.size());
         for (std::size_t i = 0; i < source.params.size(); ++i)
         {
-            // The flags inside are not read, and the playlists' results are dropped.
+            // The flags inside are ignored, and so are the playlists' results.
             auto const& wireParams = source.params[i];
             auto& params = destination.params.emplace_back();
             std::ignore =

@@ -17,17 +17,17 @@ class UpdatePlaylistsCommandParams;
 
 /// Reads a domain `UpdatePlaylistsCommandParams` from the wire record `UpdatePlaylistsCommandParams`. It can't fail.
 ///
-/// The identifier is taken whether its flag is set or not. The destination's list is replaced by the one that was sent,
-/// or emptied. Flags inside its records are not read, and what a nested conversion reports is not looked at: the record
-/// keeps what was applied.
+/// The identifier is read regardless of its flag. The list replaces the destination's; if its flag is clear, the
+/// destination's list is emptied. Flags inside its records are ignored, and so are the results of nested conversions: a
+/// record keeps what was applied before a failure.
 ///
-/// Ends the process: what ends it in ThriftToPlaylistConverter.
+/// Ends the process: anything that ends it in ThriftToPlaylistConverter.
 class ThriftToUpdatePlaylistsCommandParamsConverter
     : public Converter<Generated::UpdatePlaylistsCommandParams,
                        HighLevelOperations::Commands::UpdatePlaylistsCommandParams>
 {
 public:
-    /// As To(), but throws BadValue for what ends the process there.
+    /// Like To(), but throws BadValue where To() ends the process.
     ConversionResult ToOrThrow(Generated::UpdatePlaylistsCommandParams const& source,
                                HighLevelOperations::Commands::UpdatePlaylistsCommandParams& destination) const;
 

@@ -12,7 +12,7 @@
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Detail
 {
 
-/// A boundary can't fail on its way out.
+/// Writing a boundary can't fail, so the result is ignored.
 inline void SendBoundary(Corvane::Data::Channels::Boundary const& source,
                          Data::Channels::Generated::LoadBoundary& destination) noexcept
 {
@@ -20,7 +20,7 @@ inline void SendBoundary(Corvane::Data::Channels::Boundary const& source,
     std::ignore = loadBoundaryConverter.To(source, destination);
 }
 
-/// A boundary that is refused reads as a new one.
+/// Reads a boundary. One that is rejected reads as a new boundary.
 inline Corvane::Data::Channels::Boundary ReadBoundary(Data::Channels::Generated::LoadBoundary const& source) noexcept
 {
     static Data::Channels::ThriftToLoadBoundaryConverter const loadBoundaryConverter;

@@ -8,7 +8,7 @@
 namespace Talvo::Corvane::Data::Generated
 {
 
-// Orders the keys of the wire's sets and maps: unsigned bytes first, then length, whatever the flags say.
+// Orders the keys of the wire's sets and maps: by unsigned bytes, then by length, regardless of the flags.
 bool Guid::operator<(Guid const& other) const
 {
     return value < other.value;

@@ -16,7 +16,7 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data
 {
 
 /// Writes the sixteen bytes of a domain `Guid`, in their order, into the wire record `Guid`. It can't fail. The empty
-/// identifier travels like any other.
+/// identifier is written like any other.
 class GuidToThriftConverter : public Converter<Corvane::Data::Guid, Corvane::Data::Generated::Guid>
 {
 public:

@@ -15,8 +15,8 @@ class MultiviewerDataOverrides;
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data
 {
 
-/// Replaces the players of the wire record `MultiviewerDataOverrides` by those of a domain `MultiviewerDataOverrides`,
-/// in their order. It can't fail.
+/// Replaces the players of the wire record `MultiviewerDataOverrides` with those of a domain
+/// `MultiviewerDataOverrides`, in their order. It can't fail.
 class FromMultiviewerDataOverrides
     : public Converter<Multiviewer::MultiviewerDataOverrides, Corvane::Data::Generated::MultiviewerDataOverrides>
 {

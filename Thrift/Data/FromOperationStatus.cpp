@@ -17,7 +17,7 @@ ConversionResult
 OperationStatusToThriftConverter::To(OperationStatus const& source,
                                      Corvane::Data::Generated::OperationStatus& destination) const noexcept
 {
-    // Exactly one field is written. The other keeps value and flag, also in a destination that is used again.
+    // Exactly one field is written. The other keeps its value and flag, in a reused destination too.
     if (source.status == OperationStatus::Status::Failed)
         TALVO_FLAGGED(destination, result) = OperationResultConverter::To(source.result);
     else

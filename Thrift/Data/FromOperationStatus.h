@@ -17,8 +17,8 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data
 
 /// Writes a domain `OperationStatus` into one field of the wire record `OperationStatus`. It can't fail.
 ///
-/// A `Failed` status sends its `result`, any other one its `status`; the field not chosen keeps value and flag. The
-/// result of a status that is not `Failed` is lost.
+/// A `Failed` status is written as its `result`, any other as its `status`; the other field keeps its value and flag.
+/// The result of a status that is not `Failed` is lost.
 class OperationStatusToThriftConverter
     : public Converter<Corvane::Data::OperationStatus, Corvane::Data::Generated::OperationStatus>
 {

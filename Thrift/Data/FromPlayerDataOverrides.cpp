@@ -18,7 +18,7 @@ namespace Generated = Corvane::Data::Generated;
 namespace
 {
 
-/// An unknown mode leaves the wire's value as it was.
+/// An unknown mode leaves the wire's value unchanged.
 void Send(ControlType const mode, Generated::ControlMode::type& destination) noexcept
 {
     switch (mode)
@@ -35,7 +35,7 @@ void Send(ControlType const mode, Generated::ControlMode::type& destination) noe
     }
 }
 
-/// An unknown mode leaves the wire's value as it was.
+/// An unknown mode leaves the wire's value unchanged.
 void Send(ProgramType const mode, Generated::ProgramMode::type& destination) noexcept
 {
     switch (mode)
@@ -60,7 +60,7 @@ ConversionResult FromPlayerDataOverrides::To(Multiviewer::PlayerDataOverrides co
 
     if (auto const result = toGuid.To(source.PlayerGuid(), destination.playerGuid); !result.success)
         return Nested(result);
-    // Each flag follows its override, also to false: a record that is used again keeps no stale one.
+    // Each flag is set or cleared with its override, so a reused record keeps no stale override.
     if (isset.clipCreationIn = boundaries.TimePointIn().HasValue(); isset.clipCreationIn)
         destination.clipCreationIn = boundaries.TimePointIn().Value().position;
     if (isset.clipCreationOut = boundaries.TimePointOut().HasValue(); isset.clipCreationOut)

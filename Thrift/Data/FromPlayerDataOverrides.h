@@ -17,10 +17,10 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data
 
 /// Writes a domain `PlayerDataOverrides` into the wire record `PlayerDataOverrides`. It can't fail.
 ///
-/// An override that is missing clears the flag of its wire field, so a record that is used again keeps no stale one. A
-/// control or program mode outside its enumeration sets the flag and leaves the wire's value as it was.
+/// A missing override clears the flag of its wire field, so a reused record keeps no stale override. A control or
+/// program mode outside its enumeration sets the flag and leaves the wire's value unchanged.
 ///
-/// Lost on the way: `reservedValueA` and `reservedValueB`.
+/// Lost: `reservedValueA` and `reservedValueB`.
 class FromPlayerDataOverrides
     : public Converter<Multiviewer::PlayerDataOverrides, Corvane::Data::Generated::PlayerDataOverrides>
 {

@@ -11,7 +11,7 @@
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Detail
 {
 
-// An identifier can't fail in either direction, so what its conversion reports is not looked at here.
+// The conversion of an identifier can't fail in either direction, so its result is ignored here.
 
 inline void SendGuid(Corvane::Data::Guid const& source, Corvane::Data::Generated::Guid& destination) noexcept
 {

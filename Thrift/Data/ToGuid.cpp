@@ -19,7 +19,7 @@ ConversionResult ThriftToGuidConverter::To(Corvane::Data::Generated::Guid const&
 {
     if (source.__isset.value)
     {
-        // The constructor judges the length as it arrived; only one that does not fit its parameter is cut.
+        // The constructor handles every length; only one that does not fit its parameter type is limited here.
         constexpr std::size_t most = std::numeric_limits<unsigned int>::max();
         auto const size = static_cast<unsigned int>(std::min(source.value.size(), most));
         destination = Guid(reinterpret_cast<unsigned char const*>(source.value.data()), size);

@@ -15,8 +15,8 @@ class Guid;
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data
 {
 
-/// Replaces a domain `Guid` by the bytes of the wire record `Guid`, or by `Guid::Empty()` when its flag is clear. It
-/// can't fail: its constructor takes the first sixteen bytes of a longer value, and fills a shorter one with zeros.
+/// Replaces a domain `Guid` with the bytes of the wire record `Guid`, or with `Guid::Empty()` when its flag is clear.
+/// It can't fail. A longer value is cut to its first sixteen bytes, and a shorter one is filled with zeros.
 class ThriftToGuidConverter : public Converter<Corvane::Data::Generated::Guid, Corvane::Data::Guid>
 {
 public:

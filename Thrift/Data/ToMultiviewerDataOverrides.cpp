@@ -18,7 +18,7 @@ ConversionResult ToMultiviewerDataOverrides::To(Corvane::Data::Generated::Multiv
 {
     ToPlayerDataOverrides const toPlayer;
 
-    // The destination decides how many players there are.
+    // The destination determines the number of players.
     if (source.playersData.size() != destination.playerCount) return Failure("Unexpected playerData count");
     for (std::uint32_t i = 0; i < destination.playerCount; ++i)
     {

@@ -16,9 +16,9 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data
 {
 
 /// Applies the players of the wire record `MultiviewerDataOverrides` to those of a domain `MultiviewerDataOverrides`,
-/// in their order, each as ToPlayerDataOverrides does. The destination decides how many there are.
+/// in their order, each with ToPlayerDataOverrides. The destination determines their number.
 ///
-/// Failure: "Unexpected playerData count" when the wire holds another number; the destination is then unchanged.
+/// Failure: "Unexpected playerData count" when the wire has a different number; the destination is then unchanged.
 class ToMultiviewerDataOverrides
     : public Converter<Corvane::Data::Generated::MultiviewerDataOverrides, Multiviewer::MultiviewerDataOverrides>
 {

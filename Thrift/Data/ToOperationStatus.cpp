@@ -35,8 +35,8 @@ OperationStatus FromResult(OperationResult const result) noexcept
     {
     case OperationResult::Success:
         return {OperationStatus::Status::Succeeded, result};
-    // Not Failed: an unknown result alone says that nothing was started, though a Failed status with that result sends
-    // the same record. Peers rely on it.
+    // Not Failed: an unknown result alone means that nothing was started, although a Failed status with that result is
+    // written as the same record. Peers rely on this.
     case OperationResult::Unknown:
         return {OperationStatus::Status::NotStarted, result};
     default:

@@ -15,12 +15,12 @@ class OperationStatus;
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data
 {
 
-/// Reads a domain `OperationStatus` from the wire record `OperationStatus`, of whose two fields one travels. It can't
-/// fail.
+/// Reads a domain `OperationStatus` from the wire record `OperationStatus`, which carries one of its two fields. It
+/// can't fail.
 ///
 /// | Sent | Value | `status` | `result` |
 /// |---|---|---|---|
-/// | `status` (a `result` beside it is ignored) | `Succeeded` | `Succeeded` | `Success` |
+/// | `status` (a `result` is then ignored) | `Succeeded` | `Succeeded` | `Success` |
 /// | | `Failed` | `Failed` | `DefaultError` |
 /// | | any other | the value | `Unknown` |
 /// | `result` alone | `Success` | `Succeeded` | `Success` |

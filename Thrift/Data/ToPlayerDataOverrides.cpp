@@ -18,7 +18,7 @@ namespace Generated = Corvane::Data::Generated;
 namespace
 {
 
-/// An unknown mode calls no setter.
+/// Sets the mode. An unknown mode is ignored.
 void ReadControlMode(Generated::ControlMode::type const mode, Multiviewer::PlayerDataOverrides& destination)
 {
     switch (mode)
@@ -35,7 +35,7 @@ void ReadControlMode(Generated::ControlMode::type const mode, Multiviewer::Playe
     }
 }
 
-/// An unknown mode calls no setter.
+/// Sets the mode. An unknown mode is ignored.
 void ReadProgramMode(Generated::ProgramMode::type const mode, Multiviewer::PlayerDataOverrides& destination)
 {
     switch (mode)

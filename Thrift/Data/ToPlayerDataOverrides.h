@@ -15,9 +15,9 @@ class PlayerDataOverrides;
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data
 {
 
-/// Applies the wire record `PlayerDataOverrides` to a domain `PlayerDataOverrides`: the player always, the overrides
-/// whose flag is set. It can't fail. An override whose flag is clear stays as it was, and so does one whose control or
-/// program mode is unknown.
+/// Applies the wire record `PlayerDataOverrides` to a domain `PlayerDataOverrides`: always the player, and the
+/// overrides whose flag is set. It can't fail. An override is unchanged if its flag is clear or its control or program
+/// mode is unknown.
 class ToPlayerDataOverrides
     : public Converter<Corvane::Data::Generated::PlayerDataOverrides, Multiviewer::PlayerDataOverrides>
 {

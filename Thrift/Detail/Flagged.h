@@ -1,5 +1,5 @@
 #pragma once
 
-/// The field of a wire record, with its flag set: `TALVO_FLAGGED(destination, camera) = ...` stores value and flag in
-/// one row. A macro, since the flags are bit-fields, to which no reference can be bound.
+/// Sets the flag of a wire record's field and gives the field: `TALVO_FLAGGED(destination, camera) = ...` stores value
+/// and flag in one line. It is a macro because the flags are bit-fields, to which references can't bind.
 #define TALVO_FLAGGED(record, field) ((record).__isset.field = true, (record).field)

@@ -11,8 +11,8 @@
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Detail
 {
 
-/// Makes room for `count` more elements at once, growing as push_back would, so that lists that are appended to again
-/// and again stay linear.
+/// Reserves room for `count` more elements, growing at least as much as push_back, so that repeated appending stays
+/// linear.
 template<typename T>
 void ReserveMore(std::vector<T>& list, std::size_t const count)
 {
@@ -20,15 +20,15 @@ void ReserveMore(std::vector<T>& list, std::size_t const count)
     if (size > list.capacity()) list.reserve(std::max(size, 2 * list.capacity()));
 }
 
-/// Makes room for the items that a reply's cursor still has to give, where the reply tells how many.
+/// Reserves room for the remaining items of a reply's cursor, if the reply reports their number.
 template<typename T>
 void ReserveFor(std::vector<T>& list, auto const& reply)
 {
     if constexpr (requires { reply.RemainingCount(); }) ReserveMore(list, reply.RemainingCount());
 }
 
-/// Converts every element of `source`, the list `field`, into a new one after those that `destination` holds. The first
-/// that fails ends it with its failure: it is not added, those before it are kept.
+/// Converts every element of `source`, the list `field`, and appends it to `destination`. The first failure ends the
+/// conversion and is returned: the failed element is not added, those before it are kept.
 template<typename TConverter, typename TSource, typename TDestination>
 Common::Serialization::ConversionResult AppendEach(char const* const field, TConverter const& converter,
                                                    std::vector<TSource> const& source,
@@ -46,7 +46,8 @@ Common::Serialization::ConversionResult AppendEach(char const* const field, TCon
     return Success();
 }
 
-/// As AppendEach(), but the results of the elements are dropped: one that fails is added with what was converted of it.
+/// Like AppendEach(), but ignores the results of the elements: one that fails is added with what was converted before
+/// the failure.
 template<typename TConverter, typename TSource, typename TDestination>
 void AppendAll(char const* const field, TConverter const& converter, std::vector<TSource> const& source,
                std::vector<TDestination>& destination)

@@ -69,15 +69,15 @@ private:
     std::string const* key_ = nullptr;
 };
 
-/// A function of its own, so that a conversion pays nothing for the path of a value that is good.
+/// A separate function, so that conversions of valid values do not pay for building the path.
 [[noreturn, gnu::cold, gnu::noinline]] inline void ThrowWithin(PathStep const& step, BadValue const& badValue)
 {
     throw BadValue(step.Text().append(".").append(badValue.Path()), badValue.Reason());
 }
 
-/// Converts a nested record of a record that is read. Converters to the domain call each other only so, except for
-/// identifiers and load boundaries, in which no value ends the process. A BadValue is thrown on with the step to the
-/// nested record added to its path.
+/// Converts a nested record to the domain. Converters to the domain call each other only through this function, except
+/// those of identifiers and load boundaries, in which no value ends the process. A BadValue is rethrown with the step
+/// to the nested record added to its path.
 template<typename TConverter, typename TSource, typename TDestination>
 Common::Serialization::ConversionResult Read(PathStep const& step, TConverter const& converter, TSource const& source,
                                              TDestination& destination)
@@ -97,7 +97,7 @@ Common::Serialization::ConversionResult Read(PathStep const& step, TConverter co
         return converter.To(source, destination);
 }
 
-/// What `make` returns. Where it throws since the value of a field is invalid, that is a BadValue.
+/// Returns what `make` returns. Converts an exception that `make` throws for an invalid value of `field` to a BadValue.
 template<typename TMake>
 auto OrBadValue(char const* const field, TMake const& make)
 {
@@ -111,8 +111,8 @@ auto OrBadValue(char const* const field, TMake const& make)
     }
 }
 
-/// The body of `To` in a converter that has `ToOrThrow`. The exception is caught here, so that whoever asks why the
-/// process ended finds it whatever the compiler has inlined.
+/// The body of `To` in a converter that has `ToOrThrow`. The exception is caught here so that the terminate handler
+/// finds it, regardless of what the compiler has inlined.
 template<typename TConverter, typename TSource, typename TDestination>
 Common::Serialization::ConversionResult ToOrTerminate(TConverter const& converter, TSource const& source,
                                                       TDestination& destination) noexcept

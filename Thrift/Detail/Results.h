@@ -8,7 +8,7 @@
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Detail
 {
 
-/// Costs no allocation.
+/// A successful result, made without allocation.
 inline Common::Serialization::ConversionResult Success() noexcept
 {
     return {true, {}};
@@ -19,7 +19,7 @@ inline Common::Serialization::ConversionResult Failure(std::string message) noex
     return {false, std::move(message)};
 }
 
-/// Passes a nested failure up: the same text with no prefix, read as a NUL-terminated one.
+/// Returns a nested failure to the caller: the same text without a prefix, up to its first NUL.
 inline Common::Serialization::ConversionResult Nested(Common::Serialization::ConversionResult const& failure)
 {
     return Failure(failure.message.c_str());

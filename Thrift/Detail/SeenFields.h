@@ -3,11 +3,11 @@
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Detail
 {
 
-/// Remembers whether any field of a wire record was there, which decides the "is empty" failures.
+/// Records whether any field of a wire record is set, which decides the "is empty" failures.
 class SeenFields
 {
 public:
-    /// Counts a field by its flag, and gives the flag back.
+    /// Records the flag of a field and returns it.
     bool operator()(bool const isSet) noexcept
     {
         any_ = any_ || isSet;

@@ -6,8 +6,8 @@
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Detail
 {
 
-/// Replaces `destination` by `Size` characters. One without the room becomes a new string, which costs a third less than
-/// growing it does.
+/// Replaces `destination` with `Size` characters. A destination with too little capacity becomes a new string, which
+/// takes a third less time than growing it.
 template<std::size_t Size>
 void Assign(std::string& destination, char const* const source)
 {

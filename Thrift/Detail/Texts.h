@@ -13,7 +13,7 @@
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Detail
 {
 
-/// The text of a bounded array: up to its first zero, or all of it.
+/// The text of a bounded array: up to its first zero, or the whole array.
 template<std::size_t Size>
 std::string_view UntilNul(std::array<char, Size> const& text) noexcept
 {
@@ -24,13 +24,13 @@ std::string_view UntilNul(std::array<char, Size> const& text) noexcept
 template<std::size_t Size>
 void FillFrom(std::string const& source, char* const destination) noexcept
 {
-    if (source.size() >= Size) // most texts: a copy of constant length costs next to nothing
+    if (source.size() >= Size) // the usual case: a copy of constant length is cheap
         std::copy_n(source.data(), Size, destination);
     else
         std::fill(std::copy(source.begin(), source.end(), destination), destination + Size, '\0');
 }
 
-/// Replaces a bounded text, which always ends with a zero: a longer one is cut, the rest is filled with zeros.
+/// Replaces a bounded text, which always ends with a zero: a longer text is cut, a shorter one is filled with zeros.
 template<std::size_t Size>
 void AssignBounded(std::array<char, Size>& destination, std::string const& source) noexcept
 {
@@ -38,7 +38,8 @@ void AssignBounded(std::array<char, Size>& destination, std::string const& sourc
     destination.back() = '\0';
 }
 
-/// Sends a text slot: its whole payload, blanks and zeros included, and the slot's own flag. Never transcoded.
+/// Writes a text slot: its whole payload, including blanks and zeros, and the slot's own flag. The text is not
+/// transcoded.
 template<std::size_t Size>
 void SendSlot(Corvane::Data::FixedText<Size> const& source, Data::Clips::Generated::AsciiOrUtf16String& destination)
 {
@@ -48,8 +49,8 @@ void SendSlot(Corvane::Data::FixedText<Size> const& source, Data::Clips::Generat
     destination.__isset.isUtf16 = true;
 }
 
-/// Replaces a text slot as a whole, whatever the inner flags say: a longer text is cut, even in the middle of a UTF-16
-/// code unit, a shorter one is filled with zeros.
+/// Replaces a whole text slot, regardless of the inner flags: a longer text is cut, even in the middle of a UTF-16 code
+/// unit, a shorter one is filled with zeros.
 template<std::size_t Size>
 void ReadSlot(Data::Clips::Generated::AsciiOrUtf16String const& source, Corvane::Data::FixedText<Size>& destination)
 {

@@ -11,24 +11,24 @@
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Detail
 {
 
-// Out: `WriteTimeCode(timeCode, text)` writes straight into the wire's string. In, where a bad text has to be noticed:
-// `ReadTimeCode(text)` gives nothing for it.
+// To the wire: `WriteTimeCode(timeCode, text)` writes directly into the wire's string. From the wire, where an invalid
+// text has to be detected: `ReadTimeCode(text)` returns nothing for it.
 using TimePoints::ReadTimeCode;
 using TimePoints::WriteTimeCode;
 
-/// Unguarded in: a bad text is a BadValue, which ends the process in `To`.
+/// Reads a time code unguarded: an invalid text is a BadValue, which ends the process in `To`.
 inline TimePoints::TimeCode ParseTimeCode(char const* const field, std::string const& text)
 {
     return OrBadValue(field, [&] { return TimePoints::TalvoTimeCodeParser().Parse(text); });
 }
 
-/// Guarded in: a bad text is skipped, and the destination keeps its value.
+/// Reads a time code guarded: an invalid text is skipped, and the destination keeps its value.
 inline void AssignGuarded(TimePoints::TimeCode& destination, std::string const& text) noexcept
 {
     if (auto const timeCode = ReadTimeCode(text)) destination = *timeCode;
 }
 
-/// Empty time codes and time points stay off the wire in optional fields.
+/// Whether a time code is not empty. Optional fields do not carry empty time codes and time points.
 inline bool IsPresent(TimePoints::TimeCode const& timeCode) noexcept
 {
     return timeCode != TimePoints::TimeCode();

@@ -5,19 +5,19 @@
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Detail
 {
 
-/// A 32-bit domain number as the 64-bit wire number: zero-extended, never negative.
+/// Converts a 32-bit domain number to a 64-bit wire number: zero-extended, never negative.
 constexpr std::int64_t Widened(std::uint32_t const value) noexcept
 {
     return value;
 }
 
-/// A 64-bit wire number as the 32-bit domain number: the high word is lost.
+/// Converts a 64-bit wire number to a 32-bit domain number: the high word is lost.
 constexpr std::uint32_t LowWord(std::int64_t const value) noexcept
 {
     return static_cast<std::uint32_t>(value);
 }
 
-/// Whether an enumeration holds anything but the number 0, which stays off the wire in optional fields.
+/// Whether an enumeration is not 0. Optional fields do not carry the number 0.
 template<typename Enumeration>
 constexpr bool IsNonZero(Enumeration const value) noexcept
 {

@@ -19,18 +19,18 @@
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Detail
 {
 
-// The frame of the clip events. Going out, an event converts its clip command block, then its clips, each with a flag of
-// its own, then its other fields. Coming in, it tests its required flags, converts its clips into new ones, builds an
-// event around them, takes it over, and only then reads the clip command block into the destination: a block that fails
-// leaves the event with the placeholders and everything else filled in. The database revision is read whether set or
-// not.
+// Shared code of the clip events. To the wire, an event's clip command block is converted first, then its clips, each
+// with its own flag, then its other fields. From the wire, the required flags are tested, the clips are converted to
+// new ones, a new event is built from them and replaces the destination, and only then the clip command block is read
+// into the destination: if the block fails, the event holds placeholders for it and everything else. The database
+// revision is read regardless of its flag.
 
-/// Converts the nested records of an event one after the other. The first that fails ends it: those after it are not
-/// converted, and `Result()` is its failure. Each conversion says whether it succeeded.
+/// Converts the nested records of an event one after the other. After the first failure no further record is converted,
+/// and `Result()` returns that failure. Each function returns whether all conversions so far succeeded.
 class NestedRecords
 {
 public:
-    /// The event's base, its clip command block, to the wire.
+    /// Writes the event's clip command block, which is its base class.
     bool SendCommand(Notification::ClipCommandEventArgs const& source,
                      Notifier::Generated::ClipCommandEventArgs& destination)
     {
@@ -38,14 +38,14 @@ public:
         return result_.success;
     }
 
-    /// A clip to the wire.
+    /// Writes a clip.
     bool SendClip(Corvane::Data::Clips::Clip const& source, Data::Clips::Generated::Clip& destination)
     {
         if (result_.success) result_ = Data::Clips::ClipToThriftConverter().To(source, destination);
         return result_.success;
     }
 
-    /// The clip of a field from the wire.
+    /// Reads the clip of a field.
     bool ReadClip(char const* const field, Data::Clips::Generated::Clip const& source,
                   Corvane::Data::Clips::Clip& destination)
     {
@@ -53,7 +53,7 @@ public:
         return result_.success;
     }
 
-    /// The clip command block from the wire, into the event's base.
+    /// Reads the clip command block into the event's base class.
     bool ReadCommand(char const* const field, Notifier::Generated::ClipCommandEventArgs const& source,
                      Notification::ClipCommandEventArgs& destination)
     {
@@ -68,8 +68,8 @@ private:
     Common::Serialization::ConversionResult result_ = Success();
 };
 
-/// An event with placeholders for its clip command block, but for the database revision; `arguments` are those behind
-/// the block.
+/// Builds an event with placeholders for its clip command block, except for the database revision; `arguments` are the
+/// constructor arguments after the block.
 template<typename TEvent, typename... TArguments>
 TEvent EventWithPlaceholders(std::int64_t const databaseRevision, TArguments&&... arguments)
 {
@@ -77,7 +77,7 @@ TEvent EventWithPlaceholders(std::int64_t const databaseRevision, TArguments&&..
                   std::forward<TArguments>(arguments)...);
 }
 
-/// The internal result of a failed event: -1 where it was not sent.
+/// The internal result of a failed event, -1 if it was not sent.
 template<typename TWireEvent>
 std::int16_t InternalResult(TWireEvent const& source) noexcept
 {

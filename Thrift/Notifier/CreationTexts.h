@@ -14,8 +14,8 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Detail
 using CreationType = Notification::ClipCreationEventArgs::CreationType;
 using NetworkType = Notification::ClipCreationEventArgs::NetworkType;
 
-// The words of the wire, each at the number of its enumerator. Case counts. A number beyond them goes out as "Unknown",
-// any other word comes in as `Unknown`.
+// The words on the wire, each at the index of its enumerator. They are case-sensitive. A number without a word is
+// written as "Unknown", and an unknown word reads as `Unknown`.
 inline constexpr std::array<std::string_view, 5> CreationWords{"Make", "Copy", "ZarfRestore", "GbeRestore", "Unknown"};
 inline constexpr std::array<std::string_view, 6> NetworkWords{"Sdti",     "Gbe",     "Unknown",
                                                               "PushSdti", "PushGbe", "PushUnknown"};

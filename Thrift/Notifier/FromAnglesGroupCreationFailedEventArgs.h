@@ -16,9 +16,9 @@ class AnglesGroupCreationFailedEventArgs;
 } // namespace Generated
 
 /// Writes a domain `AnglesGroupCreationFailedEventArgs` into the wire record `AnglesGroupCreationFailedEventArgs`. It
-/// can't fail. There is no way back: no converter reads this record.
+/// can't fail. No converter reads this record.
 ///
-/// Lost on the way: a `result` outside its table, which travels as `Success`.
+/// Lost: a `result` outside its table, which is written as `Success`.
 class AnglesGroupCreationFailedEventArgsToThriftConverter
     : public Converter<Notification::AnglesGroupCreationFailedEventArgs, Generated::AnglesGroupCreationFailedEventArgs>
 {

@@ -16,7 +16,7 @@ class AnglesGroupDeletionFinishedEventArgs;
 } // namespace Generated
 
 /// Writes a domain `AnglesGroupDeletionFinishedEventArgs` into the wire record `AnglesGroupDeletionFinishedEventArgs`.
-/// It can't fail. The fields of its `deletionEventArgs` are written.
+/// It can't fail. It writes the fields of its `deletionEventArgs`.
 class AnglesGroupDeletionFinishedEventArgsToThriftConverter
     : public Converter<Notification::AnglesGroupDeletionFinishedEventArgs,
                        Generated::AnglesGroupDeletionFinishedEventArgs>

@@ -16,7 +16,7 @@ class AnglesGroupUpdateFinishedEventArgs;
 } // namespace Generated
 
 /// Writes a domain `AnglesGroupUpdateFinishedEventArgs` into the wire record `AnglesGroupUpdateFinishedEventArgs`. It
-/// can't fail. The fields of its `updateEventArgs` are written.
+/// can't fail. It writes the fields of its `updateEventArgs`.
 class AnglesGroupUpdateFinishedEventArgsToThriftConverter
     : public Converter<Notification::AnglesGroupUpdateFinishedEventArgs, Generated::AnglesGroupUpdateFinishedEventArgs>
 {

@@ -17,7 +17,7 @@ class ClipCommandEventArgs;
 
 /// Writes a domain `ClipCommandEventArgs` into the wire record `ClipCommandEventArgs`. It can't fail.
 ///
-/// The source of the request travels as a word, "Local", "Network" or "Unknown". The database revision is a field of
+/// The source of the request is written as a word, "Local", "Network" or "Unknown". The database revision is a field of
 /// the enclosing event.
 class ClipCommandEventArgsToThriftConverter
     : public Converter<Notification::ClipCommandEventArgs, Generated::ClipCommandEventArgs>

@@ -26,8 +26,8 @@ ClipCreationFailedEventArgsToThriftConverter::To(Notification::ClipCreationFaile
     if (auto result = nested.Result(); !result.success) return result;
     TALVO_FLAGGED(destination, creationType) = Word(source.creationType);
     TALVO_FLAGGED(destination, networkType) = Word(source.networkType);
-    // The internal result does not travel, as it does in other failures: its field and flag stay as they are. Peers rely
-    // on it.
+    // Unlike in other failed events, the internal result is not written: its field and flag are unchanged. Peers rely
+    // on this.
     TALVO_FLAGGED(destination, result) = Data::OperationResultConverter::To(source.result);
     TALVO_FLAGGED(destination, databaseRevision) = source.databaseRevision;
     return Success();

@@ -17,9 +17,9 @@ class ClipCreationFailedEventArgs;
 
 /// Writes a domain `ClipCreationFailedEventArgs` into the wire record `ClipCreationFailedEventArgs`. It can't fail.
 ///
-/// Lost on the way: `internalResult`. Its field and flag are left as they are: a converter that is given the new record
-/// reads -1, one that is given what a peer read from its bytes reads 0, since all fields but optional ones are written;
-/// a `result` outside its table, which travels as `Success`; what ClipToThriftConverter loses.
+/// Lost: `internalResult`. Its field and flag are unchanged: converting the new record back gives -1, but converting a
+/// record that was read from its bytes gives 0, since all fields except optional ones are written; a `result` outside
+/// its table, which is written as `Success`; what ClipToThriftConverter loses.
 class ClipCreationFailedEventArgsToThriftConverter
     : public Converter<Notification::ClipCreationFailedEventArgs, Generated::ClipCreationFailedEventArgs>
 {

@@ -17,7 +17,7 @@ class ClipCreationFinishedEventArgs;
 
 /// Writes a domain `ClipCreationFinishedEventArgs` into the wire record `ClipCreationFinishedEventArgs`. It can't fail.
 ///
-/// Lost on the way: what ClipToThriftConverter loses.
+/// Lost: what ClipToThriftConverter loses.
 class ClipCreationFinishedEventArgsToThriftConverter
     : public Converter<Notification::ClipCreationFinishedEventArgs, Generated::ClipCreationFinishedEventArgs>
 {

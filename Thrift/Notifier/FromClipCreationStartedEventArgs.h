@@ -17,7 +17,7 @@ class ClipCreationStartedEventArgs;
 
 /// Writes a domain `ClipCreationEventArgs` into the wire record `ClipCreationStartedEventArgs`. It can't fail.
 ///
-/// Lost on the way: what ClipToThriftConverter loses.
+/// Lost: what ClipToThriftConverter loses.
 class ClipCreationStartedEventArgsToThriftConverter
     : public Converter<Notification::ClipCreationEventArgs, Generated::ClipCreationStartedEventArgs>
 {

@@ -17,8 +17,8 @@ class ClipDeletionFailedEventArgs;
 
 /// Writes a domain `ClipDeletionFailedEventArgs` into the wire record `ClipDeletionFailedEventArgs`. It can't fail.
 ///
-/// Lost on the way: the two reserved bytes, which no wire field carries; a `result` outside its table, which travels as
-/// `Success`; what ClipToThriftConverter loses.
+/// Lost: the two reserved bytes, which have no wire field; a `result` outside its table, which is written as `Success`;
+/// what ClipToThriftConverter loses.
 class ClipDeletionFailedEventArgsToThriftConverter
     : public Converter<Notification::ClipDeletionFailedEventArgs, Generated::ClipDeletionFailedEventArgs>
 {

@@ -17,7 +17,7 @@ class ClipDeletionFinishedEventArgs;
 
 /// Writes a domain `ClipDeletionFinishedEventArgs` into the wire record `ClipDeletionFinishedEventArgs`. It can't fail.
 ///
-/// Lost on the way: the two reserved bytes, which no wire field carries; what ClipToThriftConverter loses.
+/// Lost: the two reserved bytes, which have no wire field; what ClipToThriftConverter loses.
 class ClipDeletionFinishedEventArgsToThriftConverter
     : public Converter<Notification::ClipDeletionFinishedEventArgs, Generated::ClipDeletionFinishedEventArgs>
 {

@@ -17,7 +17,7 @@ class ClipMoveFailedEventArgs;
 
 /// Writes a domain `ClipMoveFailedEventArgs` into the wire record `ClipMoveFailedEventArgs`. It can't fail.
 ///
-/// Lost on the way: a `result` outside its table, which travels as `Success`; what ClipToThriftConverter loses.
+/// Lost: a `result` outside its table, which is written as `Success`; what ClipToThriftConverter loses.
 class ClipMoveFailedEventArgsToThriftConverter
     : public Converter<Notification::ClipMoveFailedEventArgs, Generated::ClipMoveFailedEventArgs>
 {

@@ -17,7 +17,7 @@ class ClipMoveFinishedEventArgs;
 
 /// Writes a domain `ClipMoveFinishedEventArgs` into the wire record `ClipMoveFinishedEventArgs`. It can't fail.
 ///
-/// Lost on the way: what ClipToThriftConverter loses.
+/// Lost: what ClipToThriftConverter loses.
 class ClipMoveFinishedEventArgsToThriftConverter
     : public Converter<Notification::ClipMoveFinishedEventArgs, Generated::ClipMoveFinishedEventArgs>
 {

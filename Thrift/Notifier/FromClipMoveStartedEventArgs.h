@@ -17,7 +17,7 @@ class ClipMoveStartedEventArgs;
 
 /// Writes a domain `ClipMoveEventArgs` into the wire record `ClipMoveStartedEventArgs`. It can't fail.
 ///
-/// Lost on the way: what ClipToThriftConverter loses.
+/// Lost: what ClipToThriftConverter loses.
 class ClipMoveStartedEventArgsToThriftConverter
     : public Converter<Notification::ClipMoveEventArgs, Generated::ClipMoveStartedEventArgs>
 {

@@ -17,7 +17,7 @@ class ClipUpdateFailedEventArgs;
 
 /// Writes a domain `ClipUpdateFailedEventArgs` into the wire record `ClipUpdateFailedEventArgs`. It can't fail.
 ///
-/// Lost on the way: a `result` outside its table, which travels as `Success`; what ClipToThriftConverter loses.
+/// Lost: a `result` outside its table, which is written as `Success`; what ClipToThriftConverter loses.
 class ClipUpdateFailedEventArgsToThriftConverter
     : public Converter<Notification::ClipUpdateFailedEventArgs, Generated::ClipUpdateFailedEventArgs>
 {

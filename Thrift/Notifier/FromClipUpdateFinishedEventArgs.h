@@ -17,7 +17,7 @@ class ClipUpdateFinishedEventArgs;
 
 /// Writes a domain `ClipUpdateFinishedEventArgs` into the wire record `ClipUpdateFinishedEventArgs`. It can't fail.
 ///
-/// Lost on the way: what ClipToThriftConverter loses.
+/// Lost: what ClipToThriftConverter loses.
 class ClipUpdateFinishedEventArgsToThriftConverter
     : public Converter<Notification::ClipUpdateFinishedEventArgs, Generated::ClipUpdateFinishedEventArgs>
 {

@@ -19,7 +19,7 @@ ConversionResult MassClipDeletionFailedEventArgsToThriftConverter::To(
 {
     NestedRecords nested;
 
-    // One flag with the others: a block that fails leaves all of them as they were.
+    // The flag is set only after the block was converted, so a block that fails leaves all flags unchanged.
     if (!nested.SendCommand(source, destination.clipCommand)) return nested.Result();
     destination.__isset.clipCommand = true;
     TALVO_FLAGGED(destination, machineSerial) = Widened(source.machineSerial);

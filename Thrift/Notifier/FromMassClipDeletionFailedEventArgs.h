@@ -18,7 +18,7 @@ class MassClipDeletionFailedEventArgs;
 /// Writes a domain `MassClipDeletionFailedEventArgs` into the wire record `MassClipDeletionFailedEventArgs`. It can't
 /// fail.
 ///
-/// Lost on the way: a `result` outside its table, which travels as `Success`.
+/// Lost: a `result` outside its table, which is written as `Success`.
 class MassClipDeletionFailedEventArgsToThriftConverter
     : public Converter<Notification::MassClipDeletionFailedEventArgs, Generated::MassClipDeletionFailedEventArgs>
 {

@@ -17,7 +17,7 @@ class MassClipUpdateFailedEventArgs;
 
 /// Writes a domain `MassClipUpdateFailedEventArgs` into the wire record `MassClipUpdateFailedEventArgs`. It can't fail.
 ///
-/// Lost on the way: a `result` outside its table, which travels as `Success`.
+/// Lost: a `result` outside its table, which is written as `Success`.
 class MassClipUpdateFailedEventArgsToThriftConverter
     : public Converter<Notification::MassClipUpdateFailedEventArgs, Generated::MassClipUpdateFailedEventArgs>
 {

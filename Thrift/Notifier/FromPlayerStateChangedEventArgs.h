@@ -16,9 +16,9 @@ class PlayerStateChangedEventArgs;
 } // namespace Generated
 
 /// Writes a domain `PlayerStateChangedEventArgs` into the wire record `PlayerStateChangedEventArgs`. It can't fail.
-/// Event flags of 0 stay off the wire.
+/// Event flags of 0 are not written.
 ///
-/// Lost on the way: of `channelGuid` all but index and serial, and what PlayerStateToThriftConverter loses.
+/// Lost: everything in `channelGuid` except index and serial number, and what PlayerStateToThriftConverter loses.
 class PlayerStateChangedEventArgsToThriftConverter
     : public Converter<Notification::PlayerStateChangedEventArgs, Generated::PlayerStateChangedEventArgs>
 {

@@ -16,9 +16,9 @@ class RecorderStateChangedEventArgs;
 } // namespace Generated
 
 /// Writes a domain `RecorderStateChangedEventArgs` into the wire record `RecorderStateChangedEventArgs`. It can't fail.
-/// Event flags of 0 stay off the wire.
+/// Event flags of 0 are not written.
 ///
-/// Lost on the way: of `channelGuid` all but index and serial, and what RecorderStateToThriftConverter loses.
+/// Lost: everything in `channelGuid` except index and serial number, and what RecorderStateToThriftConverter loses.
 class RecorderStateChangedEventArgsToThriftConverter
     : public Converter<Notification::RecorderStateChangedEventArgs, Generated::RecorderStateChangedEventArgs>
 {

@@ -20,7 +20,7 @@ ConversionResult RecordingRangesChangedEventArgsToThriftConverter::To(
     Data::Clips::RecordingRangeToThriftConverter const fromRange;
 
     SendGuid(source.recorderId, TALVO_FLAGGED(destination, recorderId));
-    // Appended: a destination that holds ranges already keeps them in front.
+    // Appended: ranges that the destination already holds stay in front.
     AppendAll("recordingRanges", fromRange, source.recordingRanges, destination.recordingRanges);
     TALVO_FLAGGED(destination, isInBoundMoving) = source.isInBoundMoving;
     TALVO_FLAGGED(destination, isOutBoundMoving) = source.isOutBoundMoving;

@@ -18,10 +18,10 @@ class RecordingRangesChangedEventArgs;
 /// Writes a domain `RecordingRangesChangedEventArgs` into the wire record `RecordingRangesChangedEventArgs`. It can't
 /// fail.
 ///
-/// Ranges are appended to those that the destination holds, and the flag of `recordingRanges` says whether there is
-/// any.
+/// Ranges are appended to those in the destination; the flag of `recordingRanges` is set if the list is then not empty,
+/// else cleared.
 ///
-/// Lost on the way: what RecordingRangeToThriftConverter loses.
+/// Lost: what RecordingRangeToThriftConverter loses.
 class RecordingRangesChangedEventArgsToThriftConverter
     : public Converter<Notification::RecordingRangesChangedEventArgs, Generated::RecordingRangesChangedEventArgs>
 {

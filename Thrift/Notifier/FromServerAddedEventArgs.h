@@ -15,8 +15,8 @@ namespace Generated
 class ServerAddedEventArgs;
 } // namespace Generated
 
-/// Writes a domain `ServerAddedEventArgs` into the wire record `ServerAddedEventArgs`. It can't fail.
-/// The destination has to be new, since ServerInfoToThriftConverter appends its addresses.
+/// Writes a domain `ServerAddedEventArgs` into the wire record `ServerAddedEventArgs`. It can't fail. The destination
+/// has to be new, because ServerInfoToThriftConverter appends its addresses.
 class ServerAddedEventArgsToThriftConverter
     : public Converter<Notification::ServerAddedEventArgs, Generated::ServerAddedEventArgs>
 {

@@ -25,7 +25,7 @@ ConversionResult ThriftToAnglesGroupCreationEventArgsConverter::To(
         return Nested(result);
     destination =
         Notification::AnglesGroupCreationEventArgs(source.databaseRevision, Corvane::Data::Guid::Empty(), anglesGroup);
-    // Last: a block that fails leaves the event with everything else filled in.
+    // Converted last: if the block fails, everything else in the event is filled in.
     return Read("clipCommandEventArgs", thriftToClipCommandEventArgsConverter, source.clipCommandEventArgs,
                 destination);
 }

@@ -15,13 +15,13 @@ namespace Generated
 class AnglesGroupCreationEventArgs;
 } // namespace Generated
 
-/// Replaces a domain `AnglesGroupCreationEventArgs` by the wire record `AnglesGroupCreationEventArgs`. All fields are
+/// Replaces a domain `AnglesGroupCreationEventArgs` with the wire record `AnglesGroupCreationEventArgs`. All fields are
 /// required.
 ///
-/// Failure: "Missing fields for ClipCommand", from `clipCommandEventArgs`; the destination by then holds everything
-/// else, and placeholders.
+/// Failure: "Missing fields for ClipCommand", from `clipCommandEventArgs`; the destination then holds everything else,
+/// and placeholders for the clip command block.
 ///
-/// Lost on the way: what ThriftToClipCommandEventArgsConverter loses.
+/// Lost: what ThriftToClipCommandEventArgsConverter loses.
 class ThriftToAnglesGroupCreationEventArgsConverter
     : public Converter<Generated::AnglesGroupCreationEventArgs, Notification::AnglesGroupCreationEventArgs>
 {

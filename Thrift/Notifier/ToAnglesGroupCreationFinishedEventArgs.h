@@ -15,13 +15,14 @@ namespace Generated
 class AnglesGroupCreationFinishedEventArgs;
 } // namespace Generated
 
-/// Replaces a domain `AnglesGroupCreationFinishedEventArgs` by the wire record `AnglesGroupCreationFinishedEventArgs`,
-/// as ThriftToAnglesGroupCreationEventArgsConverter does with its `creationEventArgs`, the only field.
+/// Replaces a domain `AnglesGroupCreationFinishedEventArgs` with the wire record
+/// `AnglesGroupCreationFinishedEventArgs`, by converting its only field, `creationEventArgs`, with
+/// ThriftToAnglesGroupCreationEventArgsConverter.
 ///
-/// Failure: "Missing fields for ClipCommand", from the `clipCommandEventArgs` in it; the destination by then holds
-/// everything else, and placeholders.
+/// Failure: "Missing fields for ClipCommand", from the `clipCommandEventArgs` in it; the destination then holds
+/// everything else, and placeholders for the clip command block.
 ///
-/// Lost on the way: what ThriftToClipCommandEventArgsConverter loses.
+/// Lost: what ThriftToClipCommandEventArgsConverter loses.
 class ThriftToAnglesGroupCreationFinishedEventArgsConverter
     : public Converter<Generated::AnglesGroupCreationFinishedEventArgs,
                        Notification::AnglesGroupCreationFinishedEventArgs>

@@ -27,7 +27,7 @@ ConversionResult ThriftToAnglesGroupDeletionFinishedEventArgsConverter::To(
         return Nested(result);
     destination = Notification::AnglesGroupDeletionFinishedEventArgs(wireEvent.databaseRevision,
                                                                      Corvane::Data::Guid::Empty(), anglesGroupId);
-    // Last: a block that fails leaves the event with everything else filled in.
+    // Converted last: if the block fails, everything else in the event is filled in.
     return Read("deletionEventArgs.clipCommandEventArgs", thriftToClipCommandEventArgsConverter,
                 wireEvent.clipCommandEventArgs, destination);
 }

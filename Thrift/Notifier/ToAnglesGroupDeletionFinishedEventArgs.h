@@ -15,13 +15,13 @@ namespace Generated
 class AnglesGroupDeletionFinishedEventArgs;
 } // namespace Generated
 
-/// Replaces a domain `AnglesGroupDeletionFinishedEventArgs` by the wire record `AnglesGroupDeletionFinishedEventArgs`.
-/// All fields are required.
+/// Replaces a domain `AnglesGroupDeletionFinishedEventArgs` with the wire record
+/// `AnglesGroupDeletionFinishedEventArgs`. All fields are required.
 ///
-/// Failure: "Missing fields for ClipCommand", from `clipCommandEventArgs`; the destination by then holds everything
-/// else, and placeholders.
+/// Failure: "Missing fields for ClipCommand", from `clipCommandEventArgs`; the destination then holds everything else,
+/// and placeholders for the clip command block.
 ///
-/// Lost on the way: what ThriftToClipCommandEventArgsConverter loses.
+/// Lost: what ThriftToClipCommandEventArgsConverter loses.
 class ThriftToAnglesGroupDeletionFinishedEventArgsConverter
     : public Converter<Generated::AnglesGroupDeletionFinishedEventArgs,
                        Notification::AnglesGroupDeletionFinishedEventArgs>

@@ -27,7 +27,7 @@ ConversionResult ThriftToAnglesGroupUpdateFinishedEventArgsConverter::To(
         return Nested(result);
     destination = Notification::AnglesGroupUpdateFinishedEventArgs(wireEvent.databaseRevision,
                                                                    Corvane::Data::Guid::Empty(), anglesGroup);
-    // Last: a block that fails leaves the event with everything else filled in.
+    // Converted last: if the block fails, everything else in the event is filled in.
     return Read("updateEventArgs.clipCommandEventArgs", thriftToClipCommandEventArgsConverter,
                 wireEvent.clipCommandEventArgs, destination);
 }

@@ -15,13 +15,13 @@ namespace Generated
 class AnglesGroupUpdateFinishedEventArgs;
 } // namespace Generated
 
-/// Replaces a domain `AnglesGroupUpdateFinishedEventArgs` by the wire record `AnglesGroupUpdateFinishedEventArgs`. All
-/// fields are required.
+/// Replaces a domain `AnglesGroupUpdateFinishedEventArgs` with the wire record `AnglesGroupUpdateFinishedEventArgs`.
+/// All fields are required.
 ///
-/// Failure: "Missing fields for ClipCommand", from `clipCommandEventArgs`; the destination by then holds everything
-/// else, and placeholders.
+/// Failure: "Missing fields for ClipCommand", from `clipCommandEventArgs`; the destination then holds everything else,
+/// and placeholders for the clip command block.
 ///
-/// Lost on the way: what ThriftToClipCommandEventArgsConverter loses.
+/// Lost: what ThriftToClipCommandEventArgsConverter loses.
 class ThriftToAnglesGroupUpdateFinishedEventArgsConverter
     : public Converter<Generated::AnglesGroupUpdateFinishedEventArgs, Notification::AnglesGroupUpdateFinishedEventArgs>
 {

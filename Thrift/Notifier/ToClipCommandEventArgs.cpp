@@ -19,7 +19,7 @@ using RequestSource = Notification::ClipCommandEventArgs::RequestSource;
 namespace
 {
 
-/// Case counts, and any other word is unknown.
+/// Reads a request source. The words are case-sensitive; any other word reads as `Unknown`.
 RequestSource SourceOf(std::string_view const word) noexcept
 {
     if (word == "Local") return RequestSource::Local;
@@ -49,7 +49,7 @@ ThriftToClipCommandEventArgsConverter::To(Generated::ClipCommandEventArgs const&
     destination.localMachineSerial = LowWord(source.localMachineSerial);
     destination.operationNumber = static_cast<std::uint32_t>(source.operationNumber);
     destination.userTicket = static_cast<std::uint16_t>(source.userTicket);
-    destination.subCommandIndex = source.subCommandIndex; // whether its flag is set or not
+    destination.subCommandIndex = source.subCommandIndex; // regardless of its flag
     return Success();
 }
 

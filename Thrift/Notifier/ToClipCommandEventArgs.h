@@ -16,12 +16,12 @@ class ClipCommandEventArgs;
 } // namespace Generated
 
 /// Reads the clip command block of a domain event from the wire record `ClipCommandEventArgs`; its database revision is
-/// left alone.
+/// unchanged.
 ///
-/// Failure: "Missing fields for ClipCommand" when any flag but that of `subCommandIndex`, which is read whether set or
-/// not, is clear; the destination is then unchanged.
+/// Failure: "Missing fields for ClipCommand" when any flag except that of `subCommandIndex`, which is read regardless
+/// of its flag, is clear; the destination is then unchanged.
 ///
-/// Lost on the way: all but the low 32 bits of `localMachineSerial` and the low 16 of `userTicket`; any other word of a
+/// Lost: all but the low 32 bits of `localMachineSerial` and the low 16 bits of `userTicket`; an unknown word for the
 /// source reads as `Unknown`.
 class ThriftToClipCommandEventArgsConverter
     : public Converter<Generated::ClipCommandEventArgs, Notification::ClipCommandEventArgs>

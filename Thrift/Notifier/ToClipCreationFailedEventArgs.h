@@ -15,25 +15,25 @@ namespace Generated
 class ClipCreationFailedEventArgs;
 } // namespace Generated
 
-/// Replaces a domain `ClipCreationFailedEventArgs` by the wire record `ClipCreationFailedEventArgs`. The database
-/// revision is read whether set or not.
+/// Replaces a domain `ClipCreationFailedEventArgs` with the wire record `ClipCreationFailedEventArgs`. The database
+/// revision is read regardless of its flag.
 ///
 /// Failures:
 /// - "Incomplete ClipCreationFailedEventArgs - missing fields": the flag of `clipCommand`, `sourceClip`, `newClip`,
 ///   `creationType`, `networkType` or `result` is clear; the destination is then unchanged.
-/// - any of ThriftToClipConverter; the destination is then unchanged.
-/// - "Missing fields for ClipCommand": from `clipCommand`; the destination by then holds everything else, and
-///   placeholders.
+/// - any failure of ThriftToClipConverter; the destination is then unchanged.
+/// - "Missing fields for ClipCommand": from `clipCommand`; the destination then holds everything else, and placeholders
+///   for the clip command block.
 ///
-/// Ends the process: what ends it in ThriftToClipConverter.
+/// Ends the process: anything that ends it in ThriftToClipConverter.
 ///
-/// Lost on the way: other words of a creation or network type read as `Unknown`; case counts; an unknown `result` reads
-/// as `Success`; what ThriftToClipConverter and ThriftToClipCommandEventArgsConverter lose.
+/// Lost: unknown words for a creation or network type read as `Unknown` (words are case-sensitive); an unknown `result`
+/// reads as `Success`; what ThriftToClipConverter and ThriftToClipCommandEventArgsConverter lose.
 class ThriftToClipCreationFailedEventArgsConverter
     : public Converter<Generated::ClipCreationFailedEventArgs, Notification::ClipCreationFailedEventArgs>
 {
 public:
-    /// As To(), but throws BadValue for what ends the process there.
+    /// Like To(), but throws BadValue where To() ends the process.
     ConversionResult ToOrThrow(Generated::ClipCreationFailedEventArgs const& source,
                                Notification::ClipCreationFailedEventArgs& destination) const;
 

@@ -15,25 +15,25 @@ namespace Generated
 class ClipCreationFinishedEventArgs;
 } // namespace Generated
 
-/// Replaces a domain `ClipCreationFinishedEventArgs` by the wire record `ClipCreationFinishedEventArgs`. The database
-/// revision is read whether set or not.
+/// Replaces a domain `ClipCreationFinishedEventArgs` with the wire record `ClipCreationFinishedEventArgs`. The database
+/// revision is read regardless of its flag.
 ///
 /// Failures:
 /// - "Incomplete ClipCreationFinishedEventArgs - missing fields": the flag of `clipCommand`, `sourceClip`, `newClip`,
 ///   `creationType` or `networkType` is clear; the destination is then unchanged.
-/// - any of ThriftToClipConverter; the destination is then unchanged.
-/// - "Missing fields for ClipCommand": from `clipCommand`; the destination by then holds everything else, and
-///   placeholders.
+/// - any failure of ThriftToClipConverter; the destination is then unchanged.
+/// - "Missing fields for ClipCommand": from `clipCommand`; the destination then holds everything else, and placeholders
+///   for the clip command block.
 ///
-/// Ends the process: what ends it in ThriftToClipConverter.
+/// Ends the process: anything that ends it in ThriftToClipConverter.
 ///
-/// Lost on the way: other words of a creation or network type read as `Unknown`; case counts; what
+/// Lost: unknown words for a creation or network type read as `Unknown` (words are case-sensitive); what
 /// ThriftToClipConverter and ThriftToClipCommandEventArgsConverter lose.
 class ThriftToClipCreationFinishedEventArgsConverter
     : public Converter<Generated::ClipCreationFinishedEventArgs, Notification::ClipCreationFinishedEventArgs>
 {
 public:
-    /// As To(), but throws BadValue for what ends the process there.
+    /// Like To(), but throws BadValue where To() ends the process.
     ConversionResult ToOrThrow(Generated::ClipCreationFinishedEventArgs const& source,
                                Notification::ClipCreationFinishedEventArgs& destination) const;
 

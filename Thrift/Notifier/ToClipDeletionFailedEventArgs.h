@@ -15,26 +15,25 @@ namespace Generated
 class ClipDeletionFailedEventArgs;
 } // namespace Generated
 
-/// Replaces a domain `ClipDeletionFailedEventArgs` by the wire record `ClipDeletionFailedEventArgs`. The database
-/// revision is read whether set or not.
+/// Replaces a domain `ClipDeletionFailedEventArgs` with the wire record `ClipDeletionFailedEventArgs`. The database
+/// revision is read regardless of its flag.
 ///
 /// Failures:
 /// - "Incomplete ClipDeletionFailedEventArgs - missing fields": the flag of `clipCommand`, `removedClip`, `result`,
 ///   `essenceBitmap`, `fromUCode` or `forceForPlaylist` is clear; the destination is then unchanged.
-/// - any of ThriftToClipConverter; the destination is then unchanged.
-/// - "Missing fields for ClipCommand": from `clipCommand`; the destination by then holds everything else, and
-///   placeholders.
+/// - any failure of ThriftToClipConverter; the destination is then unchanged.
+/// - "Missing fields for ClipCommand": from `clipCommand`; the destination then holds everything else, and placeholders
+///   for the clip command block.
 ///
-/// Ends the process: what ends it in ThriftToClipConverter.
+/// Ends the process: anything that ends it in ThriftToClipConverter.
 ///
-/// Lost on the way: the two reserved bytes, which no wire field carries, are 0; all but the low byte of
-/// `essenceBitmap`; an unknown `result` reads as `Success`; what ThriftToClipConverter and
-/// ThriftToClipCommandEventArgsConverter lose.
+/// Lost: the two reserved bytes, which have no wire field, are 0; all but the low byte of `essenceBitmap`; an unknown
+/// `result` reads as `Success`; what ThriftToClipConverter and ThriftToClipCommandEventArgsConverter lose.
 class ThriftToClipDeletionFailedEventArgsConverter
     : public Converter<Generated::ClipDeletionFailedEventArgs, Notification::ClipDeletionFailedEventArgs>
 {
 public:
-    /// As To(), but throws BadValue for what ends the process there.
+    /// Like To(), but throws BadValue where To() ends the process.
     ConversionResult ToOrThrow(Generated::ClipDeletionFailedEventArgs const& source,
                                Notification::ClipDeletionFailedEventArgs& destination) const;
 

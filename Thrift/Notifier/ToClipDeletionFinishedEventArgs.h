@@ -15,25 +15,25 @@ namespace Generated
 class ClipDeletionFinishedEventArgs;
 } // namespace Generated
 
-/// Replaces a domain `ClipDeletionFinishedEventArgs` by the wire record `ClipDeletionFinishedEventArgs`. The database
-/// revision is read whether set or not.
+/// Replaces a domain `ClipDeletionFinishedEventArgs` with the wire record `ClipDeletionFinishedEventArgs`. The database
+/// revision is read regardless of its flag.
 ///
 /// Failures:
 /// - "Incomplete ClipDeletionFinishedEventArgs - missing fields": the flag of `clipCommand` or `removedClip` is clear;
 ///   the destination is then unchanged.
-/// - any of ThriftToClipConverter; the destination is then unchanged.
-/// - "Missing fields for ClipCommand": from `clipCommand`; the destination by then holds everything else, and
-///   placeholders.
+/// - any failure of ThriftToClipConverter; the destination is then unchanged.
+/// - "Missing fields for ClipCommand": from `clipCommand`; the destination then holds everything else, and placeholders
+///   for the clip command block.
 ///
-/// Ends the process: what ends it in ThriftToClipConverter.
+/// Ends the process: anything that ends it in ThriftToClipConverter.
 ///
-/// Lost on the way: the two reserved bytes, which no wire field carries, are 0; what ThriftToClipConverter and
+/// Lost: the two reserved bytes, which have no wire field, are 0; what ThriftToClipConverter and
 /// ThriftToClipCommandEventArgsConverter lose.
 class ThriftToClipDeletionFinishedEventArgsConverter
     : public Converter<Generated::ClipDeletionFinishedEventArgs, Notification::ClipDeletionFinishedEventArgs>
 {
 public:
-    /// As To(), but throws BadValue for what ends the process there.
+    /// Like To(), but throws BadValue where To() ends the process.
     ConversionResult ToOrThrow(Generated::ClipDeletionFinishedEventArgs const& source,
                                Notification::ClipDeletionFinishedEventArgs& destination) const;
 

@@ -15,24 +15,24 @@ namespace Generated
 class ClipMoveFinishedEventArgs;
 } // namespace Generated
 
-/// Replaces a domain `ClipMoveFinishedEventArgs` by the wire record `ClipMoveFinishedEventArgs`. The database revision
-/// is read whether set or not.
+/// Replaces a domain `ClipMoveFinishedEventArgs` with the wire record `ClipMoveFinishedEventArgs`. The database
+/// revision is read regardless of its flag.
 ///
 /// Failures:
 /// - "Incomplete ClipMoveFinishedEventArgs - missing fields": the flag of `clipCommand`, `sourceClip` or `destClip` is
 ///   clear; the destination is then unchanged.
-/// - any of ThriftToClipConverter; the destination is then unchanged.
-/// - "Missing fields for ClipCommand": from `clipCommand`; the destination by then holds everything else, and
-///   placeholders.
+/// - any failure of ThriftToClipConverter; the destination is then unchanged.
+/// - "Missing fields for ClipCommand": from `clipCommand`; the destination then holds everything else, and placeholders
+///   for the clip command block.
 ///
-/// Ends the process: what ends it in ThriftToClipConverter.
+/// Ends the process: anything that ends it in ThriftToClipConverter.
 ///
-/// Lost on the way: what ThriftToClipConverter and ThriftToClipCommandEventArgsConverter lose.
+/// Lost: what ThriftToClipConverter and ThriftToClipCommandEventArgsConverter lose.
 class ThriftToClipMoveFinishedEventArgsConverter
     : public Converter<Generated::ClipMoveFinishedEventArgs, Notification::ClipMoveFinishedEventArgs>
 {
 public:
-    /// As To(), but throws BadValue for what ends the process there.
+    /// Like To(), but throws BadValue where To() ends the process.
     ConversionResult ToOrThrow(Generated::ClipMoveFinishedEventArgs const& source,
                                Notification::ClipMoveFinishedEventArgs& destination) const;
 

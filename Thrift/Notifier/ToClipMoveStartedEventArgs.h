@@ -15,24 +15,24 @@ namespace Generated
 class ClipMoveStartedEventArgs;
 } // namespace Generated
 
-/// Replaces a domain `ClipMoveEventArgs` by the wire record `ClipMoveStartedEventArgs`. The database revision is read
-/// whether set or not.
+/// Replaces a domain `ClipMoveEventArgs` with the wire record `ClipMoveStartedEventArgs`. The database revision is read
+/// regardless of its flag.
 ///
 /// Failures:
 /// - "Incomplete ClipMoveStartedEventArgs - missing fields": the flag of `clipCommand`, `sourceClip` or `destClip` is
 ///   clear; the destination is then unchanged.
-/// - any of ThriftToClipConverter; the destination is then unchanged.
-/// - "Missing fields for ClipCommand": from `clipCommand`; the destination by then holds everything else, and
-///   placeholders.
+/// - any failure of ThriftToClipConverter; the destination is then unchanged.
+/// - "Missing fields for ClipCommand": from `clipCommand`; the destination then holds everything else, and placeholders
+///   for the clip command block.
 ///
-/// Ends the process: what ends it in ThriftToClipConverter.
+/// Ends the process: anything that ends it in ThriftToClipConverter.
 ///
-/// Lost on the way: what ThriftToClipConverter and ThriftToClipCommandEventArgsConverter lose.
+/// Lost: what ThriftToClipConverter and ThriftToClipCommandEventArgsConverter lose.
 class ThriftToClipMoveStartedEventArgsConverter
     : public Converter<Generated::ClipMoveStartedEventArgs, Notification::ClipMoveEventArgs>
 {
 public:
-    /// As To(), but throws BadValue for what ends the process there.
+    /// Like To(), but throws BadValue where To() ends the process.
     ConversionResult ToOrThrow(Generated::ClipMoveStartedEventArgs const& source,
                                Notification::ClipMoveEventArgs& destination) const;
 

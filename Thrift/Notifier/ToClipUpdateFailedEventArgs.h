@@ -15,25 +15,25 @@ namespace Generated
 class ClipUpdateFailedEventArgs;
 } // namespace Generated
 
-/// Replaces a domain `ClipUpdateFailedEventArgs` by the wire record `ClipUpdateFailedEventArgs`. The database revision
-/// is read whether set or not.
+/// Replaces a domain `ClipUpdateFailedEventArgs` with the wire record `ClipUpdateFailedEventArgs`. The database
+/// revision is read regardless of its flag.
 ///
 /// Failures:
 /// - "Incomplete ClipUpdateFailedEventArgs - missing fields": the flag of `clipCommand`, `result`, `oldClip` or
 ///   `newClip` is clear; the destination is then unchanged.
-/// - any of ThriftToClipConverter; the destination is then unchanged.
-/// - "Missing fields for ClipCommand": from `clipCommand`; the destination by then holds everything else, and
-///   placeholders.
+/// - any failure of ThriftToClipConverter; the destination is then unchanged.
+/// - "Missing fields for ClipCommand": from `clipCommand`; the destination then holds everything else, and placeholders
+///   for the clip command block.
 ///
-/// Ends the process: what ends it in ThriftToClipConverter.
+/// Ends the process: anything that ends it in ThriftToClipConverter.
 ///
-/// Lost on the way: an unknown `result` reads as `Success`; what ThriftToClipConverter and
-/// ThriftToClipCommandEventArgsConverter lose.
+/// Lost: an unknown `result` reads as `Success`; what ThriftToClipConverter and ThriftToClipCommandEventArgsConverter
+/// lose.
 class ThriftToClipUpdateFailedEventArgsConverter
     : public Converter<Generated::ClipUpdateFailedEventArgs, Notification::ClipUpdateFailedEventArgs>
 {
 public:
-    /// As To(), but throws BadValue for what ends the process there.
+    /// Like To(), but throws BadValue where To() ends the process.
     ConversionResult ToOrThrow(Generated::ClipUpdateFailedEventArgs const& source,
                                Notification::ClipUpdateFailedEventArgs& destination) const;
 

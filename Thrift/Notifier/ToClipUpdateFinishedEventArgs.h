@@ -15,24 +15,24 @@ namespace Generated
 class ClipUpdateFinishedEventArgs;
 } // namespace Generated
 
-/// Replaces a domain `ClipUpdateFinishedEventArgs` by the wire record `ClipUpdateFinishedEventArgs`. The database
-/// revision is read whether set or not.
+/// Replaces a domain `ClipUpdateFinishedEventArgs` with the wire record `ClipUpdateFinishedEventArgs`. The database
+/// revision is read regardless of its flag.
 ///
 /// Failures:
 /// - "Incomplete ClipUpdateFinishedEventArgs - missing fields": the flag of `clipCommand`, `endOfGrowingClipCreation`,
 ///   `oldClip` or `newClip` is clear; the destination is then unchanged.
-/// - any of ThriftToClipConverter; the destination is then unchanged.
-/// - "Missing fields for ClipCommand": from `clipCommand`; the destination by then holds everything else, and
-///   placeholders.
+/// - any failure of ThriftToClipConverter; the destination is then unchanged.
+/// - "Missing fields for ClipCommand": from `clipCommand`; the destination then holds everything else, and placeholders
+///   for the clip command block.
 ///
-/// Ends the process: what ends it in ThriftToClipConverter.
+/// Ends the process: anything that ends it in ThriftToClipConverter.
 ///
-/// Lost on the way: what ThriftToClipConverter and ThriftToClipCommandEventArgsConverter lose.
+/// Lost: what ThriftToClipConverter and ThriftToClipCommandEventArgsConverter lose.
 class ThriftToClipUpdateFinishedEventArgsConverter
     : public Converter<Generated::ClipUpdateFinishedEventArgs, Notification::ClipUpdateFinishedEventArgs>
 {
 public:
-    /// As To(), but throws BadValue for what ends the process there.
+    /// Like To(), but throws BadValue where To() ends the process.
     ConversionResult ToOrThrow(Generated::ClipUpdateFinishedEventArgs const& source,
                                Notification::ClipUpdateFinishedEventArgs& destination) const;
 

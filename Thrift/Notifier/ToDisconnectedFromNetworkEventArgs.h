@@ -15,7 +15,7 @@ namespace Generated
 class DisconnectedFromNetworkEventArgs;
 } // namespace Generated
 
-/// Replaces a domain `DisconnectedFromNetworkEventArgs` by the wire record `DisconnectedFromNetworkEventArgs`.
+/// Replaces a domain `DisconnectedFromNetworkEventArgs` with the wire record `DisconnectedFromNetworkEventArgs`.
 ///
 /// Failure: "DisconnectedFromNetwork is empty" when the flag of `serverId` is clear; the destination is then unchanged.
 class ThriftToDisconnectedFromNetworkEventArgsConverter

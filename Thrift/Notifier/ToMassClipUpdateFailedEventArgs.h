@@ -15,16 +15,16 @@ namespace Generated
 class MassClipUpdateFailedEventArgs;
 } // namespace Generated
 
-/// Replaces a domain `MassClipUpdateFailedEventArgs` by the wire record `MassClipUpdateFailedEventArgs`. The database
-/// revision is read whether set or not.
+/// Replaces a domain `MassClipUpdateFailedEventArgs` with the wire record `MassClipUpdateFailedEventArgs`. The database
+/// revision is read regardless of its flag.
 ///
 /// Failures:
 /// - "Incomplete MassClipUpdateFailedEventArgs - missing fields": the flag of `clipCommand`, `result` or
 ///   `machineSerial` is clear; the destination is then unchanged.
-/// - "Missing fields for ClipCommand": from `clipCommand`; the destination by then holds everything else, and
-///   placeholders.
+/// - "Missing fields for ClipCommand": from `clipCommand`; the destination then holds everything else, and placeholders
+///   for the clip command block.
 ///
-/// Lost on the way: the high word of `machineSerial`; an unknown `result` reads as `Success`; what
+/// Lost: the high word of `machineSerial`; an unknown `result` reads as `Success`; what
 /// ThriftToClipCommandEventArgsConverter loses.
 class ThriftToMassClipUpdateFailedEventArgsConverter
     : public Converter<Generated::MassClipUpdateFailedEventArgs, Notification::MassClipUpdateFailedEventArgs>

@@ -15,16 +15,16 @@ namespace Generated
 class MassClipUpdateFinishedEventArgs;
 } // namespace Generated
 
-/// Replaces a domain `MassClipUpdateEventArgs` by the wire record `MassClipUpdateFinishedEventArgs`. The database
-/// revision is read whether set or not.
+/// Replaces a domain `MassClipUpdateEventArgs` with the wire record `MassClipUpdateFinishedEventArgs`. The database
+/// revision is read regardless of its flag.
 ///
 /// Failures:
 /// - "Incomplete MassClipUpdateFinishedEventArgs - missing fields": the flag of `clipCommand` or `machineSerial` is
 ///   clear; the destination is then unchanged.
-/// - "Missing fields for ClipCommand": from `clipCommand`; the destination by then holds everything else, and
-///   placeholders.
+/// - "Missing fields for ClipCommand": from `clipCommand`; the destination then holds everything else, and placeholders
+///   for the clip command block.
 ///
-/// Lost on the way: the high word of `machineSerial`; what ThriftToClipCommandEventArgsConverter loses.
+/// Lost: the high word of `machineSerial`; what ThriftToClipCommandEventArgsConverter loses.
 class ThriftToMassClipUpdateFinishedEventArgsConverter
     : public Converter<Generated::MassClipUpdateFinishedEventArgs, Notification::MassClipUpdateEventArgs>
 {

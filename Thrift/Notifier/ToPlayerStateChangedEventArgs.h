@@ -16,20 +16,20 @@ class PlayerStateChangedEventArgs;
 } // namespace Generated
 
 /// Applies the wire record `PlayerStateChangedEventArgs` to a domain `PlayerStateChangedEventArgs`: the channel's
-/// identifier is built anew from its index and serial number, if both were sent; event flags that were not sent are 0;
-/// what the conversion of the state reports is not looked at.
+/// identifier is rebuilt from its index and serial number if both were sent; event flags that were not sent are 0; the
+/// result of the state's conversion is ignored.
 ///
-/// Failure: "PlayerStateChanged is empty" when neither both parts of the identifier nor event flags nor a state was
-/// sent; the event flags of the destination are then 0.
+/// Failure: "PlayerStateChanged is empty" when no event flags, no state and not both parts of the identifier were sent;
+/// the event flags of the destination are then 0.
 ///
-/// Ends the process: what ends it in ThriftToPlayerStateConverter.
+/// Ends the process: anything that ends it in ThriftToPlayerStateConverter.
 ///
-/// Lost on the way: the high word of the serial number.
+/// Lost: the high word of the serial number.
 class ThriftToPlayerStateChangedEventArgsConverter
     : public Converter<Generated::PlayerStateChangedEventArgs, Notification::PlayerStateChangedEventArgs>
 {
 public:
-    /// As To(), but throws BadValue for what ends the process there.
+    /// Like To(), but throws BadValue where To() ends the process.
     ConversionResult ToOrThrow(Generated::PlayerStateChangedEventArgs const& source,
                                Notification::PlayerStateChangedEventArgs& destination) const;
 

@@ -28,7 +28,7 @@ ConversionResult ThriftToRecorderStateChangedEventArgsConverter::ToOrThrow(
         destination.channelGuid =
             Guid(Guid::Type::ChannelGuidTypeRecorder, source.channelIndex, LowWord(source.channelSerial));
     destination.eventFlags = seen(isset.eventFlags) ? source.eventFlags : 0;
-    // What the state reports is not looked at, although the other direction reports it.
+    // The result of the state is ignored, although the other direction returns it.
     if (seen(isset.status)) std::ignore = Read("status", toState, source.status, destination.state);
     return seen.None() ? Failure("RecorderStateChanged is empty") : Success();
 }

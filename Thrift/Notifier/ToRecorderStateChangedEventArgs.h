@@ -16,20 +16,20 @@ class RecorderStateChangedEventArgs;
 } // namespace Generated
 
 /// Applies the wire record `RecorderStateChangedEventArgs` to a domain `RecorderStateChangedEventArgs`: the channel's
-/// identifier is built anew from its index and serial number, if both were sent; event flags that were not sent are 0;
-/// what the conversion of the state reports is not looked at.
+/// identifier is rebuilt from its index and serial number if both were sent; event flags that were not sent are 0; the
+/// result of the state's conversion is ignored.
 ///
-/// Failure: "RecorderStateChanged is empty" when neither both parts of the identifier nor event flags nor a state was
+/// Failure: "RecorderStateChanged is empty" when no event flags, no state and not both parts of the identifier were
 /// sent; the event flags of the destination are then 0.
 ///
-/// Ends the process: what ends it in ThriftToRecorderStateConverter.
+/// Ends the process: anything that ends it in ThriftToRecorderStateConverter.
 ///
-/// Lost on the way: the high word of the serial number.
+/// Lost: the high word of the serial number.
 class ThriftToRecorderStateChangedEventArgsConverter
     : public Converter<Generated::RecorderStateChangedEventArgs, Notification::RecorderStateChangedEventArgs>
 {
 public:
-    /// As To(), but throws BadValue for what ends the process there.
+    /// Like To(), but throws BadValue where To() ends the process.
     ConversionResult ToOrThrow(Generated::RecorderStateChangedEventArgs const& source,
                                Notification::RecorderStateChangedEventArgs& destination) const;
 

@@ -29,7 +29,7 @@ ConversionResult ThriftToRecordingRangesChangedEventArgsConverter::To(
     std::vector<Corvane::Data::Clips::RecordingRange> recordingRanges;
     if (seen(isset.recordingRanges)) AppendAll("recordingRanges", toRange, source.recordingRanges, recordingRanges);
 
-    // The destination is taken over even when nothing was seen: an event that fails is left empty, not as it was.
+    // The destination is replaced even if no flag is set: after the failure it is empty, not unchanged.
     destination.recorderId = recorderId;
     destination.recordingRanges = std::move(recordingRanges);
     destination.isInBoundMoving = source.isInBoundMoving;

@@ -15,11 +15,11 @@ namespace Generated
 class RecordingRangesChangedEventArgs;
 } // namespace Generated
 
-/// Replaces a domain `RecordingRangesChangedEventArgs` by the wire record `RecordingRangesChangedEventArgs`. The two
-/// booleans are taken whether their flags are set or not, and a range that fails is kept as an empty one.
+/// Replaces a domain `RecordingRangesChangedEventArgs` with the wire record `RecordingRangesChangedEventArgs`. The two
+/// booleans are read regardless of their flags, and a range that fails becomes an empty one.
 ///
 /// Failure: "RecordingRangesChanged is empty" when neither the flag of `recorderId` nor that of `recordingRanges` is
-/// set; the destination is by then taken over, with a default identifier and no ranges.
+/// set; the destination is then replaced, with a default identifier and no ranges.
 class ThriftToRecordingRangesChangedEventArgsConverter
     : public Converter<Generated::RecordingRangesChangedEventArgs, Notification::RecordingRangesChangedEventArgs>
 {

@@ -15,11 +15,11 @@ namespace Generated
 class ServerAddedEventArgs;
 } // namespace Generated
 
-/// Replaces a domain `ServerAddedEventArgs` by the wire record `ServerAddedEventArgs`.
+/// Replaces a domain `ServerAddedEventArgs` with the wire record `ServerAddedEventArgs`.
 ///
 /// Failures, with the destination unchanged:
 /// - "Missing serverId" or "Missing serverInfo": its flag is clear.
-/// - any of ThriftToServerInfoConverter.
+/// - any failure of ThriftToServerInfoConverter.
 class ThriftToServerAddedEventArgsConverter
     : public Converter<Generated::ServerAddedEventArgs, Notification::ServerAddedEventArgs>
 {

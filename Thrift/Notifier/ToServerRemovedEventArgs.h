@@ -15,7 +15,7 @@ namespace Generated
 class ServerRemovedEventArgs;
 } // namespace Generated
 
-/// Replaces a domain `ServerRemovedEventArgs` by the wire record `ServerRemovedEventArgs`.
+/// Replaces a domain `ServerRemovedEventArgs` with the wire record `ServerRemovedEventArgs`.
 ///
 /// Failure: "ServerRemoved is empty" when the flag of `serverId` is clear; the destination is then unchanged.
 class ThriftToServerRemovedEventArgsConverter

@@ -20,25 +20,25 @@
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Wire
 {
 
-/// Reads records and message headers, strict and old ones, in Thrift's binary protocol from bytes in memory. Give it to
-/// the `read` of a record:
+/// Reads records and message headers (strict and old) in Thrift's binary protocol from bytes in memory. Pass it to the
+/// `read` of a record:
 ///
 ///     BinaryReader reader(bytes);
 ///     record.read(&reader);
 ///
-/// It accepts what `TBinaryProtocolT` accepts with the same bounds, and bounds the memory of the whole message too. Its
-/// members have the names and results of Thrift's protocols. They throw
+/// It accepts what `TBinaryProtocolT` accepts with the same bounds, and also bounds the memory of the whole message.
+/// Its members have the names and results of Thrift's protocols. They throw
 ///
-/// - TProtocolException (SIZE_LIMIT) where a bound is exceeded; the text names the bound and what exceeded it;
-/// - TProtocolException (DEPTH_LIMIT) where records nest too deep;
-/// - TProtocolException (NEGATIVE_SIZE, BAD_VERSION, INVALID_DATA) where the bytes are no record;
-/// - TTransportException (END_OF_FILE) where the bytes end within the record.
+/// - TProtocolException (SIZE_LIMIT) if a bound is exceeded; the text names the bound and what exceeded it;
+/// - TProtocolException (DEPTH_LIMIT) if records nest too deeply;
+/// - TProtocolException (NEGATIVE_SIZE, BAD_VERSION, INVALID_DATA) if the bytes are not a record;
+/// - TTransportException (END_OF_FILE) if the bytes end within the record.
 ///
-/// After an exception the record may hold a part of what was sent.
+/// After an exception the record may hold part of what was sent.
 class BinaryReader final : public apache::thrift::protocol::TVirtualProtocol<BinaryReader>
 {
 public:
-    /// Reads one message, `bytes`, which have to outlive the reader. Throws where they are more than a message may have.
+    /// Reads one message from `bytes`, which have to outlive the reader. Throws if they exceed the bound of a message.
     explicit BinaryReader(std::span<std::uint8_t const> const bytes, Bounds const& bounds = {})
         : TVirtualProtocol(Detail::NoTransport())
         , next_(bytes.data())
@@ -51,13 +51,13 @@ public:
         if (bytes.size() > bounds.message) Exceeded("a message", bytes.size(), "bytes", bounds.message);
     }
 
-    /// What was not read yet.
+    /// The bytes that were not read yet.
     [[nodiscard]] std::span<std::uint8_t const> Rest() const noexcept { return {next_, end_}; }
 
-    /// How many fields the records did not have, or not with that type.
+    /// The number of skipped fields: those that the records do not have, or have with another type.
     [[nodiscard]] std::size_t SkippedFields() const noexcept { return skippedFields_; }
 
-    /// @cond The members of Thrift's protocols, which records call.
+    /// @cond The members of Thrift's protocols that records call.
     using TType = apache::thrift::protocol::TType;
     using TMessageType = apache::thrift::protocol::TMessageType;
     using TProtocolException = apache::thrift::protocol::TProtocolException;
@@ -66,7 +66,7 @@ public:
     {
         auto const* const start = next_;
         auto const version = TakeI32();
-        if (version >= 0) // the size of the name, in a header without version
+        if (version >= 0) // in a header without a version, this is the size of the name
         {
             ReadText(name, static_cast<std::uint32_t>(version));
             type = static_cast<TMessageType>(static_cast<std::int8_t>(TakeByte()));
@@ -136,7 +136,7 @@ public:
     }
     std::uint32_t readSetEnd() { return 0; }
 
-    /// Called by the records before they take memory for `size` elements of `container`.
+    /// The records call this before they allocate memory for `size` elements of `container`.
     template<typename TContainer>
     void beginElements(TContainer const&, std::uint32_t const size)
     {
@@ -144,7 +144,7 @@ public:
         if constexpr (requires { typename TContainer::key_type; }) element += NodeSize;
         CountMemory(std::uint64_t{size} * element);
     }
-    /// Called by the records when the elements of `container` were read.
+    /// The records call this after the elements of `container` were read.
     template<typename TContainer>
     void endElements(TContainer const& container)
     {
@@ -201,9 +201,9 @@ public:
     /// @endcond
 
 private:
-    /// Of each entry of a set or map, besides its value: what the tree and the heap keep of it.
+    /// Memory of each entry of a set or map in addition to its value: the overhead of the tree and the heap.
     static constexpr std::size_t NodeSize = 6 * sizeof(void*);
-    /// Of each string that is not kept in its object, besides its bytes.
+    /// Memory of each string that is not stored within its object, in addition to its bytes.
     static constexpr std::size_t TextSize = 4 * sizeof(void*);
     static constexpr std::size_t InPlaceText = 15;
 
@@ -310,7 +310,7 @@ private:
         if (size <= text.capacity())
             text.assign(characters, size);
         else
-            text = std::string(characters, size); // which takes just its size, where assign() grows
+            text = std::string(characters, size); // allocates exactly its size, whereas assign() may allocate more
         return size;
     }
 
@@ -321,7 +321,7 @@ private:
         memoryLeft_ -= size;
     }
 
-    /// Takes no memory, and counts the depth as reading would.
+    /// Skips a value. Allocates no memory, and counts the depth as reading does.
     void Skip(TType const type)
     {
         apache::thrift::protocol::TInputRecursionTracker const tracker(*this);
@@ -399,10 +399,9 @@ private:
     std::size_t skippedFields_ = 0;
 };
 
-/// Takes a frame, as `TFramedTransport` sends it, from the start of `bytes`, and returns what it holds; `bytes` becomes
-/// what follows. Throws where the frame is larger than a message may be (TProtocolException, SIZE_LIMIT), has a negative
-/// size (TProtocolException, NEGATIVE_SIZE) or is not there as a whole (TTransportException, END_OF_FILE): then `bytes`
-/// stays as it is.
+/// Removes a frame, as `TFramedTransport` sends it, from the start of `bytes` and returns its contents. Throws if the
+/// frame exceeds the bound of a message (TProtocolException, SIZE_LIMIT), has a negative size (TProtocolException,
+/// NEGATIVE_SIZE) or is incomplete (TTransportException, END_OF_FILE); `bytes` is then unchanged.
 inline std::span<std::uint8_t const> TakeFrame(std::span<std::uint8_t const>& bytes, Bounds const& bounds = {})
 {
     using apache::thrift::protocol::TProtocolException;

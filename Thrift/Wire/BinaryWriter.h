@@ -20,61 +20,63 @@
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Wire
 {
 
-/// Writes records and message headers in Thrift's binary protocol, as `TBinaryProtocolT` does, byte for byte, one after
-/// the other into memory of its own. Give it to the `write` of a record:
+/// Writes records and message headers in Thrift's binary protocol, one after the other, into its own memory. The bytes
+/// are those that `TBinaryProtocolT` writes. Pass it to the `write` of a record:
 ///
 ///     BinaryWriter writer;
 ///     record.write(&writer);
 ///     Send(writer.Bytes());
 ///
-/// A writer that is used again takes no new memory until it holds more than ever before. Its other members have the names
-/// and results of Thrift's protocols. A string of more than 2^31 - 1 bytes throws TProtocolException (SIZE_LIMIT), a
-/// record of records that nest deeper than 64 does so, too (DEPTH_LIMIT).
+/// A reused writer allocates no memory until it holds more than ever before. Its other members have the names and
+/// results of Thrift's protocols. A string of more than 2^31 - 1 bytes throws TProtocolException (SIZE_LIMIT), and
+/// records that nest deeper than 64 levels throw TProtocolException (DEPTH_LIMIT).
 class BinaryWriter final : public apache::thrift::protocol::TVirtualProtocol<BinaryWriter>
 {
 public:
-    /// How a message begins: with the version of the protocol, or as before there were versions.
+    /// The form of a message header: with the version of the protocol, or the old form without it.
     enum class Header
     {
         Strict,
         Old
     };
 
-    /// Writes message headers of that form.
+    /// Constructs a writer that writes message headers of that form.
     explicit BinaryWriter(Header const header = Header::Strict)
         : TVirtualProtocol(Detail::NoTransport())
         , header_(header)
     {
     }
 
-    /// What was written, valid until more is.
+    /// The bytes that were written, valid until the next write.
     [[nodiscard]] std::span<std::uint8_t const> Bytes() const noexcept { return {memory_.get(), Size()}; }
-    /// The same, as a text.
+    /// The bytes that were written, as text, valid until the next write.
     [[nodiscard]] std::string_view Text() const noexcept
     {
         return {reinterpret_cast<char const*>(memory_.get()), Size()};
     }
-    /// How many bytes were written.
+    /// The number of bytes that were written.
     [[nodiscard]] std::size_t Size() const noexcept { return static_cast<std::size_t>(next_ - memory_.get()); }
 
-    /// Removes what was written after the first `size` bytes, and keeps the memory.
+    /// Removes all but the first `size` bytes, and keeps the memory.
     void Truncate(std::size_t const size = 0) noexcept { next_ = memory_.get() + std::min(size, Size()); }
 
-    /// Starts a frame: what is written until EndFrame(start) gets its size before it, as `TFramedTransport` sends it.
+    /// Starts a frame and returns its start. EndFrame(start) then puts the size of what was written in between in front
+    /// of it, as `TFramedTransport` does.
     [[nodiscard]] std::size_t BeginFrame()
     {
         auto const start = Size();
         writeI32(0);
         return start;
     }
-    /// Throws TProtocolException (SIZE_LIMIT) where the frame has more than 2^31 - 1 bytes.
+    /// Ends the frame that BeginFrame() started. Throws TProtocolException (SIZE_LIMIT) if it has more than 2^31 - 1
+    /// bytes.
     void EndFrame(std::size_t const start)
     {
         auto const size = CheckedSize("a frame", Size() - start - sizeof(std::int32_t));
         Put(memory_.get() + start, size);
     }
 
-    /// @cond The members of Thrift's protocols, which records call.
+    /// @cond The members of Thrift's protocols that records call.
     using TType = apache::thrift::protocol::TType;
     using TMessageType = apache::thrift::protocol::TMessageType;
 
@@ -155,7 +157,7 @@ private:
         return static_cast<std::uint32_t>(size);
     }
 
-    /// Room for `Count` more bytes.
+    /// Makes room for `Count` more bytes.
     template<std::size_t Count>
     [[gnu::always_inline]] std::uint8_t* Grow()
     {
@@ -174,8 +176,8 @@ private:
         return sizeof(T);
     }
 
-    /// Stores as the type itself and not as bytes: since bytes may alias anything, the compiler would read the members
-    /// again after each.
+    /// Stores the value as its own type and not as bytes: bytes may alias anything, so the compiler would reload the
+    /// members after each one.
     template<typename T>
     [[gnu::always_inline]] static void Put(std::uint8_t* const place, T const value)
     {
@@ -197,13 +199,13 @@ private:
         full_ = end_ - Spare + 1;
     }
 
-    /// No value except a string has more bytes.
+    /// The most bytes of a value that is not a string.
     static constexpr std::size_t Spare = 8;
 
     std::unique_ptr<std::uint8_t[]> memory_;
     std::uint8_t* next_ = nullptr;
     std::uint8_t* end_ = nullptr;
-    std::uint8_t* full_ = nullptr; ///< From here on there may be no room for a value.
+    std::uint8_t* full_ = nullptr; ///< From here on there may not be enough room for a value.
     Header header_;
 };
 

@@ -18,25 +18,25 @@
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Wire
 {
 
-/// What is to blame for a failure of Decode() or Encode().
+/// The cause of a failure of Decode() or Encode().
 enum class Fault
 {
     None,
-    Bytes,     ///< They are no such record, or not one alone.
-    Bounds,    ///< They exceed a bound.
-    Value,     ///< A value of the record would have ended the process in `To`.
-    Conversion ///< The converter reports a failure.
+    Bytes,     ///< The bytes are not exactly one such record.
+    Bounds,    ///< The bytes exceed a bound.
+    Value,     ///< A value of the record would end the process in `To`.
+    Conversion ///< The converter reported a failure.
 };
 
-/// What Decode() and Encode() report.
+/// The result of Decode() and Encode().
 struct [[nodiscard]] CodecResult
 {
     Fault fault;
-    /// Empty on success. It begins with "invalid bytes: ", "bound exceeded: ", "invalid value: " or "conversion failed: ",
-    /// and may repeat the peer's text, unescaped.
+    /// Empty on success. It begins with "invalid bytes: ", "bound exceeded: ", "invalid value: " or "conversion failed:
+    /// ", and may contain the peer's text, unescaped.
     std::string message;
 
-    /// Whether the whole road was taken.
+    /// Whether both the conversion and the reading or writing succeeded.
     [[nodiscard]] bool Success() const noexcept { return fault == Fault::None; }
 };
 
@@ -48,7 +48,7 @@ TSource SourceOfFrame(Common::Serialization::Converter<TSource, TDestination> co
 template<typename TSource, typename TDestination>
 TDestination DestinationOfFrame(Common::Serialization::Converter<TSource, TDestination> const&);
 
-/// What a converter reads, and what it fills.
+/// The source and destination types of a converter.
 template<typename TConverter>
 using SourceOf = decltype(SourceOfFrame(std::declval<TConverter const&>()));
 template<typename TConverter>
@@ -60,7 +60,7 @@ inline CodecResult ResultOf(Common::Serialization::ConversionResult&& result)
     return {Fault::Conversion, "conversion failed: " + std::move(result.message)};
 }
 
-/// Gives all fields their defaults. Unlike an assignment of `{}`, it makes no record, and lists keep their memory.
+/// Gives all fields their defaults. Unlike an assignment of `{}`, this makes no record, and lists keep their memory.
 template<typename TRecord>
 void Empty(TRecord& record)
 {
@@ -68,7 +68,7 @@ void Empty(TRecord& record)
     record = empty;
 }
 
-/// `record` is empty.
+/// Requires an empty `record`.
 template<typename TConverter>
 CodecResult Decode(TConverter const& converter, std::span<std::uint8_t const> const bytes, SourceOf<TConverter>& record,
                    DestinationOf<TConverter>& destination, Bounds const& bounds)
@@ -87,7 +87,7 @@ CodecResult Decode(TConverter const& converter, std::span<std::uint8_t const> co
             return {Fault::Bounds, std::string("bound exceeded: ") + error.what()};
         if (error.getType() == TProtocolException::DEPTH_LIMIT)
             return {Fault::Bounds, "bound exceeded: values nest deeper than " + std::to_string(bounds.depth)};
-        // The records throw this one, and without a text.
+        // Records throw this exception, without a text, if a required field is missing.
         bool const lacksField =
             std::string_view(error.what()) == TProtocolException(TProtocolException::INVALID_DATA).what();
         return {Fault::Bytes,
@@ -113,7 +113,7 @@ CodecResult Decode(TConverter const& converter, std::span<std::uint8_t const> co
         return ResultOf(converter.To(record, destination));
 }
 
-/// `record` is empty.
+/// Requires an empty `record`.
 template<typename TConverter>
 CodecResult Encode(TConverter const& converter, SourceOf<TConverter> const& source, DestinationOf<TConverter>& record,
                    BinaryWriter& writer)
@@ -136,10 +136,10 @@ CodecResult Encode(TConverter const& converter, SourceOf<TConverter> const& sour
 
 } // namespace Detail
 
-/// Reads one record from all of `bytes`, within `bounds`, and converts it to the domain: what BinaryReader, the record's
-/// `read` and TryTo() do, with one result. `converter` is given as its own class.
+/// Reads one record from all of `bytes`, within `bounds`, and converts it to the domain. It combines BinaryReader, the
+/// record's `read` and TryTo() and returns one result. Pass `converter` as its concrete class.
 ///
-/// On a failure `destination` holds what was converted before it. Throws std::bad_alloc where memory runs out, except in a
+/// On a failure `destination` holds what was converted before it. Throws std::bad_alloc if memory runs out, except in a
 /// converter in which no value ends the process: there it ends the process.
 ///
 ///     Domain::Clip clip;
@@ -153,8 +153,8 @@ CodecResult Decode(TConverter const& converter, std::span<std::uint8_t const> co
     return Detail::Decode(converter, bytes, record, destination, bounds);
 }
 
-/// The same with the record in between, which is emptied before: given again, its strings and lists keep their memory.
-/// Nothing of an earlier message is left in it.
+/// Decodes as above, through a record of the caller, which is emptied first so that nothing of an earlier message
+/// remains. A reused record keeps the memory of its strings and lists.
 template<typename TConverter>
 CodecResult Decode(TConverter const& converter, std::span<std::uint8_t const> const bytes,
                    Detail::SourceOf<TConverter>& record, Detail::DestinationOf<TConverter>& destination,
@@ -164,8 +164,8 @@ CodecResult Decode(TConverter const& converter, std::span<std::uint8_t const> co
     return Detail::Decode(converter, bytes, record, destination, bounds);
 }
 
-/// Converts a domain object to a record and appends that to what `writer` holds. On a failure the writer holds what it
-/// held before. Throws and ends the process as Decode() does.
+/// Converts a domain object to a record and appends the record to `writer`. On a failure the writer's contents are
+/// unchanged. Throws and ends the process as Decode() does.
 ///
 ///     Wire::BinaryWriter writer;
 ///     auto const result = Wire::Encode(ClipToThriftConverter(), clip, writer);
@@ -177,7 +177,8 @@ CodecResult Encode(TConverter const& converter, Detail::SourceOf<TConverter> con
     return Detail::Encode(converter, source, record, writer);
 }
 
-/// The same with the record in between, which is emptied before: given again, its strings and lists keep their memory.
+/// Encodes as above, through a record of the caller, which is emptied first. A reused record keeps the memory of its
+/// strings and lists.
 template<typename TConverter>
 CodecResult Encode(TConverter const& converter, Detail::SourceOf<TConverter> const& source,
                    Detail::DestinationOf<TConverter>& record, BinaryWriter& writer)

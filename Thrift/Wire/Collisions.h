@@ -14,7 +14,7 @@
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Wire::Detail
 {
 
-/// Sets and maps of channels, which the domain keeps in hash tables.
+/// Whether a container is a set or map of channels, which the domain holds in a hash table.
 template<typename TContainer>
 constexpr bool IsKeyedByChannel()
 {
@@ -33,8 +33,8 @@ inline Corvane::Data::Generated::Guid const& KeyOf(auto const& entry)
     return entry.first;
 }
 
-/// Whether a hash table of these channels would take more than linear time: whether an entry finds, on average, more than
-/// `MostPerEntry` others in its bucket.
+/// Whether filling a hash table with these channels would take more than linear time: whether an entry finds, on
+/// average, more than `MostPerEntry` others in its bucket.
 template<typename TContainer>
 bool PilesUp(TContainer const& container)
 {

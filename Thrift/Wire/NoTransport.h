@@ -7,7 +7,8 @@
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Wire::Detail
 {
 
-/// A transport that is never open, for protocols that need none. One serves all, without counting who uses it.
+/// A transport that is never open, for protocols that need none. All protocols share one object, without reference
+/// counting.
 inline std::shared_ptr<apache::thrift::transport::TTransport> NoTransport()
 {
     static apache::thrift::transport::TTransport transport;

@@ -7,12 +7,12 @@
 namespace Talvo::Corvane::Data::Channels
 {
 
-/// Where a load starts or ends: at a time point (absolute), or a number of fields away from a reference (relative).
-/// A new one is absolute at TimePoint::Empty().
+/// The start or end of a load: a time point (absolute), or a number of fields from a reference (relative). A new
+/// boundary is absolute at TimePoint::Empty().
 class Boundary
 {
 public:
-    /// The reference of a relative boundary. The wire's numbers are higher by one.
+    /// The reference of a relative boundary. The numbers on the wire are higher by one.
     enum class RelativeTo : std::int32_t
     {
         RelativeToCorrespondingClipBoundary = 0,
@@ -20,22 +20,22 @@ public:
         RelativeToOppositeLoadBoundary = 2
     };
 
-    /// Takes any time point.
+    /// Builds an absolute boundary. Accepts any time point.
     static Boundary AbsoluteBoundary(TimePoints::TimePoint const& timepoint) noexcept;
 
-    /// Takes any reference and any count of fields.
+    /// Builds a relative boundary. Accepts any reference and any number of fields.
     static Boundary RelativeBoundary(RelativeTo relativeTo, unsigned int fieldCount) noexcept;
 
-    /// Whether it is a time point; else it is relative.
+    /// Whether the boundary is absolute; otherwise it is relative.
     bool IsAbsolute() const noexcept { return !isRelative_; }
 
-    /// The time point of an absolute boundary; TimePoint::Empty() of a relative one.
+    /// The time point of an absolute boundary; TimePoint::Empty() for a relative one.
     TimePoints::TimePoint const& Timepoint() const noexcept { return timepoint_; }
 
-    /// The reference of a relative boundary; the number 0 of an absolute one.
+    /// The reference of a relative boundary; the number 0 for an absolute one.
     RelativeTo GetRelativeTo() const noexcept { return relativeTo_; }
 
-    /// The fields of a relative boundary; 0 of an absolute one.
+    /// The number of fields of a relative boundary; 0 for an absolute one.
     unsigned int FieldCount() const noexcept { return fieldCount_; }
 
     bool operator==(Boundary const&) const = default;

@@ -8,13 +8,13 @@
 namespace Talvo::Corvane::Data::Channels
 {
 
-/// What the states of player and recorder channels have in common.
+/// The common fields of the states of player and recorder channels.
 class ChannelState
 {
 public:
     virtual ~ChannelState() = default;
 
-    /// Player or recorder, as the class is.
+    /// Player or recorder, depending on the class.
     virtual Guid::Type ChannelType() const noexcept = 0;
 
     bool operator==(ChannelState const&) const = default;

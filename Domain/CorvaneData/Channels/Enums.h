@@ -2,13 +2,13 @@
 
 #include <cstdint>
 
-// The enumerations of the channel family. A number outside its enumeration is a legal value of these types; the wire never
-// receives one.
+// The enumerations of the channel family. These types may hold numbers without an enumerator, which are never written
+// to the wire.
 
 namespace Talvo::Corvane::Data::Channels
 {
 
-/// What a player is doing.
+/// The current activity of a player.
 enum class PlayerModeStatus : std::int32_t
 {
     Idle = 0,
@@ -19,7 +19,7 @@ enum class PlayerModeStatus : std::int32_t
     Playing = 5
 };
 
-/// What a player is set up for.
+/// The mode that a player is configured for.
 enum class PlayerModeType : std::int32_t
 {
     Undefined = 0,
@@ -38,7 +38,7 @@ enum class PlayerModeType : std::int32_t
     PlaylistDiffusionNoSplit = 13
 };
 
-/// How a player goes on at the end of what it plays.
+/// What a player does at the end of its material.
 enum class PlayingLoopMode : std::int32_t
 {
     Unknown = 0,
@@ -47,7 +47,7 @@ enum class PlayingLoopMode : std::int32_t
     Bounce = 3
 };
 
-/// How a player goes from one item to the next.
+/// How a player changes from one item to the next.
 enum class PlayoutConfig : std::int32_t
 {
     Undefined = 0,
@@ -60,7 +60,7 @@ enum class PlayoutConfig : std::int32_t
     TimelineDiffusionCut = 7
 };
 
-/// What a recorder is doing.
+/// The current activity of a recorder.
 enum class RecorderModeStatus : std::int32_t
 {
     Idle = 0,

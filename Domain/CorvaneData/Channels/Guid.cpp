@@ -6,13 +6,13 @@ namespace Talvo::Corvane::Data::Channels
 namespace
 {
 
-// Layout: four 32-bit words, most significant byte first: type, channel index, machine serial, mark. The mark keeps an
-// identifier from being sixteen zeros when all its parts are 0.
+// Layout: four 32-bit words, most significant byte first: type, channel index, machine serial, mark. The mark prevents
+// an identifier whose parts are all 0 from being sixteen zeros.
 constexpr unsigned int ChannelIndexOffset = 4;
 constexpr unsigned int MachineSerialOffset = 8;
 constexpr std::uint32_t Mark = 1;
 
-// What the parts of a new identifier pack to, as a constant: a reply is built of dozens of them.
+// The bytes of a default identifier, as a constant because building a reply constructs dozens of them.
 constexpr unsigned char Undefined[Data::Guid::Size]{0, 0, 0, 2, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, Mark};
 
 Data::Guid Pack(std::uint32_t type, std::uint32_t channelIndex, std::uint32_t machineSerial) noexcept

@@ -10,14 +10,14 @@
 namespace Talvo::Corvane::Data::Channels
 {
 
-/// Identifier of a player or recorder channel. Its sixteen bytes carry a type, a channel index and the serial number of
-/// the machine, and survive a trip through the wire.
+/// Identifier of a player or recorder channel. Its sixteen bytes hold a type, a channel index and the serial number of
+/// the machine, and are unchanged by the wire.
 ///
 /// An identifier built from parts is never sixteen zero bytes, so it always differs from Data::Guid::Empty().
 class Guid : public Data::Guid
 {
 public:
-    /// What the channel is.
+    /// The type of the channel.
     enum class Type : std::int32_t
     {
         ChannelGuidTypePlayer = 0,
@@ -25,27 +25,28 @@ public:
         ChannelGuidTypeUndefined = 2
     };
 
-    /// Guid(Type::ChannelGuidTypeUndefined, 0, 0).
+    /// Constructs Guid(Type::ChannelGuidTypeUndefined, 0, 0).
     Guid() noexcept;
 
-    /// Any values are taken, and ChannelIndex() and MachineSerial() give them back.
+    /// Accepts any values; ChannelIndex() and MachineSerial() return them.
     Guid(Type type, int channelIndex, unsigned int machineSerial) noexcept;
 
-    /// Overwrites all sixteen bytes, whatever they say of the parts.
+    /// Overwrites all sixteen bytes, which then need not be valid parts.
     using Data::Guid::operator=;
 
-    /// The channel index in the bytes.
+    /// The channel index that the bytes hold.
     int ChannelIndex() const noexcept;
-    /// The serial number in the bytes.
+    /// The serial number that the bytes hold.
     unsigned int MachineSerial() const noexcept;
 
     bool operator==(Guid const&) const = default;
-    std::strong_ordering operator<=>(Guid const&) const = default; ///< of the bytes, as unsigned numbers
+    std::strong_ordering operator<=>(Guid const&) const = default; ///< compares the bytes as unsigned numbers
 };
 
 } // namespace Talvo::Corvane::Data::Channels
 
-/// Hash for unordered containers: from 0, for each byte in order, times 31 plus the byte, in 32-bit arithmetic.
+/// Hash for unordered containers. It starts at 0; for each byte in order it is multiplied by 31 and the byte is added,
+/// in 32-bit arithmetic.
 template<>
 struct std::hash<Talvo::Corvane::Data::Channels::Guid>
 {

@@ -7,11 +7,11 @@
 namespace Talvo::Corvane::Data::Channels
 {
 
-/// The clip on one output of a player, and where the output is in it.
+/// The clip on one output of a player, and the output's position in it.
 struct PlayerClipOnAir
 {
     Clips::Clip clipOnAir;
-    bool hasClipOnAir = false; ///< whether `clipOnAir` means anything
+    bool hasClipOnAir = false; ///< whether `clipOnAir` is valid
     TimePoints::TimePoint curTimePointOnAir;
     TimePoints::TimeCode todCurTimecodeOnAir;
     TimePoints::TimeCode userCurTimecodeOnAir;

@@ -12,8 +12,8 @@
 namespace Talvo::Corvane::Data::Channels
 {
 
-/// A full snapshot of a player channel. In a new one numbers and enumerations are 0, texts, time points and time codes
-/// empty, and no clip is on air.
+/// A full snapshot of a player channel. In a new one, numbers and enumerations are 0, texts, time points and time codes
+/// are empty, and no clip is on air.
 class PlayerState : public ChannelState
 {
 public:
@@ -26,7 +26,7 @@ public:
     PlayerModeStatus status{};
     PlayerModeType mode{};
 
-    // What is on air. The wire groups the fields from here to `limitUserOut` in a record of their own.
+    // What is on air. On the wire, the fields from here to `limitUserOut` are a separate record.
     PlayoutConfig playoutConfig{};
     PlayerModeStatus onAirStatus{};
     PlayerModeType onAirMode{};

@@ -12,8 +12,8 @@
 namespace Talvo::Corvane::Data::Channels
 {
 
-/// A full snapshot of a recorder channel. In a new one numbers and enumerations are 0, texts, time points and time codes
-/// empty, and no train is under recording.
+/// A full snapshot of a recorder channel. In a new one, numbers and enumerations are 0, texts, time points and time
+/// codes are empty, and no train is being recorded.
 class RecorderState : public ChannelState
 {
 public:
@@ -30,10 +30,10 @@ public:
     TimePoints::TimeCode lastTodTimecode;
     TimePoints::TimeCode lastUserTimecode;
     Clips::PrimaryTimecode primaryTimecodeType{};
-    bool hasRecorderTrain = false;       ///< whether `recorderTrain` means anything
+    bool hasRecorderTrain = false;       ///< whether `recorderTrain` is valid
     std::uint32_t remainingCapacity = 0; ///< never above `totalCapacity` once set from the wire
     std::uint32_t totalCapacity = 0;
-    Clips::Clip recorderTrain; ///< the clip under recording
+    Clips::Clip recorderTrain; ///< the clip being recorded
 };
 
 } // namespace Talvo::Corvane::Data::Channels

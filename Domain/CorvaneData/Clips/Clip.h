@@ -15,15 +15,15 @@ namespace Talvo::Corvane::Data::Clips
 /// Identifier text inside a clip: up to eight characters, then zero.
 using UmIdText = std::array<char, 9>;
 
-/// Replaces the identifier text: of a longer text the first eight characters are kept, a shorter one is padded with
+/// Replaces the identifier text: a longer text is cut to its first eight characters, a shorter one is padded with
 /// zeros. A zero inside the text ends it for every reader.
 /// @return whether the whole text fitted
 bool SetUmId(UmIdText& destination, std::string_view text) noexcept;
 
-/// A recorded clip: a plain record that owns no memory and is copied as bytes.
+/// A recorded clip. It owns no memory and is trivially copyable.
 ///
-/// Absence is a value: 0 of an enumeration, TimeCode::Empty(), TimePoint::Empty(), RecordingStatus::NotPresent. Two clips
-/// are equal if every field is, every byte of every text included.
+/// A value marks absence: 0 for an enumeration, TimeCode::Empty(), TimePoint::Empty(), RecordingStatus::NotPresent. Two
+/// clips are equal if all fields are equal, including every byte of every text.
 class Clip
 {
 public:
@@ -31,31 +31,31 @@ public:
     class Essence
     {
     public:
-        /// Sets all thirteen fields, whatever they held: `recordingStatus` NotPresent; metadata, compression types and
-        /// compression information to the neutral enumerators of the type (of LongGop: LongGopNone and LongGopXdCam, of
-        /// LowRes: LowResNone, LowResMjpeg and LowResMpeg1Layer2, of Intra: the zero ones); all else 0.
+        /// Resets all thirteen fields: `recordingStatus` to NotPresent; metadata, compression types and compression
+        /// information to the neutral enumerators of the type (for LongGop: LongGopNone and LongGopXdCam; for LowRes:
+        /// LowResNone, LowResMjpeg and LowResMpeg1Layer2; for Intra: those with the number 0); all other fields to 0.
         void Clear(Essences::Type type) noexcept;
 
-        Essences::Type Type() const noexcept { return type_; } ///< set by Clear() alone
+        Essences::Type Type() const noexcept { return type_; } ///< set only by Clear()
 
         /// Metadata of the encoding.
         Essences::Metadata Metadata() const noexcept { return metadata_; }
-        /// Takes any value, also one of another type.
+        /// Accepts any value, even one of another essence type.
         void Metadata(Essences::Metadata value) noexcept { metadata_ = value; }
 
-        /// Compression of the video.
+        /// The compression of the video.
         Essences::VideoCompressionType VideoCompressionType() const noexcept { return videoCompressionType_; }
-        /// Takes any value, also one of another type.
+        /// Accepts any value, even one of another essence type.
         void VideoCompressionType(Essences::VideoCompressionType value) noexcept { videoCompressionType_ = value; }
 
-        /// Compression of the audio.
+        /// The compression of the audio.
         Essences::AudioCompressionType AudioCompressionType() const noexcept { return audioCompressionType_; }
-        /// Takes any value, also one of another type.
+        /// Accepts any value, even one of another essence type.
         void AudioCompressionType(Essences::AudioCompressionType value) noexcept { audioCompressionType_ = value; }
 
-        /// Details of the compression of the video.
+        /// Details of the video compression.
         Essences::VideoCompressionInfo VideoCompressionInfo() const noexcept { return videoCompressionInfo_; }
-        /// Takes any value, also one of another type.
+        /// Accepts any value, even one of another essence type.
         void VideoCompressionInfo(Essences::VideoCompressionInfo value) noexcept { videoCompressionInfo_ = value; }
 
         bool operator==(Essence const&) const = default;
@@ -86,20 +86,21 @@ public:
         std::int32_t verticalFrameSize = 0;
     };
 
-    /// The defaults below; both in-bound time codes are DefaultTimecode(), and the three essences are cleared, each for
-    /// its own type.
+    /// Constructs a clip with the defaults below; both in-bound time codes are DefaultTimecode(), and the three
+    /// essences are cleared, each for its own type.
     Clip() noexcept;
 
-    /// A clip as Clip() builds it.
+    /// A clip in the state that Clip() constructs.
     static Clip const& Empty() noexcept;
 
-    /// 1900-01-01T00:00:00:00 at 50/1, dated, non-drop. It counts as present: it differs from TimeCode::Empty().
+    /// 1900-01-01T00:00:00:00 at 50/1, dated, non-drop. It counts as present, because it differs from
+    /// TimeCode::Empty().
     static TimePoints::TimeCode DefaultTimecode() noexcept;
 
     /// The standard that TrySetInBoundTodTimecode() and TrySetInBoundUserTimecode() check against.
     Clips::VideoStandard VideoStandard() const noexcept { return videoStandard_; }
 
-    /// Stores the standard, no more: the time codes are neither checked again nor changed.
+    /// Stores the standard. The time codes are neither checked again nor changed.
     void VideoStandard(Clips::VideoStandard standard) noexcept;
 
     /// The time-of-day time code of the in bound.
@@ -107,13 +108,13 @@ public:
     /// The user time code of the in bound.
     TimePoints::TimeCode const& InBoundUserTimecode() const noexcept { return inBoundUserTimecode_; }
 
-    /// Stores the time code and returns true, or stores nothing and returns false if its rate does not agree with the
-    /// video standard: Pal agrees with the nominal rates 25, 50 and 100, Ntsc with 24, 30, 48, 60 and 120.
-    /// Two values are accepted under any standard: DefaultTimecode(), so that a clip whose time codes were never set can
-    /// be copied field by field, and TimeCode::Empty(), which makes the time code absent.
+    /// Stores the time code and returns true, or stores nothing and returns false if its rate does not match the video
+    /// standard: Pal matches the nominal rates 25, 50 and 100; Ntsc matches 24, 30, 48, 60 and 120. Two values are
+    /// accepted under any standard: DefaultTimecode(), so that a clip whose time codes were never set can be copied
+    /// field by field, and TimeCode::Empty(), which makes the time code absent.
     bool TrySetInBoundTodTimecode(TimePoints::TimeCode const& timecode) noexcept;
 
-    /// As TrySetInBoundTodTimecode().
+    /// Does for the user time code what TrySetInBoundTodTimecode() does for the time-of-day time code.
     bool TrySetInBoundUserTimecode(TimePoints::TimeCode const& timecode) noexcept;
 
     bool operator==(Clip const&) const = default;
@@ -123,14 +124,14 @@ public:
     UmIdText fillAndKeyUmId = BlankUmId;
     UmIdText materialId = BlankUmId;
     FixedText<24> name;
-    FixedText<24> reservedName; ///< stays in the process
+    FixedText<24> reservedName; ///< not sent to the wire
     FixedText<32> varId;
     std::array<FixedText<12>, 5> keywords;
     std::array<unsigned char, 8> userBits{};
     bool is3D = false;
     bool isDual = false;
     bool isTwinRec = false;
-    bool reservedFlagA = false; ///< stays in the process, as the next two
+    bool reservedFlagA = false; ///< not sent to the wire, like the next two
     bool reservedFlagB = false;
     bool reservedFlagC = false;
     bool isLegacyTimecodeDrop = false;
@@ -155,8 +156,8 @@ public:
     PrimaryTimecode primaryTimecode = PrimaryTimecode::NotSet;
     Rating rating = Rating::None;
     PreferentialCamera preferentialCamera = PreferentialCamera::None;
-    std::int32_t reservedValue = 2; ///< stays in the process
-    std::int64_t inBoundField = 0;  ///< in fields, as the next three
+    std::int32_t reservedValue = 2; ///< not sent to the wire
+    std::int64_t inBoundField = 0;  ///< in fields, like the next three
     std::int64_t shortInBoundField = 0;
     std::int64_t shortOutBoundField = 0;
     std::int64_t outBoundField = 0;

@@ -2,13 +2,13 @@
 
 #include <cstdint>
 
-// The enumerations of the clip family. A number outside its enumeration is a legal value of these types; the wire never
-// receives one.
+// The enumerations of the clip family. These types may hold numbers without an enumerator, which are never written to
+// the wire.
 
 namespace Talvo::Corvane::Data::Clips
 {
 
-/// Whether the clip is a train, that is, a recording that runs on, and whether it is running.
+/// Whether the clip is a train, that is, a recording that can still grow, and whether it is running.
 enum class TrainStatus : std::int32_t
 {
     NotATrain = 0,
@@ -16,7 +16,7 @@ enum class TrainStatus : std::int32_t
     ActiveTrain = 2
 };
 
-/// What made the clip.
+/// The engine that created the clip.
 enum class SourceEngine : std::int32_t
 {
     None = 0,
@@ -89,7 +89,7 @@ enum class Camera : std::int32_t
     Z = 15
 };
 
-/// Active format description: how the picture lies in the coded frame.
+/// Active format description: the position of the picture in the coded frame.
 enum class AfdAspectRatio : std::int32_t
 {
     Unknown = 0,
@@ -117,7 +117,7 @@ enum class VideoFormat : std::int32_t
     Shv8k = 5
 };
 
-/// Video standard, which decides the nominal rates that the clip's time codes may have.
+/// Video standard. It determines the nominal rates that the clip's time codes may have.
 enum class VideoStandard : std::int32_t
 {
     Pal = 0,
@@ -149,7 +149,7 @@ enum class Rating : std::int32_t
     Best = 3
 };
 
-/// Standing of an angle in its group.
+/// Preference of an angle within its group.
 enum class PreferentialCamera : std::int32_t
 {
     None = 0,
@@ -197,7 +197,7 @@ enum class Metadata : std::int32_t
     LowResNone = 4
 };
 
-/// Storage block size. The numbers are this enumeration's own; the wire numbers the same names differently.
+/// Storage block size. The wire uses different numbers for the same names.
 enum class BlockSize : std::int32_t
 {
     Unknown = 0,

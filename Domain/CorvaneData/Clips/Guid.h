@@ -7,13 +7,13 @@
 namespace Talvo::Corvane::Data::Clips
 {
 
-/// Identifier of a clip; sixteen zero bytes when default-built.
+/// Identifier of a clip; sixteen zero bytes when default-constructed.
 class Guid : public Data::Guid
 {
 public:
     constexpr Guid() noexcept = default;
 
-    /// Takes the first sixteen bytes of the text at most, as raw bytes; what is missing is zero.
+    /// Takes at most the first sixteen bytes of the text, as raw bytes; missing bytes are zero.
     explicit Guid(std::string const& bytes) noexcept;
 
     using Data::Guid::operator=;

@@ -6,7 +6,7 @@
 namespace Talvo::Corvane::Data::Clips
 {
 
-/// A stretch that a train has recorded. A new one is empty in all four fields.
+/// A range that a train has recorded. In a new one all four fields are empty.
 struct RecordingRange
 {
     TimePoints::TimePoint rangeInTimePoint;

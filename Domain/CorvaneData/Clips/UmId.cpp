@@ -8,7 +8,7 @@ namespace Talvo::Corvane::Data::Clips
 void UmId::SetUmId(char const* text) noexcept
 {
     auto const length = strnlen(text, MaxLength);
-    std::memmove(text_.data(), text, length); // it may be a part of this one
+    std::memmove(text_.data(), text, length); // the source may be part of this text
     std::memset(text_.data() + length, 0, MaxLength - length);
 }
 

@@ -6,7 +6,7 @@
 namespace Talvo::Corvane::Multiviewer
 {
 
-/// The in and out points that a clip would be created with, either of which may be missing.
+/// The in and out points for creating a clip. Each may be missing.
 class ClipCreationBoundaries
 {
 public:

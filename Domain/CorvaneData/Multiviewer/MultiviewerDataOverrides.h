@@ -8,21 +8,21 @@
 namespace Talvo::Corvane::Multiviewer
 {
 
-/// The overrides of all players of a multiviewer, whose number is fixed when it is built.
+/// The overrides of all players of a multiviewer. The number of players is fixed at construction.
 class MultiviewerDataOverrides
 {
 public:
-    /// That many entries, each without any override.
+    /// Constructs `count` entries without overrides.
     explicit MultiviewerDataOverrides(std::uint32_t count);
 
-    /// The entry of that player. Nothing is checked: `index` is below `playerCount`.
+    /// The entry of a player. `index` is not checked; it must be below `playerCount`.
     PlayerDataOverrides& operator[](unsigned int const index) noexcept { return players_[index]; }
-    /// The entry of that player, as above.
+    /// The entry of a player. `index` is not checked; it must be below `playerCount`.
     PlayerDataOverrides const& operator[](unsigned int const index) const noexcept { return players_[index]; }
 
     bool operator==(MultiviewerDataOverrides const&) const = default;
 
-    std::uint32_t playerCount; ///< read only: the number of entries does not follow it
+    std::uint32_t playerCount; ///< read only; changing it does not change the number of entries
 
 private:
     std::vector<PlayerDataOverrides> players_;

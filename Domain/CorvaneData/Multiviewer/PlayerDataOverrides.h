@@ -11,7 +11,8 @@
 namespace Talvo::Corvane::Multiviewer
 {
 
-/// What a multiviewer shows of one player in place of the player's own data. All but the player may be missing.
+/// The data that a multiviewer shows for one player instead of the player's own. Every value except the player may be
+/// missing.
 class PlayerDataOverrides
 {
 public:
@@ -22,32 +23,32 @@ public:
 
     /// Whether the player is the first controlled media output.
     Data::Optional<bool> IsFirstControlledMediaOutput() const { return isFirstControlledMediaOutput_; }
-    /// Sets the override.
+    /// Sets whether the player is the first controlled media output.
     void IsFirstControlledMediaOutput(bool value) { isFirstControlledMediaOutput_ = value; }
 
     /// How the player is controlled.
     Data::Optional<ControlType> ControlMode() const { return controlMode_; }
-    /// Sets the override.
+    /// Sets how the player is controlled.
     void ControlMode(ControlType value) { controlMode_ = value; }
 
     /// Which output is shown.
     Data::Optional<ProgramType> ProgramMode() const { return programMode_; }
-    /// Sets the override.
+    /// Sets which output is shown.
     void ProgramMode(ProgramType value) { programMode_ = value; }
 
     /// Whether post-roll is enabled.
     Data::Optional<bool> IsPostRollEnabled() const { return isPostRollEnabled_; }
-    /// Sets the override.
+    /// Sets whether post-roll is enabled.
     void IsPostRollEnabled(bool value) { isPostRollEnabled_ = value; }
 
-    /// The text that is shown.
+    /// The text to show.
     Data::Optional<std::string> Message() const { return message_; }
-    /// Sets the override.
+    /// Sets the text to show.
     void Message(std::string const& value) { message_ = value; }
 
-    /// The in and out points that a clip would be created with, to be changed in place.
+    /// The in and out points for creating a clip, as a mutable reference.
     ClipCreationBoundaries& GetClipCreationBoudaries() noexcept { return clipCreationBoundaries_; }
-    /// The in and out points that a clip would be created with.
+    /// The in and out points for creating a clip.
     ClipCreationBoundaries const& GetClipCreationBoudaries() const noexcept { return clipCreationBoundaries_; }
 
     bool operator==(PlayerDataOverrides const&) const = default;
@@ -62,7 +63,7 @@ private:
     ClipCreationBoundaries clipCreationBoundaries_;
 
 public:
-    // Carried along when the record is copied; they stay in the process.
+    // Copied with the object, but not sent to the wire.
     Data::Optional<std::int32_t> reservedValueA;
     Data::Optional<std::int32_t> reservedValueB;
 };

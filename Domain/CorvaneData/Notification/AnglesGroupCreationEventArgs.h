@@ -6,10 +6,10 @@
 namespace Talvo::Corvane::Notification
 {
 
-/// An angles group is being made.
+/// Event: an angles group is being created.
 struct AnglesGroupCreationEventArgs : ClipCommandEventArgs
 {
-    /// The other numbers of the clip command are 0, its source is `Unknown`.
+    /// Constructs the event; the other numbers of the clip command block are 0, and its source is `Unknown`.
     AnglesGroupCreationEventArgs(long long revision, Data::Guid const& guid,
                                  Data::Clips::Groups::AnglesGroup const& value)
         : ClipCommandEventArgs(0, RequestSource::Unknown, 0, 0, guid, revision)

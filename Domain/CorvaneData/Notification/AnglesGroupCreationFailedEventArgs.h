@@ -8,7 +8,7 @@
 namespace Talvo::Corvane::Notification
 {
 
-/// An angles group could not be made.
+/// Event: an angles group could not be created.
 struct AnglesGroupCreationFailedEventArgs : AnglesGroupCreationEventArgs
 {
     using AnglesGroupCreationEventArgs::AnglesGroupCreationEventArgs;

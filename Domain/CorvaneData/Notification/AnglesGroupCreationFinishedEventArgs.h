@@ -5,7 +5,7 @@
 namespace Talvo::Corvane::Notification
 {
 
-/// An angles group was made.
+/// Event: an angles group was created.
 struct AnglesGroupCreationFinishedEventArgs : AnglesGroupCreationEventArgs
 {
     using AnglesGroupCreationEventArgs::AnglesGroupCreationEventArgs;

@@ -5,7 +5,7 @@
 namespace Talvo::Corvane::Notification
 {
 
-/// An angles group was deleted.
+/// Event: an angles group was deleted.
 struct AnglesGroupDeletionFinishedEventArgs : AnglesGroupDeletionEventArgs
 {
     using AnglesGroupDeletionEventArgs::AnglesGroupDeletionEventArgs;

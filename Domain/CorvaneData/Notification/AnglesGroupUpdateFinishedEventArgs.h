@@ -5,7 +5,7 @@
 namespace Talvo::Corvane::Notification
 {
 
-/// An angles group was changed.
+/// Event: an angles group was updated.
 struct AnglesGroupUpdateFinishedEventArgs : AnglesGroupUpdateEventArgs
 {
     using AnglesGroupUpdateEventArgs::AnglesGroupUpdateEventArgs;

@@ -7,10 +7,10 @@
 namespace Talvo::Corvane::Notification
 {
 
-/// What became of a command on clips: the block that all events of clips begin with.
+/// The common base of all clip events: the clip command block, which describes the command.
 struct ClipCommandEventArgs : CommandEventArgs
 {
-    /// Where the command came from.
+    /// The origin of the command.
     enum class RequestSource : std::int32_t
     {
         Local = 0,
@@ -18,7 +18,7 @@ struct ClipCommandEventArgs : CommandEventArgs
         Unknown = 2
     };
 
-    /// `subCommandIndex` is 0.
+    /// Constructs the block; `subCommandIndex` is 0.
     ClipCommandEventArgs(unsigned int machineSerial, RequestSource source, unsigned int number, unsigned short ticket,
                          Data::Guid const& guid, long long revision)
         : CommandEventArgs(guid)

@@ -8,10 +8,10 @@
 namespace Talvo::Corvane::Notification
 {
 
-/// A clip is being made.
+/// Event: a clip is being created.
 struct ClipCreationEventArgs : ClipCommandEventArgs
 {
-    /// How the clip is made.
+    /// How the clip is created.
     enum class CreationType : std::int32_t
     {
         Make = 0,
@@ -21,7 +21,7 @@ struct ClipCreationEventArgs : ClipCommandEventArgs
         Unknown = 4
     };
 
-    /// The network that the clip comes over. `Unknown` stands between the plain and the push values.
+    /// The network that transfers the clip. `Unknown` is between the plain and the push values.
     enum class NetworkType : std::int32_t
     {
         Sdti = 0,
@@ -32,7 +32,7 @@ struct ClipCreationEventArgs : ClipCommandEventArgs
         PushUnknown = 5
     };
 
-    /// The block of ClipCommandEventArgs, then the own fields in their order.
+    /// Takes the fields of ClipCommandEventArgs, then the event's own fields in their order.
     ClipCreationEventArgs(unsigned int machineSerialNumber, RequestSource source, unsigned int number,
                           unsigned short ticket, Data::Guid const& guid, long long revision,
                           Data::Clips::Clip const& firstClip, Data::Clips::Clip const& secondClip,

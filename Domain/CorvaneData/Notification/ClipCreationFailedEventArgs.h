@@ -8,10 +8,11 @@
 namespace Talvo::Corvane::Notification
 {
 
-/// A clip could not be made.
+/// Event: a clip could not be created.
 struct ClipCreationFailedEventArgs : ClipCreationEventArgs
 {
-    /// The block of ClipCommandEventArgs, then result and internal result, then the fields of ClipCreationEventArgs.
+    /// Takes the fields of ClipCommandEventArgs, then result and internal result, then the fields of
+    /// ClipCreationEventArgs.
     ClipCreationFailedEventArgs(unsigned int machineSerialNumber, RequestSource source, unsigned int number,
                                 unsigned short ticket, Data::Guid const& guid, long long revision,
                                 Data::OperationResult operationResult, short internal,

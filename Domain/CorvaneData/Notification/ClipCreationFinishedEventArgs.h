@@ -5,10 +5,10 @@
 namespace Talvo::Corvane::Notification
 {
 
-/// A clip was made.
+/// Event: a clip was created.
 struct ClipCreationFinishedEventArgs : ClipCreationEventArgs
 {
-    /// As ClipCreationEventArgs.
+    /// Takes the same arguments as ClipCreationEventArgs.
     using ClipCreationEventArgs::ClipCreationEventArgs;
 
     bool operator==(ClipCreationFinishedEventArgs const&) const = default;

@@ -8,10 +8,10 @@
 namespace Talvo::Corvane::Notification
 {
 
-/// A clip is being deleted.
+/// Event: a clip is being deleted.
 struct ClipDeletionEventArgs : ClipCommandEventArgs
 {
-    /// The block of ClipCommandEventArgs, then the own fields in their order.
+    /// Takes the fields of ClipCommandEventArgs, then the event's own fields in their order.
     ClipDeletionEventArgs(unsigned int machineSerialNumber, RequestSource source, unsigned int number,
                           unsigned short ticket, Data::Guid const& guid, long long revision,
                           Data::Clips::Clip const& clip, unsigned char byteA, unsigned char byteB)
@@ -25,7 +25,7 @@ struct ClipDeletionEventArgs : ClipCommandEventArgs
     bool operator==(ClipDeletionEventArgs const&) const = default;
 
     Data::Clips::Clip removedClip;
-    std::uint8_t reservedByteA; ///< stays in the process, as the next one
+    std::uint8_t reservedByteA; ///< not sent to the wire, like the next one
     std::uint8_t reservedByteB;
 };
 

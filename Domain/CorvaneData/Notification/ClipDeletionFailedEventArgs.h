@@ -8,11 +8,11 @@
 namespace Talvo::Corvane::Notification
 {
 
-/// A clip could not be deleted.
+/// Event: a clip could not be deleted.
 struct ClipDeletionFailedEventArgs : ClipDeletionEventArgs
 {
-    /// The block of ClipCommandEventArgs, then result and internal result, the fields of
-    /// ClipDeletionEventArgs, and the own three.
+    /// Takes the fields of ClipCommandEventArgs, then result and internal result, the fields of ClipDeletionEventArgs,
+    /// and the event's own three.
     ClipDeletionFailedEventArgs(unsigned int machineSerialNumber, RequestSource source, unsigned int number,
                                 unsigned short ticket, Data::Guid const& guid, long long revision,
                                 Data::OperationResult operationResult, short internal, Data::Clips::Clip const& clip,

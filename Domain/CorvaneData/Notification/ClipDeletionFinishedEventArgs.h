@@ -5,10 +5,10 @@
 namespace Talvo::Corvane::Notification
 {
 
-/// A clip was deleted.
+/// Event: a clip was deleted.
 struct ClipDeletionFinishedEventArgs : ClipDeletionEventArgs
 {
-    /// As ClipDeletionEventArgs.
+    /// Takes the same arguments as ClipDeletionEventArgs.
     using ClipDeletionEventArgs::ClipDeletionEventArgs;
 
     bool operator==(ClipDeletionFinishedEventArgs const&) const = default;

@@ -8,10 +8,10 @@
 namespace Talvo::Corvane::Notification
 {
 
-/// A clip could not be moved.
+/// Event: a clip could not be moved.
 struct ClipMoveFailedEventArgs : ClipMoveEventArgs
 {
-    /// The block of ClipCommandEventArgs, then result and internal result, then the fields of ClipMoveEventArgs.
+    /// Takes the fields of ClipCommandEventArgs, then result and internal result, then the fields of ClipMoveEventArgs.
     ClipMoveFailedEventArgs(unsigned int machineSerialNumber, RequestSource source, unsigned int number,
                             unsigned short ticket, Data::Guid const& guid, long long revision,
                             Data::OperationResult operationResult, short internal, Data::Clips::Clip const& firstClip,

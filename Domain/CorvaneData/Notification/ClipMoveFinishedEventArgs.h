@@ -5,10 +5,10 @@
 namespace Talvo::Corvane::Notification
 {
 
-/// A clip was moved.
+/// Event: a clip was moved.
 struct ClipMoveFinishedEventArgs : ClipMoveEventArgs
 {
-    /// As ClipMoveEventArgs.
+    /// Takes the same arguments as ClipMoveEventArgs.
     using ClipMoveEventArgs::ClipMoveEventArgs;
 
     bool operator==(ClipMoveFinishedEventArgs const&) const = default;

@@ -5,7 +5,7 @@
 namespace Talvo::Corvane::Notification
 {
 
-/// A clip has another state.
+/// Base of events that report a new state of a clip.
 struct ClipStatusEventArgs : StatusEventArgs
 {
     bool operator==(ClipStatusEventArgs const&) const = default;

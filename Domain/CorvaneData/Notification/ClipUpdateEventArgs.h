@@ -6,10 +6,10 @@
 namespace Talvo::Corvane::Notification
 {
 
-/// A clip is being changed.
+/// Event: a clip is being updated.
 struct ClipUpdateEventArgs : ClipCommandEventArgs
 {
-    /// The block of ClipCommandEventArgs, then the own fields in their order.
+    /// Takes the fields of ClipCommandEventArgs, then the event's own fields in their order.
     ClipUpdateEventArgs(unsigned int machineSerialNumber, RequestSource source, unsigned int number,
                         unsigned short ticket, Data::Guid const& guid, long long revision,
                         Data::Clips::Clip const& firstClip, Data::Clips::Clip const& secondClip)

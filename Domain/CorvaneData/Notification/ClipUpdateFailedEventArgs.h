@@ -8,10 +8,11 @@
 namespace Talvo::Corvane::Notification
 {
 
-/// A clip could not be changed.
+/// Event: a clip could not be updated.
 struct ClipUpdateFailedEventArgs : ClipUpdateEventArgs
 {
-    /// The block of ClipCommandEventArgs, then result and internal result, then the fields of ClipUpdateEventArgs.
+    /// Takes the fields of ClipCommandEventArgs, then result and internal result, then the fields of
+    /// ClipUpdateEventArgs.
     ClipUpdateFailedEventArgs(unsigned int machineSerialNumber, RequestSource source, unsigned int number,
                               unsigned short ticket, Data::Guid const& guid, long long revision,
                               Data::OperationResult operationResult, short internal, Data::Clips::Clip const& firstClip,

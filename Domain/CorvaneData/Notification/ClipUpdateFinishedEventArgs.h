@@ -5,10 +5,10 @@
 namespace Talvo::Corvane::Notification
 {
 
-/// A clip was changed.
+/// Event: a clip was updated.
 struct ClipUpdateFinishedEventArgs : ClipUpdateEventArgs
 {
-    /// The block of ClipCommandEventArgs, then the own field, then those of ClipUpdateEventArgs.
+    /// Takes the fields of ClipCommandEventArgs, then the event's own field, then those of ClipUpdateEventArgs.
     ClipUpdateFinishedEventArgs(unsigned int machineSerialNumber, RequestSource source, unsigned int number,
                                 unsigned short ticket, Data::Guid const& guid, long long revision, bool endOfGrowing,
                                 Data::Clips::Clip const& firstClip, Data::Clips::Clip const& secondClip)
@@ -19,7 +19,7 @@ struct ClipUpdateFinishedEventArgs : ClipUpdateEventArgs
 
     bool operator==(ClipUpdateFinishedEventArgs const&) const = default;
 
-    bool endOfGrowingClipCreation; ///< the clip has stopped growing
+    bool endOfGrowingClipCreation; ///< whether the clip has stopped growing
 };
 
 } // namespace Talvo::Corvane::Notification

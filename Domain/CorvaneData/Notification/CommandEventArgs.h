@@ -5,10 +5,10 @@
 namespace Talvo::Corvane::Notification
 {
 
-/// What became of a command.
+/// Base of events that report the progress of a command.
 struct CommandEventArgs
 {
-    /// Of the command with that identifier.
+    /// Constructs the event of the command with that identifier.
     explicit CommandEventArgs(Data::Guid const& guid)
         : commandGuid(guid)
     {

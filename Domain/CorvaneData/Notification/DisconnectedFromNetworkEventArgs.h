@@ -5,7 +5,7 @@
 namespace Talvo::Corvane::Notification
 {
 
-/// A server was disconnected from the network.
+/// Event: a server was disconnected from the network.
 struct DisconnectedFromNetworkEventArgs
 {
     Data::Servers::ServerId serverId = Data::Servers::ServerId::None();

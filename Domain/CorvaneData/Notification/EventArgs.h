@@ -3,7 +3,7 @@
 namespace Talvo::System
 {
 
-/// What an event tells; the root of its class tree.
+/// The base class of event data.
 struct EventArgs
 {
     EventArgs() = default;

@@ -8,10 +8,11 @@
 namespace Talvo::Corvane::Notification
 {
 
-/// The clips of a machine could not be deleted.
+/// Event: the clips of a machine could not be deleted.
 struct MassClipDeletionFailedEventArgs : MassClipDeletionEventArgs
 {
-    /// The block of ClipCommandEventArgs, then result and internal result, then the field of MassClipDeletionEventArgs.
+    /// Takes the fields of ClipCommandEventArgs, then result and internal result, then the field of
+    /// MassClipDeletionEventArgs.
     MassClipDeletionFailedEventArgs(unsigned int machineSerialNumber, RequestSource source, unsigned int number,
                                     unsigned short ticket, Data::Guid const& guid, long long revision,
                                     Data::OperationResult operationResult, short internal, unsigned int serial)

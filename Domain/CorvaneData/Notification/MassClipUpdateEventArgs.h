@@ -7,10 +7,10 @@
 namespace Talvo::Corvane::Notification
 {
 
-/// All clips of a machine were changed.
+/// Event: all clips of a machine were updated.
 struct MassClipUpdateEventArgs : ClipCommandEventArgs
 {
-    /// The block of ClipCommandEventArgs, then the own field.
+    /// Takes the fields of ClipCommandEventArgs, then the event's own field.
     MassClipUpdateEventArgs(unsigned int machineSerialNumber, RequestSource source, unsigned int number,
                             unsigned short ticket, Data::Guid const& guid, long long revision, unsigned int serial)
         : ClipCommandEventArgs(machineSerialNumber, source, number, ticket, guid, revision)

@@ -8,10 +8,11 @@
 namespace Talvo::Corvane::Notification
 {
 
-/// The clips of a machine could not be changed.
+/// Event: the clips of a machine could not be updated.
 struct MassClipUpdateFailedEventArgs : MassClipUpdateEventArgs
 {
-    /// The block of ClipCommandEventArgs, then result and internal result, then the field of MassClipUpdateEventArgs.
+    /// Takes the fields of ClipCommandEventArgs, then result and internal result, then the field of
+    /// MassClipUpdateEventArgs.
     MassClipUpdateFailedEventArgs(unsigned int machineSerialNumber, RequestSource source, unsigned int number,
                                   unsigned short ticket, Data::Guid const& guid, long long revision,
                                   Data::OperationResult operationResult, short internal, unsigned int serial)

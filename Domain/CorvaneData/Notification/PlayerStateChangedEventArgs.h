@@ -8,7 +8,7 @@
 namespace Talvo::Corvane::Notification
 {
 
-/// A player channel has another state.
+/// Event: the state of a player channel has changed.
 struct PlayerStateChangedEventArgs
 {
     Data::Channels::Guid channelGuid;

@@ -8,7 +8,7 @@
 namespace Talvo::Corvane::Notification
 {
 
-/// A recorder channel has another state.
+/// Event: the state of a recorder channel has changed.
 struct RecorderStateChangedEventArgs
 {
     Data::Channels::Guid channelGuid;

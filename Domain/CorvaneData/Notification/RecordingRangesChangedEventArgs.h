@@ -9,7 +9,7 @@
 namespace Talvo::Corvane::Notification
 {
 
-/// A recorder has other recording ranges.
+/// Event: the recording ranges of a recorder have changed.
 struct RecordingRangesChangedEventArgs : ClipStatusEventArgs
 {
     bool operator==(RecordingRangesChangedEventArgs const&) const = default;

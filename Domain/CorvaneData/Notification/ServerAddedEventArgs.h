@@ -7,10 +7,10 @@
 namespace Talvo::Corvane::Notification
 {
 
-/// A server was added.
+/// Event: a server was added.
 struct ServerAddedEventArgs : ServerStatusEventArgs
 {
-    /// Takes any values.
+    /// Constructs the event from any values.
     ServerAddedEventArgs(Data::Servers::ServerId id, Data::Servers::ServerInfo const& info)
         : serverId(id)
         , serverInfo(info)
@@ -20,7 +20,7 @@ struct ServerAddedEventArgs : ServerStatusEventArgs
     bool operator==(ServerAddedEventArgs const&) const = default;
 
     Data::Servers::ServerId serverId;
-    Data::Servers::ServerInfo serverInfo; ///< has an identifier of its own, which need not agree
+    Data::Servers::ServerInfo serverInfo; ///< has its own identifier, which may differ
 };
 
 } // namespace Talvo::Corvane::Notification

@@ -5,7 +5,7 @@
 namespace Talvo::Corvane::Notification
 {
 
-/// A server was removed.
+/// Event: a server was removed.
 struct ServerRemovedEventArgs
 {
     Data::Servers::ServerId serverId = Data::Servers::ServerId::None();

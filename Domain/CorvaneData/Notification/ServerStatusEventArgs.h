@@ -5,7 +5,7 @@
 namespace Talvo::Corvane::Notification
 {
 
-/// A server has another state.
+/// Base of events that report a new state of a server.
 struct ServerStatusEventArgs : StatusEventArgs
 {
     bool operator==(ServerStatusEventArgs const&) const = default;

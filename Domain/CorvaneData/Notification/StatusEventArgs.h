@@ -5,7 +5,7 @@
 namespace Talvo::Corvane::Notification
 {
 
-/// Something has another state.
+/// Base of events that report a new state.
 struct StatusEventArgs : System::EventArgs
 {
     bool operator==(StatusEventArgs const&) const = default;

@@ -12,7 +12,7 @@
 namespace Talvo::Corvane::Data::Sequences
 {
 
-/// One item of a timeline: a stretch of a clip with its boundaries, transition, tags and speed.
+/// One item of a timeline: a part of a clip with its boundaries, transition, tags and speed.
 struct Element
 {
     std::int32_t id = 0;

@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
-// The enumerations of the sequence family; those of tags stand with Tag and TagProperty. A number outside its
-// enumeration is a legal value of these types; the wire never receives one.
+// The enumerations of the sequence family; those of tags are declared in Tag and TagProperty. These types may hold
+// numbers without an enumerator, which are never written to the wire.
 
 namespace Talvo::Corvane::Data::Sequences
 {
@@ -17,7 +17,7 @@ enum class BoundaryType : std::int32_t
     RelativeSelfOpposite = 3
 };
 
-/// Where a transition lies about the cut.
+/// The position of a transition relative to the cut.
 enum class EffectPosition : std::int32_t
 {
     None = 0,
@@ -26,7 +26,7 @@ enum class EffectPosition : std::int32_t
     Center = 3
 };
 
-/// Where an element stands still.
+/// Where an element is frozen.
 enum class StillMode : std::int32_t
 {
     None = 0,
@@ -92,7 +92,7 @@ enum class TimeCodeRegenSource : std::int32_t
     UserBitsAndTimecodeOfFirstAudioTrack = 3
 };
 
-/// Where a regenerated time code is put out. `All` is a mask; the wire numbers it 3.
+/// The outputs of a regenerated time code. `All` is a mask; its number on the wire is 3.
 enum class TimeCodeRegenOutput : std::int32_t
 {
     None = 0,
@@ -101,7 +101,7 @@ enum class TimeCodeRegenOutput : std::int32_t
     All = 65535
 };
 
-/// How far a regenerated time code runs on.
+/// How far a regenerated time code continues.
 enum class TimeCodeRegenType : std::int32_t
 {
     FullPlaylist = 0,

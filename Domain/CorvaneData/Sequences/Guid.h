@@ -5,7 +5,7 @@
 namespace Talvo::Corvane::Data::Sequences
 {
 
-/// Identifier of a sequence or playlist; sixteen zero bytes when default-built.
+/// Identifier of a sequence or playlist; sixteen zero bytes when default-constructed.
 class Guid : public Data::Guid
 {
 public:

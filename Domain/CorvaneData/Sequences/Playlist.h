@@ -8,10 +8,10 @@
 namespace Talvo::Corvane::Data::Sequences
 {
 
-/// An edited timeline: its header, its track, and the clip of its auxiliary track. A copy is deep.
+/// An edited timeline: its header, its track, and the clip of its auxiliary track. Copies are deep.
 struct Playlist : Sequence
 {
-    /// A playlist with all the defaults.
+    /// A playlist in which all fields have their defaults.
     static Playlist const& Empty();
 
     bool operator==(Playlist const&) const = default;

@@ -16,7 +16,7 @@ namespace Talvo::Corvane::Data::Sequences
 /// The header of an edited timeline.
 struct Sequence
 {
-    /// The defaults below; `timeCodeRegenReference` is Clip::DefaultTimecode().
+    /// Constructs a header with the defaults below; `timeCodeRegenReference` is Clip::DefaultTimecode().
     Sequence() noexcept;
 
     bool operator==(Sequence const&) const = default;

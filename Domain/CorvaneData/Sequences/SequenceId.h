@@ -7,13 +7,13 @@
 namespace Talvo::Corvane::Data::Sequences
 {
 
-/// Where a sequence is kept: a server and a location number on it, 0 to 109.
+/// The place of a sequence: a server and a location number on it, 0 to 109.
 class SequenceId
 {
 public:
     static constexpr std::uint32_t MaxLocation = 109;
 
-    /// Location 0 of no server.
+    /// Constructs location 0 of no server.
     SequenceId() noexcept = default;
 
     /// Throws std::invalid_argument "SequenceId.Location : invalid location number" if the location is above 109.

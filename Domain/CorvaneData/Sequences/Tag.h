@@ -8,10 +8,10 @@
 namespace Talvo::Corvane::Data::Sequences
 {
 
-/// A command at a field position of an element, with its properties, of which each key has one at most.
+/// A command at a field position of an element, with at most one property per key.
 struct Tag
 {
-    /// What the tag asks for.
+    /// The action that the tag requests.
     enum class CommandType : std::int32_t
     {
         Custom = 0,
@@ -31,7 +31,7 @@ struct Tag
         VirtualElementName = 14
     };
 
-    /// `id` and `field` are 0, and there are no properties.
+    /// Constructs a tag of that type with `id` and `field` 0 and without properties.
     explicit Tag(CommandType type)
         : commandType(type)
     {

@@ -6,10 +6,10 @@
 namespace Talvo::Corvane::Data::Sequences
 {
 
-/// One property of a tag: a list of integers and the type that says how to read it.
+/// One property of a tag: a list of integers and the type that says how to interpret them.
 struct TagProperty
 {
-    /// How the integers are read. No converter reads the integers by it.
+    /// How to interpret the integers. Converters copy the integers without interpreting them.
     enum class Type : std::int32_t
     {
         Boolean = 0,
@@ -18,7 +18,7 @@ struct TagProperty
         Vector = 3
     };
 
-    /// What the property is about; the key of Tag::properties.
+    /// The meaning of the property, which is the key in Tag::properties.
     enum class Key : std::int32_t
     {
         Value = 0,
@@ -41,10 +41,10 @@ struct TagProperty
         TriggerType = 17
     };
 
-    /// An `Integer` without a value.
+    /// Constructs an `Integer` without a value.
     TagProperty() = default;
 
-    /// An `Integer` with that one value.
+    /// Constructs an `Integer` with one value.
     explicit TagProperty(int integer)
         : value{integer}
     {

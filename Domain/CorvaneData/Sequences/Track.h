@@ -6,7 +6,7 @@
 namespace Talvo::Corvane::Data::Sequences
 {
 
-/// The elements of a timeline, or only their number where they were not loaded: no elements and a number above 0.
+/// The elements of a timeline. If they are not loaded, there are no elements and their number is above 0.
 template<typename T>
 struct Track
 {

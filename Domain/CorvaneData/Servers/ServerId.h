@@ -5,17 +5,17 @@
 namespace Talvo::Corvane::Data::Servers
 {
 
-/// Number of a server in its network.
+/// The number of a server in its network.
 class ServerId
 {
 public:
-    /// Takes any number.
+    /// Accepts any number.
     explicit constexpr ServerId(std::int32_t value) noexcept
         : value_(value)
     {
     }
 
-    /// No server: -1.
+    /// The value for "no server": -1.
     static ServerId const& None() noexcept;
 
     /// The number.

@@ -23,7 +23,7 @@ struct ServerInfo
     std::array<char, 255> hostName{};        ///< up to 254 characters, then zero
     IpAddress kronoIpAddress{};
     std::array<IpAddress, 2> gbeIpAddressPair{};
-    bool hasNoGbeAddresses = true; ///< whether `gbeIpAddressPair` means nothing
+    bool hasNoGbeAddresses = true; ///< whether `gbeIpAddressPair` is invalid
     bool isLocal = false;
 
     bool operator==(ServerInfo const&) const = default;

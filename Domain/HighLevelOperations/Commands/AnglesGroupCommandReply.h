@@ -9,10 +9,10 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// What became of an angles group and its clips. Can be moved, not copied.
+/// The result of a command on an angles group and its clips. It can be moved but not copied.
 struct AnglesGroupCommandReply : CommandReply
 {
-    /// A default status, and no clips under the same identifier.
+    /// Constructs a reply with a default status and a nested reply without clips for the same command.
     AnglesGroupCommandReply(Corvane::Data::Guid const& guid, Corvane::Data::Clips::Groups::Guid const& group)
         : CommandReply(guid)
         , groupGuid(group)

@@ -11,7 +11,7 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// Has players go on with a clip each.
+/// Makes each player continue with a clip.
 struct ChainCommandParams : CommandParams
 {
     bool operator==(ChainCommandParams const&) const = default;

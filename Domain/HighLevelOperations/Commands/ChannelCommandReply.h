@@ -10,12 +10,12 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// What became of a command on each of its channels, twelve at most.
+/// The result of a command for each of its channels, of which there are at most twelve.
 struct ChannelCommandReply : CommandReply
 {
     static constexpr std::size_t MaxResults = 12;
 
-    /// Default results only, none of which counts.
+    /// Constructs a reply with default results, none of which counts.
     explicit ChannelCommandReply(Corvane::Data::Guid const& guid)
         : CommandReply(guid)
     {
@@ -30,7 +30,7 @@ struct ChannelCommandReply : CommandReply
     }
 
     std::array<ChannelResult, MaxResults> results;
-    std::int32_t resultCount = 0; ///< how many of `results` count
+    std::int32_t resultCount = 0; ///< the number of `results` that count
 };
 
 } // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands

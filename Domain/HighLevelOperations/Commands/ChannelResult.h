@@ -6,7 +6,7 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// What became of a command on one channel.
+/// The result of a command on one channel.
 struct ChannelResult
 {
     Corvane::Data::Channels::Guid channel;

@@ -9,17 +9,17 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// What became of the clips of a command. Can be moved, not copied.
+/// The results of the clips of a command. It can be moved but not copied.
 struct ClipCommandReply : CommandReply
 {
-    /// That many default items.
+    /// Constructs a reply with `count` default items.
     ClipCommandReply(Corvane::Data::Guid const& guid, std::size_t count)
         : CommandReply(guid)
         , results(count)
     {
     }
 
-    // A vector claims to be copyable, whatever it holds.
+    // Declared because a vector claims to be copyable even if its elements are not.
     ClipCommandReply(ClipCommandReply&&) = default;
     ClipCommandReply& operator=(ClipCommandReply&&) = default;
 

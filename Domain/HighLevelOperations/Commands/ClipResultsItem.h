@@ -8,17 +8,17 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// What became of one clip. Can be moved, not copied.
+/// The result of a command on one clip. It can be moved but not copied.
 class ClipResultsItem
 {
 public:
-    /// What became of it.
+    /// The status of the item.
     Corvane::Data::OperationStatus const& OperationStatus() const noexcept { return operationStatus_; }
 
-    /// A status other than `Succeeded` destroys the held clip.
+    /// Sets the status. A status other than `Succeeded` destroys the held clip.
     void OperationStatus(Corvane::Data::OperationStatus const& status) noexcept;
 
-    /// The clip of an item that succeeded, else Clip::Empty().
+    /// The clip of an item that succeeded, otherwise Clip::Empty().
     Corvane::Data::Clips::Clip const& Clip() const noexcept;
 
 private:

@@ -5,10 +5,10 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// What a client asks of the server.
+/// The parameters of a command from a client to the server.
 struct CommandParams
 {
-    /// With a new identifier, from Guid::Generate().
+    /// Constructs parameters with a new identifier from Guid::Generate().
     CommandParams();
 
     CommandParams(CommandParams const&) = default;
@@ -19,7 +19,7 @@ struct CommandParams
 
     bool operator==(CommandParams const&) const = default;
 
-    Corvane::Data::Guid commandGuid; ///< identifies the command, and its reply
+    Corvane::Data::Guid commandGuid; ///< identifies the command and its reply
 };
 
 } // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands

@@ -26,16 +26,16 @@ enum class ReplyType : std::int32_t
     GetMultiviewerData = 13
 };
 
-/// What the server answers to a command.
+/// The reply of the server to a command.
 ///
-/// It has no comparison: a derived class that inherited one would be compared without its own fields. A derived class has
-/// a comparison of all its fields, or none.
+/// It has no comparison, because a derived class that inherited one would be compared without its own fields. A derived
+/// class compares all its fields, or has no comparison.
 struct CommandReply
 {
-    /// Answers Guid::Empty().
+    /// Constructs a reply to the command Guid::Empty().
     CommandReply() noexcept = default;
 
-    /// Answers the command with that identifier.
+    /// Constructs a reply to the command with that identifier.
     explicit CommandReply(Corvane::Data::Guid const& guid) noexcept
         : commandGuid(guid)
     {
@@ -50,7 +50,7 @@ struct CommandReply
     /// The kind of the reply, fixed for each class.
     virtual ReplyType GetType() const noexcept = 0;
 
-    Corvane::Data::Guid commandGuid; ///< the command that is answered
+    Corvane::Data::Guid commandGuid; ///< the command that this replies to
 };
 
 } // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands

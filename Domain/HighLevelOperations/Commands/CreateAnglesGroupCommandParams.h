@@ -9,13 +9,13 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// Asks for an angles group to be created, with its clips.
+/// Requests the creation of an angles group with its clips.
 struct CreateAnglesGroupCommandParams : CommandParams
 {
     bool operator==(CreateAnglesGroupCommandParams const&) const = default;
 
     std::int32_t groupKviIndex = 0;
-    CreateClipsCommandParams creationParams; ///< with an identifier of its own
+    CreateClipsCommandParams creationParams; ///< has its own identifier
 };
 
 } // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands

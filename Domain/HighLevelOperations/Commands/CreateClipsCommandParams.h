@@ -10,10 +10,10 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// Asks for clips to be created.
+/// Requests the creation of clips.
 struct CreateClipsCommandParams : CommandParams
 {
-    /// One clip to be created.
+    /// One clip to create.
     struct CreateClipParams
     {
         Corvane::Data::Clips::Guid sourceId{std::string()};

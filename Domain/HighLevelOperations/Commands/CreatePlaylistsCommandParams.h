@@ -8,7 +8,7 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// Asks for playlists to be created.
+/// Requests the creation of playlists.
 struct CreatePlaylistsCommandParams : CommandParams
 {
     bool operator==(CreatePlaylistsCommandParams const&) const = default;

@@ -7,7 +7,7 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// Asks for an angles group to be deleted.
+/// Requests the deletion of an angles group.
 struct DeleteAnglesGroupCommandParams : CommandParams
 {
     bool operator==(DeleteAnglesGroupCommandParams const&) const = default;

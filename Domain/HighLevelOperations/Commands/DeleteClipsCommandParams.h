@@ -8,7 +8,7 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// Asks for clips to be deleted.
+/// Requests the deletion of clips.
 struct DeleteClipsCommandParams : CommandParams
 {
     bool operator==(DeleteClipsCommandParams const&) const = default;

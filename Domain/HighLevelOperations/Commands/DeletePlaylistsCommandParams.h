@@ -9,7 +9,7 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// Asks for playlists to be deleted.
+/// Requests the deletion of playlists.
 struct DeletePlaylistsCommandParams : CommandParams
 {
     bool operator==(DeletePlaylistsCommandParams const&) const = default;

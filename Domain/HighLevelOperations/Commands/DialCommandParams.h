@@ -9,7 +9,7 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// Turns players as a jog wheel does.
+/// Moves players like a jog wheel.
 struct DialCommandParams : CommandParams
 {
     bool operator==(DialCommandParams const&) const = default;

@@ -8,10 +8,10 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// The command was refused.
+/// The reply to a command that was rejected.
 struct FailureReply : CommandReply
 {
-    /// Answers that command with that text.
+    /// Constructs a reply to that command with that text.
     FailureReply(Corvane::Data::Guid const& guid, std::string text)
         : CommandReply(guid)
         , error(std::move(text))

@@ -6,7 +6,7 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// Asks for all angles groups.
+/// Requests all angles groups.
 struct GetAnglesGroupsCommandParams : CommandParams
 {
     bool operator==(GetAnglesGroupsCommandParams const&) const = default;

@@ -5,7 +5,7 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// Asks for the states of all channels.
+/// Requests the states of all channels.
 struct GetChannelsCommandParams : CommandParams
 {
     bool operator==(GetChannelsCommandParams const&) const = default;

@@ -5,7 +5,7 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// Asks for all clips.
+/// Requests all clips.
 struct GetClipsCommandParams : CommandParams
 {
     bool operator==(GetClipsCommandParams const&) const = default;

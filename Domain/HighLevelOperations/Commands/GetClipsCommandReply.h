@@ -12,12 +12,12 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// All clips, read once through a cursor: MoveNext() goes before the first read. Copies share the items and have a cursor
-/// of their own. Reading moves the cursor, so one object belongs to one thread.
+/// All clips, read once through a cursor: call MoveNext() before reading the first item. Copies share the items but
+/// have their own cursor. Reading moves the cursor, so an object must not be shared between threads.
 class GetClipsCommandReply : public CommandReply
 {
 public:
-    /// Answers that command with those items.
+    /// Constructs a reply to that command with those items.
     GetClipsCommandReply(Corvane::Data::Guid const& guid, long long revisionNumber,
                          std::list<Corvane::Data::Clips::Clip>&& items)
         : CommandReply(guid)
@@ -28,16 +28,16 @@ public:
 
     ReplyType GetType() const noexcept override { return ReplyType::GetClips; }
 
-    /// Goes on to the next item, and tells whether there is one.
+    /// Moves to the next item and returns whether there is one.
     bool MoveNext() const noexcept { return items_.MoveNext(); }
 
-    /// The item that the last MoveNext() went on to.
+    /// The item that the last MoveNext() moved to.
     Corvane::Data::Clips::Clip const& CurrentClip() const { return items_.Current(); }
 
-    /// How many items MoveNext() still has to give.
+    /// The number of items that MoveNext() has not yet reached.
     std::size_t RemainingCount() const noexcept { return items_.RemainingCount(); }
 
-    std::int64_t revision; ///< of the server's database
+    std::int64_t revision; ///< the revision of the server's database
 
 private:
     ItemCursor<Corvane::Data::Clips::Clip> items_;

@@ -5,7 +5,7 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// Asks for the overrides of the multiviewer.
+/// Requests the overrides of the multiviewer.
 struct GetMultiviewerDataCommandParams : CommandParams
 {
     bool operator==(GetMultiviewerDataCommandParams const&) const = default;

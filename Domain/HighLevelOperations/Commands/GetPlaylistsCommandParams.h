@@ -9,10 +9,10 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// Asks for playlists.
+/// Requests playlists.
 struct GetPlaylistsCommandParams : CommandParams
 {
-    /// How the elements of the playlists are given. The numbers are those of the wire's `ElementConversionMode`.
+    /// How the playlists' elements are returned. The numbers are those of `ElementConversionMode` on the wire.
     enum class ElementMode : std::int32_t
     {
         Lazy = 0,
@@ -23,7 +23,7 @@ struct GetPlaylistsCommandParams : CommandParams
     bool operator==(GetPlaylistsCommandParams const&) const = default;
 
     ElementMode elementMode = ElementMode::Lazy;
-    Corvane::Data::Sequences::Guid idFilter; ///< Guid::Empty() asks for all
+    Corvane::Data::Sequences::Guid idFilter; ///< Guid::Empty() requests all
 };
 
 } // namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands

@@ -10,10 +10,10 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// The playlists that were asked for.
+/// The requested playlists.
 struct GetPlaylistsCommandReply : CommandReply
 {
-    /// Answers that command with those items.
+    /// Constructs a reply to that command with those items.
     GetPlaylistsCommandReply(Corvane::Data::Guid const& guid, long long revisionNumber,
                              std::vector<Corvane::Data::Sequences::Playlist>&& items)
         : CommandReply(guid)
@@ -30,7 +30,7 @@ struct GetPlaylistsCommandReply : CommandReply
         return commandGuid == other.commandGuid && revision == other.revision && playlists == other.playlists;
     }
 
-    std::int64_t revision; ///< of the server's database
+    std::int64_t revision; ///< the revision of the server's database
     std::vector<Corvane::Data::Sequences::Playlist> playlists;
 };
 

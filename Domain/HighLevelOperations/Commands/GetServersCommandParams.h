@@ -7,10 +7,10 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// Asks for the descriptions of servers.
+/// Requests the descriptions of servers.
 struct GetServersCommandParams : CommandParams
 {
-    /// The numbers are those of the wire.
+    /// The servers that are requested. The numbers are those of the wire.
     enum class ServerRange : std::int32_t
     {
         Local = 0,

@@ -5,7 +5,7 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// Asks for all trains.
+/// Requests all trains.
 struct GetTrainsCommandParams : CommandParams
 {
     bool operator==(GetTrainsCommandParams const&) const = default;

@@ -9,17 +9,17 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// All trains. Can be moved, not copied.
+/// All trains. It can be moved but not copied.
 struct GetTrainsCommandReply : CommandReply
 {
     GetTrainsCommandReply() = default;
-    // A vector claims to be copyable, whatever it holds.
+    // Declared because a vector claims to be copyable even if its elements are not.
     GetTrainsCommandReply(GetTrainsCommandReply&&) = default;
     GetTrainsCommandReply& operator=(GetTrainsCommandReply&&) = default;
 
     ReplyType GetType() const noexcept override { return ReplyType::GetTrains; }
 
-    std::int64_t dbRevision = 0; ///< of the server's database
+    std::int64_t dbRevision = 0; ///< the revision of the server's database
     std::vector<Corvane::Data::Clips::Train> trains;
 };
 

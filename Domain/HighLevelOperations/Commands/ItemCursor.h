@@ -8,13 +8,13 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// A list that is read once, from front to back. Copies share the items, which nobody changes, and each stands where the
-/// one it was copied from stood.
+/// A list that is read once, from front to back. Copies share the items, which never change, and start at the position
+/// of the original.
 template<typename T>
 class ItemCursor
 {
 public:
-    /// Stands before the first item.
+    /// Constructs a cursor before the first item.
     explicit ItemCursor(std::list<T>&& items)
         : items_(std::make_shared<std::list<T> const>(std::move(items)))
         , next_(items_->begin())
@@ -22,12 +22,12 @@ public:
     {
     }
 
-    /// Copied where it could be moved: one that was moved from can still be read.
+    /// There is no move constructor: moving copies, so a moved-from cursor can still be read.
     ItemCursor(ItemCursor const&) = default;
     ItemCursor& operator=(ItemCursor const&) = default;
     ~ItemCursor() = default;
 
-    /// Goes on to the next item, and tells whether there is one.
+    /// Moves to the next item and returns whether there is one.
     bool MoveNext() const noexcept
     {
         if (remainingCount_ == 0) return false;
@@ -36,10 +36,10 @@ public:
         return true;
     }
 
-    /// The item that the last MoveNext() went on to.
+    /// The item that the last MoveNext() moved to.
     T const& Current() const noexcept { return *current_; }
 
-    /// How many items MoveNext() still has to give.
+    /// The number of items that MoveNext() has not yet reached.
     std::size_t RemainingCount() const noexcept { return remainingCount_; }
 
 private:

@@ -8,7 +8,7 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// Has players follow a player each.
+/// Makes each player follow another player.
 struct LiveCommandParams : CommandParams
 {
     bool operator==(LiveCommandParams const&) const = default;

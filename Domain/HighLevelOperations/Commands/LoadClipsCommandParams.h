@@ -11,10 +11,10 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// Loads players with a clip each.
+/// Loads a clip into each player.
 struct LoadClipsCommandParams : CommandParams
 {
-    /// What one player gets.
+    /// The parameters of one player.
     struct PlayerParam
     {
         Corvane::Data::Clips::Guid clip;

@@ -10,10 +10,10 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// Loads players with a sequence each.
+/// Loads a sequence into each player.
 struct LoadSequencesCommandParams : CommandParams
 {
-    /// What one player gets.
+    /// The parameters of one player.
     struct PlayerParam
     {
         Corvane::Data::Sequences::Guid sequence;

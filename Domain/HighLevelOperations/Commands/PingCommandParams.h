@@ -5,7 +5,7 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// Asks the server for a sign of life.
+/// Checks whether the server responds.
 struct PingCommandParams : CommandParams
 {
     bool operator==(PingCommandParams const&) const = default;

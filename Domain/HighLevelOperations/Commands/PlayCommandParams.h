@@ -9,7 +9,7 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// Starts players at a speed, a fraction of normal speed.
+/// Starts players at a speed, given as a fraction of normal speed.
 struct PlayCommandParams : CommandParams
 {
     bool operator==(PlayCommandParams const&) const = default;

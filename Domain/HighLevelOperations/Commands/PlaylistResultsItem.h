@@ -8,14 +8,14 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// What became of one playlist. Can be moved, not copied.
+/// The result of a command on one playlist. It can be moved but not copied.
 class PlaylistResultsItem
 {
 public:
-    /// What became of it.
+    /// The status of the item.
     Corvane::Data::OperationStatus const& OperationStatus() const noexcept { return operationStatus_; }
 
-    /// A status other than `Succeeded` destroys the held playlist.
+    /// Sets the status. A status other than `Succeeded` destroys the held playlist.
     void OperationStatus(Corvane::Data::OperationStatus const& status) noexcept;
 
 private:

@@ -9,10 +9,10 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// Sets where the loads of players start and end.
+/// Sets the start and end of the loads of players.
 struct SetLoadBoundariesCommandParams : CommandParams
 {
-    /// What one player gets.
+    /// The parameters of one player.
     struct PlayerParam
     {
         Corvane::Data::Channels::Boundary inBoundary;

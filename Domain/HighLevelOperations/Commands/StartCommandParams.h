@@ -8,7 +8,7 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// Starts recorders. The wire calls it `StartRecordingCommandParams`.
+/// Starts recorders. Its name on the wire is `StartRecordingCommandParams`.
 struct StartCommandParams : CommandParams
 {
     bool operator==(StartCommandParams const&) const = default;

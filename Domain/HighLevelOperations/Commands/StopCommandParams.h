@@ -8,7 +8,7 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// Stops recorders. The wire calls it `StopRecordingCommandParams`.
+/// Stops recorders. Its name on the wire is `StopRecordingCommandParams`.
 struct StopCommandParams : CommandParams
 {
     bool operator==(StopCommandParams const&) const = default;

@@ -5,7 +5,7 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// The command was carried out.
+/// The reply to a command that succeeded.
 struct SuccessReply : CommandReply
 {
     ReplyType GetType() const noexcept override { return ReplyType::Success; }

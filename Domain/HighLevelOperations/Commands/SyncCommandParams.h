@@ -9,7 +9,7 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// Puts players to where another one is.
+/// Moves players to the position of another player.
 struct SyncCommandParams : CommandParams
 {
     bool operator==(SyncCommandParams const&) const = default;

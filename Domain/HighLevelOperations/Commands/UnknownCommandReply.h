@@ -8,10 +8,10 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// The server does not know the command.
+/// The reply to a command that the server does not know.
 struct UnknownCommandReply : CommandReply
 {
-    /// Answers that command; `text` becomes `commandType`.
+    /// Constructs a reply to that command; `text` becomes `commandType`.
     UnknownCommandReply(Corvane::Data::Guid const& guid, std::string text)
         : CommandReply(guid)
         , commandType(std::move(text))

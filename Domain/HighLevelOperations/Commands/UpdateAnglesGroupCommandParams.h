@@ -9,7 +9,7 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// Asks for other angles to be the primary or secondary one of a group.
+/// Requests other primary or secondary angles for a group.
 struct UpdateAnglesGroupCommandParams : CommandParams
 {
     bool operator==(UpdateAnglesGroupCommandParams const&) const = default;

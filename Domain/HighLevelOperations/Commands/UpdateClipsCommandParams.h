@@ -8,10 +8,10 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// Asks for clips to be changed.
+/// Requests the update of clips.
 struct UpdateClipsCommandParams : CommandParams
 {
-    /// One clip to be changed, as it was and as it shall be.
+    /// One clip to update: its old and its new state.
     struct UpdateClipParams
     {
         Corvane::Data::Clips::Clip oldClip;

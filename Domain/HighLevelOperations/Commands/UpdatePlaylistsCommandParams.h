@@ -8,10 +8,10 @@
 namespace Talvo::Corvane::Zelmar::HighLevelOperations::Commands
 {
 
-/// Asks for playlists to be changed.
+/// Requests the update of playlists.
 struct UpdatePlaylistsCommandParams : CommandParams
 {
-    /// One playlist to be changed, as it was and as it shall be. The name is spelled so.
+    /// One playlist to update: its old and its new state. The spelling of the name is intended.
     struct UpdatPlaylistsParams
     {
         Corvane::Data::Sequences::Playlist oldPlaylist;

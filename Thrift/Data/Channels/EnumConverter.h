@@ -5,15 +5,16 @@
 #include "generated/PlayerState_types.h"
 #include "generated/RecorderState_types.h"
 
-/// The enumerations of the channel family between the domain and the wire.
+/// Converts the enumerations of the channel family between the domain and the wire.
 ///
-/// Every function maps by its table and can't fail: a value outside the table gives the number 0 of the result.
+/// Every function looks its value up in a table and can't fail: a value outside the table gives the number 0 of the
+/// result.
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Channels::EnumConverter
 {
 
 /// @{
 
-/// The value on the other side, by the table of the enumeration.
+/// Returns the value on the other side from the enumeration's table.
 Generated::PlayerModeStatus::type ToGeneratedEnum(Corvane::Data::Channels::PlayerModeStatus value) noexcept;
 Corvane::Data::Channels::PlayerModeStatus FromGeneratedEnum(Generated::PlayerModeStatus::type value) noexcept;
 

@@ -15,9 +15,9 @@ namespace Generated
 class LoadBoundary;
 } // namespace Generated
 
-/// Writes a domain `Boundary` into the wire record `LoadBoundary`, a union told by hand: `type` says which of the two
-/// members counts. It can't fail. The member that doesn't count keeps value and flag, so a record that is used again
-/// may hold both; a reference outside RelativeTo leaves `type` as it was.
+/// Writes a domain `Boundary` into the wire record `LoadBoundary`. It can't fail. The record is a hand-written union:
+/// `type` says which of the two members counts. The other member keeps its value and flag, so a reused record may hold
+/// both. A reference outside RelativeTo leaves `type` unchanged.
 class LoadBoundaryToThriftConverter : public Converter<Corvane::Data::Channels::Boundary, Generated::LoadBoundary>
 {
 public:

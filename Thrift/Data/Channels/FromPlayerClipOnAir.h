@@ -17,9 +17,9 @@ class PlayerClipOnAir;
 
 /// Writes a domain `PlayerClipOnAir` into the wire record `PlayerClipOnAir`. It can't fail.
 ///
-/// The clip travels only if `hasClipOnAir` says so, the time point and time codes only if they are not empty; what
-/// stays off the wire keeps value and flag. A time code that is undated or has a frame above 99 goes out as a text
-/// that can't be read again: ThriftToPlayerClipOnAirConverter ends the process on it.
+/// The clip is written only if `hasClipOnAir` is true, the time point and time codes only if they are not empty; fields
+/// that are not written keep their value and flag. A time code that is undated or has a frame above 99 is written as a
+/// text that can't be read back: ThriftToPlayerClipOnAirConverter ends the process on it.
 class PlayerClipOnAirToThriftConverter
     : public Converter<Corvane::Data::Channels::PlayerClipOnAir, Generated::PlayerClipOnAir>
 {

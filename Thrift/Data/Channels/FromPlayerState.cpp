@@ -26,7 +26,7 @@ void SendInfoOnAir(Corvane::Data::Channels::PlayerState const& source, Generated
         TALVO_FLAGGED(destination, playoutConfig) = ToGeneratedEnum(source.playoutConfig);
     TALVO_FLAGGED(destination, status) = ToGeneratedEnum(source.onAirStatus);
     TALVO_FLAGGED(destination, mode) = ToGeneratedEnum(source.onAirMode);
-    // A speed travels as a pair, or not at all.
+    // A speed is written as a pair, or not at all.
     if (source.commonSpeedNumerator != 0 && source.commonSpeedDenominator != 0)
     {
         TALVO_FLAGGED(destination, commonSpeedNumerator) = source.commonSpeedNumerator;

@@ -17,12 +17,12 @@ class PlayerState;
 
 /// Writes a domain `PlayerState` into the wire record `PlayerState`. It can't fail.
 ///
-/// The destination is expected to be new and is not reset. These stay off the wire, with value and flag as they were:
-/// empty time points and time codes, a `globalLoopMode` or `playoutConfig` of 0, and a speed of which numerator or
-/// denominator is 0, which is lost as a pair. A time code that is undated or has a frame above
-/// 99 goes out as a text that ThriftToPlayerStateConverter skips.
+/// The destination should be new; it is not reset. These fields are not written, and their value and flag are
+/// unchanged: empty time points and time codes, a `globalLoopMode` or `playoutConfig` of 0, and a speed whose numerator
+/// or denominator is 0; both numbers are then lost. A time code that is undated or has a frame above 99 is written as a
+/// text that ThriftToPlayerStateConverter skips.
 ///
-/// Lost on the way: domain enumerators outside their table, which travel as 0.
+/// Lost: domain enumerators outside their table, which are written as 0.
 class PlayerStateToThriftConverter : public Converter<Corvane::Data::Channels::PlayerState, Generated::PlayerState>
 {
 public:

@@ -17,12 +17,12 @@ class RecorderState;
 
 /// Writes a domain `RecorderState` into the wire record `RecorderState`. It can't fail.
 ///
-/// The destination is expected to be new and is not reset. These stay off the wire, with value and flag as they were:
-/// empty time points and time codes, a `primaryTimecodeType` of 0, and the clip unless `hasRecorderTrain` says that
-/// there is one. A time code that is undated or has a frame above 99 goes out as a text that
-/// ThriftToRecorderStateConverter skips.
+/// The destination should be new; it is not reset. These fields are not written, and their value and flag are
+/// unchanged: empty time points and time codes, a `primaryTimecodeType` of 0, and the clip if `hasRecorderTrain` is
+/// false. A time code that is undated or has a frame above 99 is written as a text that ThriftToRecorderStateConverter
+/// skips.
 ///
-/// Lost on the way: domain enumerators outside their table, which travel as 0.
+/// Lost: domain enumerators outside their table, which are written as 0.
 class RecorderStateToThriftConverter
     : public Converter<Corvane::Data::Channels::RecorderState, Generated::RecorderState>
 {

@@ -23,7 +23,7 @@ Boundary::RelativeTo Reference(LoadBoundaryType::type const type) noexcept
         return Boundary::RelativeTo::RelativeToCorrespondingClipBoundary;
     case LoadBoundaryType::RelativeToOppositeClipBoundary:
         return Boundary::RelativeTo::RelativeToOppositeClipBoundary;
-    default: // unknown types too
+    default: // including unknown types
         return Boundary::RelativeTo::RelativeToOppositeLoadBoundary;
     }
 }

@@ -15,12 +15,12 @@ namespace Generated
 class LoadBoundary;
 } // namespace Generated
 
-/// Replaces a domain `Boundary` by the wire record `LoadBoundary`.
+/// Replaces a domain `Boundary` with the wire record `LoadBoundary`.
 ///
 /// Failure: "LoadBoundary is empty" when the flag of `type`, of `specializedLoadBoundary` or of the member that `type`
-/// asks for is clear; the destination is then unchanged.
+/// selects is clear; the destination is then unchanged.
 ///
-/// Lost on the way: the high word of a field count; an unknown type reads as RelativeToOppositeLoadBoundary.
+/// Lost: the high word of a field count; an unknown type reads as RelativeToOppositeLoadBoundary.
 class ThriftToLoadBoundaryConverter : public Converter<Generated::LoadBoundary, Corvane::Data::Channels::Boundary>
 {
 public:

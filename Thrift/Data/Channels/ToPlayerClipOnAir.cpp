@@ -28,7 +28,7 @@ ThriftToPlayerClipOnAirConverter::ToOrThrow(Generated::PlayerClipOnAir const& so
         destination.hasClipOnAir = true;
     }
     if (isset.curTimePointOnAir) destination.curTimePointOnAir = {source.curTimePointOnAir};
-    // Both read unguarded, unlike the time codes of the player state around this record.
+    // Both are read unguarded, unlike the time codes of the enclosing player state.
     if (isset.todCurTimecodeOnAir)
         destination.todCurTimecodeOnAir = ParseTimeCode("todCurTimecodeOnAir", source.todCurTimecodeOnAir);
     if (isset.userCurTimecodeOnAir)

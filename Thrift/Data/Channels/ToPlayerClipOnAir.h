@@ -15,22 +15,22 @@ namespace Generated
 class PlayerClipOnAir;
 } // namespace Generated
 
-/// Applies the fields of the wire record `PlayerClipOnAir` whose flag is set to a domain `PlayerClipOnAir`, as it
-/// stands. None at all is no failure.
+/// Applies the fields of the wire record `PlayerClipOnAir` whose flag is set to a domain `PlayerClipOnAir`. The
+/// destination is not reset. A record without any set flag is not a failure.
 ///
-/// A clip replaces the one of the destination and sets `hasClipOnAir`, which nothing clears.
+/// A clip replaces the destination's and sets `hasClipOnAir`, which is never cleared.
 ///
-/// Failures: any of ThriftToClipConverter, from `clipOnAir`; the destination is then unchanged.
+/// Failures: any failure of ThriftToClipConverter, from `clipOnAir`; the destination is then unchanged.
 ///
-/// Ends the process: a `todCurTimecodeOnAir` or `userCurTimecodeOnAir` that is no time code text, and what ends it in
-/// ThriftToClipConverter.
+/// Ends the process: a `todCurTimecodeOnAir` or `userCurTimecodeOnAir` that is not a valid time code text, and anything
+/// that ends it in ThriftToClipConverter.
 ///
-/// Lost on the way: of the clip what ThriftToClipConverter loses.
+/// Lost: for the clip, what ThriftToClipConverter loses.
 class ThriftToPlayerClipOnAirConverter
     : public Converter<Generated::PlayerClipOnAir, Corvane::Data::Channels::PlayerClipOnAir>
 {
 public:
-    /// As To(), but throws BadValue for what ends the process there.
+    /// Like To(), but throws BadValue where To() ends the process.
     ConversionResult ToOrThrow(Generated::PlayerClipOnAir const& source,
                                Corvane::Data::Channels::PlayerClipOnAir& destination) const;
 

@@ -23,7 +23,7 @@ using EnumConverter::FromGeneratedEnum;
 namespace
 {
 
-/// Most fields are taken whatever their own flags say.
+/// Most fields are read regardless of their own flags.
 void ReadInfoOnAir(Generated::PlayerInfoOnAir const& source, Corvane::Data::Channels::PlayerState& destination) noexcept
 {
     auto const& isset = source.__isset;
@@ -102,8 +102,8 @@ ConversionResult ThriftToPlayerStateConverter::ToOrThrow(Generated::PlayerState 
     if (seen(isset.userPgmOutTimecodeOnAir))
         AssignGuarded(destination.userPgmOutTimecodeOnAir, source.userPgmOutTimecodeOnAir);
     if (seen(isset.globalLoopMode)) destination.globalLoopMode = FromGeneratedEnum(source.globalLoopMode);
-    // The boundaries don't count as seen, though they are applied: a record that holds nothing else fails. One that is
-    // refused replaces the destination's all the same, by a new one.
+    // The boundaries are applied but don't count as seen: a record that holds nothing else fails. A boundary that is
+    // rejected still replaces the destination's, with a new one.
     if (isset.inBoundary) destination.inBoundary = ReadBoundary(source.inBoundary);
     if (isset.outBoundary) destination.outBoundary = ReadBoundary(source.outBoundary);
 

@@ -15,26 +15,27 @@ namespace Generated
 class PlayerState;
 } // namespace Generated
 
-/// Applies the fields of the wire record `PlayerState` whose flag is set to a domain `PlayerState`, as it stands.
+/// Applies the fields of the wire record `PlayerState` whose flag is set to a domain `PlayerState`. The destination is
+/// not reset.
 ///
-/// With `infoOnAir` set, its fields are taken whatever their own flags say, but for `playoutConfig` and the two speeds,
-/// each of which needs both of its flags.
+/// If `infoOnAir` is set, its fields are read regardless of their own flags, except `playoutConfig` and the two speeds;
+/// each speed needs both of its flags.
 ///
-/// Failures, with what was applied before them left in the destination:
-/// - any of ThriftToPlayerClipOnAirConverter, from `pgmOnAir` or `previewOnAir`.
-/// - "PlayerState is empty": no field was there. `inBoundary` and `outBoundary` don't count, yet they are applied.
+/// Failures, with the fields before them already applied:
+/// - any failure of ThriftToPlayerClipOnAirConverter, from `pgmOnAir` or `previewOnAir`.
+/// - "PlayerState is empty": no field is set. `inBoundary` and `outBoundary` don't count, but are applied.
 ///
-/// Ends the process: what ends it in ThriftToPlayerClipOnAirConverter. The eight time codes of this record itself
-/// don't.
+/// Ends the process: anything that ends it in ThriftToPlayerClipOnAirConverter. The eight time codes of this record
+/// itself don't end it.
 ///
-/// Lost on the way: a time code that is no time code text is skipped; a boundary that ThriftToLoadBoundaryConverter
-/// refuses replaces the destination's by a new one; a name above 24 bytes is cut; the high words of `serial` and
-/// `audioPgmInstructionDecSpeedD`; unknown enumeration numbers read as 0; of the clips on air what ThriftToClipConverter
-/// loses.
+/// Lost: an invalid time code text is skipped; a boundary that ThriftToLoadBoundaryConverter rejects replaces the
+/// destination's with a new one; a name above 24 bytes is cut; the high words of `serial` and
+/// `audioPgmInstructionDecSpeedD`; unknown enumeration numbers read as 0; for the clips on air, what
+/// ThriftToClipConverter loses.
 class ThriftToPlayerStateConverter : public Converter<Generated::PlayerState, Corvane::Data::Channels::PlayerState>
 {
 public:
-    /// As To(), but throws BadValue for what ends the process there.
+    /// Like To(), but throws BadValue where To() ends the process.
     ConversionResult ToOrThrow(Generated::PlayerState const& source,
                                Corvane::Data::Channels::PlayerState& destination) const;
 

@@ -37,7 +37,7 @@ ConversionResult ThriftToRecorderStateConverter::ToOrThrow(Generated::RecorderSt
     if (seen(isset.lastUserTimecode)) AssignGuarded(destination.lastUserTimecode, source.lastUserTimecode);
     if (seen(isset.primaryTimecodeType))
         destination.primaryTimecodeType = Clips::EnumConverter::FromGeneratedEnum(source.primaryTimecodeType);
-    // In this order, so that of two capacities in one record the total decides.
+    // In this order, so that the total decides if a record has both capacities.
     if (seen(isset.remainingCapacity))
     {
         destination.remainingCapacity = LowWord(source.remainingCapacity);

@@ -15,24 +15,25 @@ namespace Generated
 class RecorderState;
 } // namespace Generated
 
-/// Applies the fields of the wire record `RecorderState` whose flag is set to a domain `RecorderState`, as it stands.
+/// Applies the fields of the wire record `RecorderState` whose flag is set to a domain `RecorderState`. The destination
+/// is not reset.
 ///
-/// The remaining capacity never ends above the total one: a new remaining capacity raises the total, then a new total
-/// lowers what remains. A clip replaces the one of the destination and sets `hasRecorderTrain`, which nothing clears.
+/// The remaining capacity never exceeds the total: a new remaining capacity raises the total, then a new total lowers
+/// the remaining capacity. A clip replaces the destination's and sets `hasRecorderTrain`, which is never cleared.
 ///
-/// Failures, with what was applied before them left in the destination:
-/// - any of ThriftToClipConverter, from `recorderTrain`.
-/// - "RecorderState is empty": no field was there.
+/// Failures, with the fields before them already applied:
+/// - any failure of ThriftToClipConverter, from `recorderTrain`.
+/// - "RecorderState is empty": no field is set.
 ///
-/// Ends the process: what ends it in ThriftToClipConverter.
+/// Ends the process: anything that ends it in ThriftToClipConverter.
 ///
-/// Lost on the way: a time code that is no time code text is skipped; a name above 24 bytes is cut; the high words of
-/// `serial` and of the capacities; unknown enumeration numbers read as 0; of the clip what ThriftToClipConverter loses.
+/// Lost: an invalid time code text is skipped; a name above 24 bytes is cut; the high words of `serial` and of the
+/// capacities; unknown enumeration numbers read as 0; for the clip, what ThriftToClipConverter loses.
 class ThriftToRecorderStateConverter
     : public Converter<Generated::RecorderState, Corvane::Data::Channels::RecorderState>
 {
 public:
-    /// As To(), but throws BadValue for what ends the process there.
+    /// Like To(), but throws BadValue where To() ends the process.
     ConversionResult ToOrThrow(Generated::RecorderState const& source,
                                Corvane::Data::Channels::RecorderState& destination) const;
 

@@ -4,15 +4,16 @@
 #include "generated/Clip_types.h"
 #include "generated/Essences_types.h"
 
-/// The enumerations of the clip family between the domain and the wire.
+/// Converts the enumerations of the clip family between the domain and the wire.
 ///
-/// Every function maps by its table and can't fail: a value outside the table gives the number 0 of the result.
+/// Every function looks its value up in a table and can't fail: a value outside the table gives the number 0 of the
+/// result.
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips::EnumConverter
 {
 
 /// @{
 
-/// The value on the other side, by the table of the enumeration.
+/// Returns the value on the other side from the enumeration's table.
 Generated::TrainStatus::type ToGeneratedEnum(Corvane::Data::Clips::TrainStatus value) noexcept;
 Corvane::Data::Clips::TrainStatus FromGeneratedEnum(Generated::TrainStatus::type value) noexcept;
 

@@ -18,7 +18,7 @@ AnglesGroupToThriftConverter::To(Corvane::Data::Clips::Groups::AnglesGroup const
 {
     static GuidToThriftConverter const guidConverter;
 
-    // An empty angle does not travel; a later one of the same camera replaces an earlier one. Most come in camera order.
+    // An empty angle is not written; a later angle of the same camera replaces an earlier one. Most come in camera order.
     auto const send = [&destination](Angle const& angle, Generated::PreferentialCamera::type const preference)
     {
         if (angle == Angle::Empty()) return Success();

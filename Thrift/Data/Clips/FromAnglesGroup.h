@@ -17,8 +17,9 @@ namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips
 
 /// Writes a domain `Groups::AnglesGroup` into the wire record `AnglesGroup`. It can't fail.
 ///
-/// The wire map is cleared first and then holds one item a camera, in the order of the cameras: the primary angle
-/// marked `Primary`, the secondary one `Secondary`, all others `None`. Angles that equal `Angle::Empty()` don't travel.
+/// The wire map is cleared first and then holds one item per camera, in the order of the cameras: the primary angle is
+/// marked `Primary`, the secondary one `Secondary`, all others `None`. Angles equal to `Angle::Empty()` are not
+/// written.
 class AnglesGroupToThriftConverter
     : public Converter<Corvane::Data::Clips::Groups::AnglesGroup, Corvane::Data::Clips::Groups::Generated::AnglesGroup>
 {

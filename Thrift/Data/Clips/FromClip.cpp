@@ -45,7 +45,7 @@ ConversionResult ClipToThriftConverter::To(Corvane::Data::Clips::Clip const& sou
     SendSlot(source.name, TALVO_FLAGGED(destination, name));
     SendSlot(source.varId, TALVO_FLAGGED(destination, varId));
     SendKeywords(source.keywords, TALVO_FLAGGED(destination, keywords));
-    // Appended, unlike the keywords: a destination that holds user bits already keeps them in front.
+    // Appended, unlike the keywords: user bits that the destination already holds stay in front.
     destination.userBits.insert(destination.userBits.end(), source.userBits.begin(), source.userBits.end());
     destination.__isset.userBits = true;
     TALVO_FLAGGED(destination, is3D) = source.is3D;

@@ -17,17 +17,17 @@ class Clip;
 
 /// Writes a domain `Clip` into the wire record `Clip`. It can't fail.
 ///
-/// The destination is expected to be new and is not reset: fields that are not written keep value and flag.
-/// - Texts of identifiers go out up to their first zero; text slots go out whole, never trimmed or transcoded, with the
-///   flag that says whether they hold UTF-16.
-/// - `keywords` always has five elements. `userBits` are appended to what the destination holds, each 0 to 255.
+/// The destination should be new; it is not reset, and fields that are not written keep their value and flag.
+/// - Identifier texts are written up to their first zero; text slots are written whole, never trimmed or transcoded,
+///   with the flag that says whether they hold UTF-16.
+/// - `keywords` always has five elements. `userBits` are appended to those in the destination, each 0 to 255.
 /// - The 32-bit `legacyTimecodeOffset`, `userLock`, `thumbnailOffset`, `sequence` and `machineSerial` are
 ///   zero-extended.
 /// - These are not written: a time code or time point that is empty, an essence that is `NotPresent`, and an
-///   enumeration that holds 0 (so `HdrProfile::Unknown`), but for `trainStatus`, `archiveStatus`, `videoFormat`,
+///   enumeration of 0 (such as `HdrProfile::Unknown`), except `trainStatus`, `archiveStatus`, `videoFormat`,
 ///   `videoStandard` and `userTimecodeType`.
-/// - Lost on the way: the reserved fields, and domain enumerators outside their table, which travel as 0.
-/// - A time code that is undated or has a frame above 99 goes out as a text that can't be read again:
+/// - Lost: the reserved fields, and domain enumerators outside their table, which are written as 0.
+/// - A time code that is undated or has a frame above 99 is written as a text that can't be read back:
 ///   ThriftToClipConverter ends the process on it.
 class ClipToThriftConverter : public Converter<Corvane::Data::Clips::Clip, Generated::Clip>
 {

@@ -11,8 +11,8 @@ namespace Generated
 class Essence;
 } // namespace Generated
 
-/// Writes a domain `Clip::Essence` into the wire record `Essence`: all thirteen fields with their flags, zeros too. It
-/// can't fail. Domain enumerators outside their table travel as 0.
+/// Writes a domain `Clip::Essence` into the wire record `Essence`: all thirteen fields with their flags, including
+/// zeros. It can't fail. Domain enumerators outside their table are written as 0.
 class EssenceToThriftConverter : public Converter<Corvane::Data::Clips::Clip::Essence, Generated::Essence>
 {
 public:

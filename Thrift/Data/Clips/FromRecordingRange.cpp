@@ -14,7 +14,7 @@ using namespace Detail;
 ConversionResult RecordingRangeToThriftConverter::To(Corvane::Data::Clips::RecordingRange const& source,
                                                      Generated::RecordingRange& destination) const noexcept
 {
-    // Empty bounds travel too, unlike those of a clip.
+    // Empty bounds are written too, unlike those of a clip.
     TALVO_FLAGGED(destination, inBoundTimepoint) = source.rangeInTimePoint.position;
     TALVO_FLAGGED(destination, outBoundTimepoint) = source.rangeOutTimePoint.position;
     WriteTimeCode(source.rangeInTimecode, TALVO_FLAGGED(destination, inBoundTimecode));

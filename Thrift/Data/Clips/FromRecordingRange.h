@@ -15,11 +15,11 @@ namespace Generated
 class RecordingRange;
 } // namespace Generated
 
-/// Writes a domain `RecordingRange` into the wire record `RecordingRange`: all four bounds, empty ones too. It can't
-/// fail.
+/// Writes a domain `RecordingRange` into the wire record `RecordingRange`: all four bounds, including empty ones. It
+/// can't fail.
 ///
-/// Lost on the way: that a time code is empty, since it travels as the text of `Clip::DefaultTimecode()`. One that
-/// is undated or has a frame above 99 goes out as a text that ThriftToRecordingRangeConverter refuses.
+/// Lost: that a time code is empty, since it is written as the text of `Clip::DefaultTimecode()`. A time code that is
+/// undated or has a frame above 99 is written as a text that ThriftToRecordingRangeConverter rejects.
 class RecordingRangeToThriftConverter
     : public Converter<Corvane::Data::Clips::RecordingRange, Generated::RecordingRange>
 {

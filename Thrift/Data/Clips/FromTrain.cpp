@@ -27,7 +27,7 @@ ConversionResult TrainToThriftConverter::To(Corvane::Data::Clips::Train const& s
     }
     destination.__isset.trainData = source.trainClip != nullptr;
 
-    // Appended: a destination that holds ranges already keeps them in front. What a range reports is not looked at.
+    // Appended: ranges that the destination already holds stay in front. The results of the ranges are ignored.
     AppendAll("recordingRanges", fromRange, source.trainRanges, destination.recordingRanges);
     destination.__isset.recordingRanges = !destination.recordingRanges.empty();
 

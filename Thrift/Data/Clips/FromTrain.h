@@ -17,11 +17,11 @@ class Train;
 
 /// Writes a domain `Train` into the wire record `Train`. It can't fail.
 ///
-/// - Without a clip the flag of `trainData` is cleared.
-/// - Ranges are appended to those that the destination holds, and the flag of `recordingRanges` says whether there is
-///   any.
-/// - `lastKnownTimeCode` is not written when it is empty. One that is undated or has a frame above 99 goes out
-///   as a text that reads back as empty.
+/// - Without a clip, the flag of `trainData` is cleared.
+/// - Ranges are appended to those in the destination; the flag of `recordingRanges` is set if the list is then not
+///   empty, else cleared.
+/// - `lastKnownTimeCode` is not written when it is empty. If it is undated or has a frame above 99, it is written as a
+///   text that reads back as empty.
 class TrainToThriftConverter : public Converter<Corvane::Data::Clips::Train, Generated::Train>
 {
 public:

@@ -15,8 +15,8 @@ class Angle;
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips
 {
 
-/// Replaces a domain `Groups::Angle` by the wire record `Angle`, whose fields are all required. It can't fail: an
-/// unknown camera reads as `NotSet`, an identifier that was not sent as the empty one.
+/// Replaces a domain `Groups::Angle` with the wire record `Angle`, whose fields are all required. It can't fail. An
+/// unknown camera reads as `NotSet`, and a missing identifier as the empty one.
 class ThriftToAngleConverter
     : public Converter<Corvane::Data::Clips::Groups::Generated::Angle, Corvane::Data::Clips::Groups::Angle>
 {

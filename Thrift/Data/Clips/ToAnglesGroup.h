@@ -15,11 +15,11 @@ class AnglesGroup;
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips
 {
 
-/// Replaces a domain `Groups::AnglesGroup` by the wire record `AnglesGroup`, whose fields are all required. It can't
+/// Replaces a domain `Groups::AnglesGroup` with the wire record `AnglesGroup`, whose fields are all required. It can't
 /// fail.
 ///
-/// Items are added in ascending order of camera, each as `AnglesGroup::AddAngle` takes it: `NotSet`, which unknown
-/// cameras read as, is lost.
+/// Items are added with `AnglesGroup::AddAngle`, in ascending order of camera. It ignores `NotSet`, so an item of an
+/// unknown camera, which reads as `NotSet`, is lost.
 class ThriftToAnglesGroupConverter
     : public Converter<Corvane::Data::Clips::Groups::Generated::AnglesGroup, Corvane::Data::Clips::Groups::AnglesGroup>
 {

@@ -27,7 +27,7 @@ using EnumConverter::FromGeneratedEnum;
 namespace
 {
 
-/// Slots beyond the end of a shorter list keep what they held, elements beyond the last slot are ignored.
+/// Slots beyond the end of a shorter list keep their contents; elements beyond the last slot are ignored.
 void ReadKeywords(std::vector<Generated::AsciiOrUtf16String> const& source,
                   std::array<Corvane::Data::FixedText<12>, 5>& destination) noexcept
 {
@@ -35,7 +35,7 @@ void ReadKeywords(std::vector<Generated::AsciiOrUtf16String> const& source,
     for (std::size_t i = 0; i < count; ++i) ReadSlot(source[i], destination[i]);
 }
 
-/// Bytes beyond the end of a shorter list keep what they held, elements beyond the last byte are ignored.
+/// Bytes beyond the end of a shorter list keep their values; elements beyond the last byte are ignored.
 void ReadUserBits(std::vector<std::int16_t> const& source, std::array<unsigned char, 8>& destination) noexcept
 {
     auto const count = std::min(source.size(), destination.size());
@@ -62,8 +62,8 @@ ConversionResult ThriftToClipConverter::ToOrThrow(Generated::Clip const& source,
     if (seen(isset.is3D)) destination.is3D = source.is3D;
     if (seen(isset.isDual)) destination.isDual = source.isDual;
     if (seen(isset.isTwinRec)) destination.isTwinRec = source.isTwinRec;
-    // Looks at the standard that the destination has before this record's own is applied, so a fresh clip drops the flag
-    // even when the record says Ntsc. Peers rely on that order.
+    // Checks the destination's standard before the record's own is applied, so a new clip loses the flag even if the
+    // record says Ntsc. Peers rely on this order.
     if (seen(isset.isLegacyTimecodeDrop) && destination.VideoStandard() == VideoStandard::Ntsc)
         destination.isLegacyTimecodeDrop = source.isLegacyTimecodeDrop;
     if (seen(isset.trainStatus)) destination.trainStatus = FromGeneratedEnum(source.trainStatus);
@@ -97,7 +97,7 @@ ConversionResult ThriftToClipConverter::ToOrThrow(Generated::Clip const& source,
     if (seen(isset.nbAudioVideoChannels)) destination.nbAudioVideoChannels = source.nbAudioVideoChannels;
     if (seen(isset.dolbyMonoSignal)) destination.dolbyMonoSignal = source.dolbyMonoSignal;
 
-    // Both read unguarded: an invalid text is a BadValue.
+    // Both are read unguarded: an invalid text is a BadValue.
     if (seen(isset.inBoundTodTimecode) &&
         !destination.TrySetInBoundTodTimecode(ParseTimeCode("inBoundTodTimecode", source.inBoundTodTimecode)))
         return Failure("In Bound TOD Timecode Rate inconsistent with Clip Rate");

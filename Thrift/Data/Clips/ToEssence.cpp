@@ -17,7 +17,7 @@ ConversionResult ThriftToEssenceConverter::To(Generated::Essence const& source,
     auto const& isset = source.__isset;
     SeenFields seen;
 
-    // A type starts the destination anew; without one the other fields patch what it holds.
+    // A type resets the destination; without one the other fields are applied to its current state.
     if (seen(isset.type)) destination.Clear(FromGeneratedEnum(source.type));
     if (seen(isset.recordingStatus)) destination.recordingStatus = FromGeneratedEnum(source.recordingStatus);
     if (seen(isset.archiveStatus)) destination.archiveStatus = FromGeneratedEnum(source.archiveStatus);

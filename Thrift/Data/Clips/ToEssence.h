@@ -13,8 +13,8 @@ class Essence;
 
 /// Applies the fields of the wire record `Essence` whose flag is set to a domain `Clip::Essence`.
 ///
-/// A `type` first resets the whole destination to the cleared state of that type; without one the other fields patch
-/// the destination as it stands. Unknown enumeration numbers read as 0.
+/// A `type` first resets the whole destination to the cleared state of that type; without one the other fields are
+/// applied to the destination's current state. Unknown enumeration numbers read as 0.
 ///
 /// Failure: "Essence is empty" when no flag is set; the destination is then unchanged.
 class ThriftToEssenceConverter : public Converter<Generated::Essence, Corvane::Data::Clips::Clip::Essence>

@@ -15,11 +15,11 @@ namespace Generated
 class RecordingRange;
 } // namespace Generated
 
-/// Replaces a domain `RecordingRange` by the wire record `RecordingRange`.
+/// Replaces a domain `RecordingRange` with the wire record `RecordingRange`.
 ///
 /// Failures, with the destination unchanged:
 /// - "RecordingRange is empty": one of the four flags is clear.
-/// - "Invalid TimeCode format": a time code is not one that TalvoTimeCodeParser reads, whatever is wrong with it.
+/// - "Invalid TimeCode format": TalvoTimeCodeParser rejects a time code.
 class ThriftToRecordingRangeConverter
     : public Converter<Generated::RecordingRange, Corvane::Data::Clips::RecordingRange>
 {

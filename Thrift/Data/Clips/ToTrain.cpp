@@ -41,7 +41,7 @@ ConversionResult ThriftToTrainConverter::ToOrThrow(Generated::Train const& sourc
     std::vector<RecordingRange> trainRanges;
     if (seen(isset.recordingRanges))
     {
-        // A range that fails stays in the list as an empty one, so that both sides count the same number of ranges.
+        // A range that fails stays in the list as an empty one, so that both sides have the same number of ranges.
         AppendAll("recordingRanges", toRange, source.recordingRanges, trainRanges);
     }
 
@@ -51,7 +51,7 @@ ConversionResult ThriftToTrainConverter::ToOrThrow(Generated::Train const& sourc
                                        ? ReadTimeCode(source.lastKnownTimeCode).value_or(TimeCode::Empty())
                                        : TimeCode::Empty();
 
-    // The destination is taken over even when nothing was seen: a train that fails is left empty, not as it was.
+    // The destination is replaced even if no flag is set: after the failure it is empty, not unchanged.
     destination = Corvane::Data::Clips::Train(std::move(trainClip), std::move(trainRanges), isInMoving, isOutMoving,
                                               TimeCode(lastKnownTimeCode));
     return seen.None() ? Failure("Train is empty") : Success();

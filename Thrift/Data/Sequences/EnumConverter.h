@@ -8,15 +8,16 @@
 #include "generated/TagProperty_types.h"
 #include "generated/Tag_types.h"
 
-/// The enumerations of the sequence family between the domain and the wire.
+/// Converts the enumerations of the sequence family between the domain and the wire.
 ///
-/// Every function maps by its table and can't fail: a value outside the table gives the number 0 of the result.
+/// Every function looks its value up in a table and can't fail: a value outside the table gives the number 0 of the
+/// result.
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences::EnumConverter
 {
 
 /// @{
 
-/// The value on the other side, by the table of the enumeration.
+/// Returns the value on the other side from the enumeration's table.
 Generated::TagPropertyType::type ToGeneratedEnum(Corvane::Data::Sequences::TagProperty::Type value) noexcept;
 Corvane::Data::Sequences::TagProperty::Type FromGeneratedEnum(Generated::TagPropertyType::type value) noexcept;
 

@@ -29,7 +29,7 @@ ConversionResult AudioVideoElementToThriftConverter::To(Corvane::Data::Sequences
     TALVO_FLAGGED(destination, videoFieldOut) = source.videoFieldOut;
     TALVO_FLAGGED(destination, audioFieldIn) = source.audioFieldIn;
     TALVO_FLAGGED(destination, audioFieldOut) = source.audioFieldOut;
-    // Replaced, not appended to; an element that fails travels with what was converted of it.
+    // Replaced, not appended to; an element that fails is written with what was converted before the failure.
     Generated::Element element;
     std::ignore = fromElement.To(source, element);
     TALVO_FLAGGED(destination, element) = std::move(element);

@@ -15,10 +15,10 @@ namespace Generated
 class AudioVideoElement;
 } // namespace Generated
 
-/// Writes a domain `AudioVideoElement` into the wire record `AudioVideoElement`: its eight own fields, then its
-/// `Element` part, whatever that conversion reports. It can't fail.
+/// Writes a domain `AudioVideoElement` into the wire record `AudioVideoElement`: its own eight fields, then its
+/// `Element` part, whose result is ignored. It can't fail.
 ///
-/// Lost on the way: domain enumerators outside their table, which travel as 0.
+/// Lost: domain enumerators outside their table, which are written as 0.
 class AudioVideoElementToThriftConverter
     : public Converter<Corvane::Data::Sequences::AudioVideoElement, Generated::AudioVideoElement>
 {

@@ -19,7 +19,7 @@ ConversionResult AudioVideoTrackToThriftConverter::To(Track<AudioVideoElement> c
 {
     AudioVideoElementToThriftConverter const fromElement;
 
-    // The elements travel or, where they are not loaded, their number: never both.
+    // Either the elements are written or, if they are not loaded, their number: never both.
     bool const isNumberOnly = source.elements.empty() && source.numberOfElements != 0;
     if (isNumberOnly)
         destination.numberOfElements = source.numberOfElements;

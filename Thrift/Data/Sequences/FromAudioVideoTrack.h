@@ -18,9 +18,8 @@ namespace Generated
 class AudioVideoTrack;
 } // namespace Generated
 
-/// Writes a domain `Track<AudioVideoElement>` into the wire record `AudioVideoTrack`, which carries the elements or,
-/// where they are not loaded, their number, never both. It can't fail. Elements are appended to those that the
-/// destination holds.
+/// Writes a domain `Track<AudioVideoElement>` into the wire record `AudioVideoTrack`, which carries either the elements
+/// or, if they are not loaded, their number. It can't fail. Elements are appended to those in the destination.
 class AudioVideoTrackToThriftConverter
     : public Converter<Corvane::Data::Sequences::Track<Corvane::Data::Sequences::AudioVideoElement>,
                        Generated::AudioVideoTrack>

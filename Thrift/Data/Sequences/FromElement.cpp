@@ -32,13 +32,13 @@ ConversionResult ElementToThriftConverter::To(Corvane::Data::Sequences::Element 
     TALVO_FLAGGED(destination, effectPosition) = ToGeneratedEnum(source.effectPosition);
     TALVO_FLAGGED(destination, stillMode) = ToGeneratedEnum(source.stillMode);
     TALVO_FLAGGED(destination, transitionTimer) = source.transitionTimer;
-    // Appended: a destination that holds tags already keeps them in front.
+    // Appended: tags that the destination already holds stay in front.
     if (auto const result = AppendEach("tags", fromTag, source.tags, destination.tags); !result.success)
         return Nested(result);
     destination.__isset.tags = true;
     TALVO_FLAGGED(destination, internalLoopId) = source.internalLoopId;
     TALVO_FLAGGED(destination, internalLoopRunNb) = source.internalLoopRunNb;
-    // The flags inside the speed stay as they are.
+    // The flags inside the speed are unchanged.
     TALVO_FLAGGED(destination, speed).numerator = source.speed.numerator;
     destination.speed.denominator = source.speed.denominator;
     return Success();

@@ -16,9 +16,9 @@ class Element;
 } // namespace Generated
 
 /// Writes a domain `Element` into the wire record `Element`: every field. It can't fail. `tags` are appended to those
-/// that the destination holds; the flags inside `speed` stay as they are.
+/// in the destination; the flags inside `speed` are unchanged.
 ///
-/// Lost on the way: domain enumerators outside their table, which travel as 0.
+/// Lost: domain enumerators outside their table, which are written as 0.
 class ElementToThriftConverter : public Converter<Corvane::Data::Sequences::Element, Generated::Element>
 {
 public:

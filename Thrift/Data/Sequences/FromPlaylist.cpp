@@ -25,7 +25,7 @@ ConversionResult PlaylistToThriftConverter::To(Corvane::Data::Sequences::Playlis
     if (auto const result = fromTrack.To(source.audioVideoTrack, track); !result.success) return Nested(result);
     TALVO_FLAGGED(destination, audioVideoTrack) = std::move(track);
     TALVO_FLAGGED(destination, auxTrackClipUmId) = source.auxTrackClipUmId.GetUmId();
-    // A header that fails travels with what was converted of it.
+    // A header that fails is written with what was converted before the failure.
     std::ignore = fromSequence.To(source, TALVO_FLAGGED(destination, sequence));
     return Success();
 }

@@ -18,8 +18,7 @@ class Playlist;
 /// Writes a domain `Playlist` into the wire record `Playlist`: its track, the clip of its auxiliary track and its
 /// `Sequence` part. It can't fail.
 ///
-/// Lost on the way: `numberOfElements` where there are elements; the rest as ElementToThriftConverter and
-/// SequenceToThriftConverter say.
+/// Lost: `numberOfElements` if there are elements; what ElementToThriftConverter and SequenceToThriftConverter lose.
 class PlaylistToThriftConverter : public Converter<Corvane::Data::Sequences::Playlist, Generated::Playlist>
 {
 public:

@@ -15,13 +15,13 @@ namespace Generated
 class Sequence;
 } // namespace Generated
 
-/// Writes a domain `Sequence` into the wire record `Sequence`: every field. It can't fail. Texts go out whole, never
-/// trimmed or transcoded.
+/// Writes a domain `Sequence` into the wire record `Sequence`: every field. It can't fail. Texts are written whole,
+/// never trimmed or transcoded.
 ///
-/// Lost on the way: domain enumerators outside their table, which travel as 0, and that `timeCodeRegenReference` is
-/// empty, since it travels as the text of `Clip::DefaultTimecode()`. ThriftToSequenceConverter refuses the text of one
-/// that is undated or has a frame above 99, and a `playRate` that is neither over 1 nor has the numerator of a standard
-/// rate; one that has becomes that rate.
+/// Lost: domain enumerators outside their table, which are written as 0, and that `timeCodeRegenReference` is empty,
+/// since it is written as the text of `Clip::DefaultTimecode()`. ThriftToSequenceConverter rejects the text of a time
+/// code that is undated or has a frame above 99, and a `playRate` whose denominator is not 1 and whose numerator is not
+/// that of a standard rate; with the numerator of a standard rate it becomes that rate.
 class SequenceToThriftConverter : public Converter<Corvane::Data::Sequences::Sequence, Generated::Sequence>
 {
 public:

@@ -27,7 +27,7 @@ ConversionResult TagToThriftConverter::To(Corvane::Data::Sequences::Tag const& s
     {
         Generated::TagProperty wire;
         if (auto const result = fromProperty.To(property, wire); !result.success) return Nested(result);
-        // The first property of a key stays. Not sorted: which one that is, the order of the hash map decides.
+        // The first property of a key stays. The order of the hash map decides which one that is; it is not sorted.
         destination.properties.try_emplace(ToGeneratedEnum(key), std::move(wire));
     }
     destination.__isset.properties = true;

@@ -17,9 +17,9 @@ class Tag;
 
 /// Writes a domain `Tag` into the wire record `Tag`. It can't fail.
 ///
-/// Properties are added to those that the destination holds, in the order of the tag's hash map; a key that is there
-/// already is skipped. Keys outside their table all travel as `Value`, so of them and the tag's own `Value` the first in
-/// that order is sent and the others are lost. A `commandType` outside its table travels as 0.
+/// Properties are added to those in the destination, in the order of the tag's hash map; a key that is already present
+/// is skipped. Keys outside their table are all written as `Value`, so of them and the tag's own `Value` only the first
+/// in that order is written, and the others are lost. A `commandType` outside its table is written as 0.
 class TagToThriftConverter : public Converter<Corvane::Data::Sequences::Tag, Generated::Tag>
 {
 public:

@@ -15,7 +15,7 @@ ConversionResult TagPropertyToThriftConverter::To(Corvane::Data::Sequences::TagP
                                                   Generated::TagProperty& destination) const noexcept
 {
     TALVO_FLAGGED(destination, dataType) = EnumConverter::ToGeneratedEnum(source.type);
-    // Appended: a destination that holds integers already keeps them in front.
+    // Appended: integers that the destination already holds stay in front.
     destination.value.insert(destination.value.end(), source.value.begin(), source.value.end());
     destination.__isset.value = true;
     return Success();

@@ -16,7 +16,7 @@ class TagProperty;
 } // namespace Generated
 
 /// Writes a domain `TagProperty` into the wire record `TagProperty`. It can't fail. The integers are appended to those
-/// that the destination holds. A type outside its table travels as 0, `Boolean`.
+/// in the destination. A type outside its table is written as 0, `Boolean`.
 class TagPropertyToThriftConverter : public Converter<Corvane::Data::Sequences::TagProperty, Generated::TagProperty>
 {
 public:

@@ -24,7 +24,7 @@ ThriftToAudioVideoElementConverter::ToOrThrow(Generated::AudioVideoElement const
     auto const& isset = source.__isset;
     SeenFields seen;
 
-    // The element is applied, but neither does it count nor is its failure one of this record.
+    // The element is applied, but it does not count as seen and its failure is ignored.
     if (isset.element) std::ignore = Read("element", toElement, source.element, destination);
     if (seen(isset.videoEffectType)) destination.videoEffectType = FromGeneratedEnum(source.videoEffectType);
     if (seen(isset.audioEffectType)) destination.audioEffectType = FromGeneratedEnum(source.audioEffectType);

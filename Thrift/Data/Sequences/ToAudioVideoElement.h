@@ -15,19 +15,19 @@ namespace Generated
 class AudioVideoElement;
 } // namespace Generated
 
-/// Applies the wire record `AudioVideoElement` to a domain `AudioVideoElement`, as it stands: its `element`, whatever
-/// that conversion reports, then those of its eight own fields whose flag is set.
+/// Applies the wire record `AudioVideoElement` to a domain `AudioVideoElement`, without resetting it: first its
+/// `element`, whose result is ignored, then those of its own eight fields whose flag is set.
 ///
-/// Failure: "AudioVideoElement is empty" when none of the eight was there, though `element` may have been applied.
+/// Failure: "AudioVideoElement is empty" when none of the eight is set; `element` may have been applied.
 ///
-/// Ends the process: what ends it in ThriftToElementConverter.
+/// Ends the process: anything that ends it in ThriftToElementConverter.
 ///
-/// Lost on the way: all that ThriftToElementConverter loses, and the fields behind the one that made it fail.
+/// Lost: what ThriftToElementConverter loses, and the fields after one that made it fail.
 class ThriftToAudioVideoElementConverter
     : public Converter<Generated::AudioVideoElement, Corvane::Data::Sequences::AudioVideoElement>
 {
 public:
-    /// As To(), but throws BadValue for what ends the process there.
+    /// Like To(), but throws BadValue where To() ends the process.
     ConversionResult ToOrThrow(Generated::AudioVideoElement const& source,
                                Corvane::Data::Sequences::AudioVideoElement& destination) const;
 

@@ -20,7 +20,7 @@ ConversionResult ThriftToAudioVideoTrackConverter::ToOrThrow(Generated::AudioVid
 {
     ThriftToAudioVideoElementConverter const toElement;
 
-    // With elements the number is neither read nor changed, although it may then tell something else than the list.
+    // With elements, the number is neither read nor changed, although it may then differ from the list.
     if (source.__isset.elements) return AppendEach("elements", toElement, source.elements, destination.elements);
     if (source.__isset.numberOfElements)
     {

@@ -20,19 +20,19 @@ class AudioVideoTrack;
 
 /// Applies the wire record `AudioVideoTrack` to a domain `Track<AudioVideoElement>`.
 ///
-/// With `elements` set, they are appended to those that the destination holds and the number is neither read nor
-/// changed; else with `numberOfElements` set, it replaces the number and all elements are gone. Neither at all is no
-/// failure.
+/// If `elements` is set, they are appended to those in the destination and the number is neither read nor changed.
+/// Otherwise, if `numberOfElements` is set, it replaces the number and all elements are removed. A record with neither
+/// is not a failure.
 ///
-/// Failures: any of ThriftToAudioVideoElementConverter, from an element; those before it are kept.
+/// Failures: any failure of ThriftToAudioVideoElementConverter, from an element; the elements before it are kept.
 ///
-/// Ends the process: what ends it in ThriftToAudioVideoElementConverter.
+/// Ends the process: anything that ends it in ThriftToAudioVideoElementConverter.
 class ThriftToAudioVideoTrackConverter
     : public Converter<Generated::AudioVideoTrack,
                        Corvane::Data::Sequences::Track<Corvane::Data::Sequences::AudioVideoElement>>
 {
 public:
-    /// As To(), but throws BadValue for what ends the process there.
+    /// Like To(), but throws BadValue where To() ends the process.
     ConversionResult
     ToOrThrow(Generated::AudioVideoTrack const& source,
               Corvane::Data::Sequences::Track<Corvane::Data::Sequences::AudioVideoElement>& destination) const;

@@ -24,7 +24,7 @@ using EnumConverter::FromGeneratedEnum;
 namespace
 {
 
-/// Appends to what the destination holds. A tag that fails is not added, those before it are kept.
+/// Appends the tags to the destination. A tag that fails is not added; those before it are kept.
 ConversionResult ReadTags(std::vector<Generated::Tag> const& source, std::vector<Tag>& destination)
 {
     ThriftToTagConverter const toTag;
@@ -32,7 +32,7 @@ ConversionResult ReadTags(std::vector<Generated::Tag> const& source, std::vector
     ReserveMore(destination, source.size());
     for (std::size_t i = 0; i < source.size(); ++i)
     {
-        // The type is taken whatever its flag says.
+        // The type is read regardless of its flag.
         auto& tag = destination.emplace_back(FromGeneratedEnum(source[i].commandType));
         if (auto const result = Read({"tags", i}, toTag, source[i], tag); !result.success)
         {

@@ -26,8 +26,8 @@ ConversionResult ThriftToPlaylistConverter::ToOrThrow(Generated::Playlist const&
     auto const& isset = source.__isset;
     SeenFields seen;
 
-    // What the parts report is not looked at: a track that fails half-way is stored with the elements it reached, and
-    // the header takes what comes before its failure.
+    // The results of the parts are ignored: a track that fails is stored with the elements before the failure, and the
+    // header keeps what was applied before its failure.
     if (seen(isset.audioVideoTrack))
     {
         Track<AudioVideoElement> track;

@@ -15,20 +15,20 @@ namespace Generated
 class Playlist;
 } // namespace Generated
 
-/// Applies the wire record `Playlist` to a domain `Playlist`, as it stands. The track is replaced by what could be read
-/// of it, and the header takes what could be read of it: what they report is not looked at.
+/// Applies the wire record `Playlist` to a domain `Playlist`. The destination is not reset. The track is replaced by
+/// the elements that could be read, and the header takes the fields that could be read; their results are ignored.
 ///
 /// Failure: "Playlist is empty" when no flag is set; the destination is then unchanged.
 ///
-/// Ends the process: what ends it in ThriftToAudioVideoTrackConverter and ThriftToSequenceConverter.
+/// Ends the process: anything that ends it in ThriftToAudioVideoTrackConverter and ThriftToSequenceConverter.
 ///
-/// Lost on the way: an element that fails and those behind it, and the fields of the header behind one that fails;
-/// `numberOfElements` beside elements; an `auxTrackClipUmId` above 8 bytes is cut; the rest as ThriftToElementConverter and
-/// ThriftToSequenceConverter say.
+/// Lost: an element that fails and those after it, and the fields of the header after one that fails;
+/// `numberOfElements` if there are elements too; an `auxTrackClipUmId` above 8 bytes is cut; what
+/// ThriftToElementConverter and ThriftToSequenceConverter lose.
 class ThriftToPlaylistConverter : public Converter<Generated::Playlist, Corvane::Data::Sequences::Playlist>
 {
 public:
-    /// As To(), but throws BadValue for what ends the process there.
+    /// Like To(), but throws BadValue where To() ends the process.
     ConversionResult ToOrThrow(Generated::Playlist const& source,
                                Corvane::Data::Sequences::Playlist& destination) const;
 

@@ -31,7 +31,7 @@ using TimePoints::VideoRates;
 namespace
 {
 
-/// The numerator alone decides: whatever its denominator was, a standard rate is over 1001.
+/// The numerator alone decides: a standard rate gets the denominator 1001, regardless of the one that was sent.
 std::optional<VideoRate> PlayRate(std::int64_t const numerator, std::int64_t const denominator)
 {
     if (denominator == 1) return VideoRate{numerator, 1};
@@ -51,7 +51,7 @@ ConversionResult ThriftToSequenceConverter::ToOrThrow(Generated::Sequence const&
     auto const& isset = source.__isset;
     SeenFields seen;
 
-    // The flags inside the identifier are not read, and a bad location is never a result.
+    // The flags inside the identifier are ignored. An invalid location is a BadValue, never a failure.
     if (seen(isset.id))
         destination.id = OrBadValue(
             "id.location",
@@ -59,11 +59,11 @@ ConversionResult ThriftToSequenceConverter::ToOrThrow(Generated::Sequence const&
     if (seen(isset.umId)) destination.umId.SetUmId(source.umId.c_str());
     if (seen(isset.varId)) ReadSlot(source.varId, destination.varId);
     if (seen(isset.name)) ReadSlot(source.name, destination.name);
-    // The fields that go without "seen" are applied and don't count.
+    // Fields without "seen" are applied but don't count.
     if (isset.isTimeCodeRegen) destination.isTimeCodeRegen = source.isTimeCodeRegen;
     if (seen(isset.timeCodeRegenReference))
     {
-        // Only a text that has not the form of a time code is a failure. An invalid value is a BadValue.
+        // Only a text that does not have the form of a time code is a failure. An invalid value is a BadValue.
         try
         {
             destination.timeCodeRegenReference = TalvoTimeCodeParser().Parse(source.timeCodeRegenReference);

@@ -22,7 +22,7 @@ ConversionResult ThriftToSequenceIdConverter::ToOrThrow(Generated::SequenceId co
     SeenFields seen;
 
     if (seen(isset.serverId)) destination.serverId = ServerId(source.serverId);
-    // A bad location is never a result.
+    // An invalid location is a BadValue, never a failure.
     if (seen(isset.location))
         destination = OrBadValue(
             "location", [&] { return SequenceId(destination.serverId, static_cast<std::uint32_t>(source.location)); });

@@ -23,7 +23,7 @@ class SequenceId;
 class ThriftToSequenceIdConverter : public Converter<Generated::SequenceId, Corvane::Data::Sequences::SequenceId>
 {
 public:
-    /// As To(), but throws BadValue for what ends the process there.
+    /// Like To(), but throws BadValue where To() ends the process.
     ConversionResult ToOrThrow(Generated::SequenceId const& source,
                                Corvane::Data::Sequences::SequenceId& destination) const;
 

@@ -21,7 +21,7 @@ using EnumConverter::FromGeneratedEnum;
 namespace
 {
 
-/// Makes the tag what Tag(type) builds, and keeps its memory.
+/// Resets the tag to the state of Tag(type), but keeps its memory.
 void Reset(Tag& tag, Tag::CommandType const type) noexcept
 {
     tag.id = 0;
@@ -38,7 +38,7 @@ ConversionResult ThriftToTagConverter::To(Generated::Tag const& source, Tag& des
     auto const& isset = source.__isset;
     SeenFields seen;
 
-    // Goes first and does not count: a record of which nothing else is there fails with the destination reset.
+    // Read first, and does not count: a record with no other field set fails after the destination was reset.
     if (isset.commandType) Reset(destination, FromGeneratedEnum(source.commandType));
     if (seen(isset.id)) destination.id = source.id;
     if (seen(isset.field)) destination.field = source.field;
@@ -49,7 +49,7 @@ ConversionResult ThriftToTagConverter::To(Generated::Tag const& source, Tag& des
             TagProperty property;
             if (auto const result = Read("properties", toProperty, wireProperty, property); !result.success)
                 return Nested(result);
-            // A key that is there already keeps its value.
+            // A key that is already present keeps its value.
             destination.properties.try_emplace(FromGeneratedEnum(key), std::move(property));
         }
     }

@@ -17,17 +17,17 @@ class Tag;
 
 /// Applies the wire record `Tag` to a domain `Tag`.
 ///
-/// A `commandType` first resets the whole destination to a new tag of that type; without one the other fields patch the
-/// destination as it stands. Properties are added in ascending order of their keys; a key that is there already keeps
-/// its value.
+/// A `commandType` first resets the whole destination to a new tag of that type; without one the other fields are
+/// applied to the destination's current state. Properties are added in ascending order of their keys; a key that is
+/// already present keeps its value.
 ///
-/// Failures, with what was applied before them left in the destination:
+/// Failures, with the fields before them already applied:
 /// - "TagProperty is empty", from a property; those before it are kept.
-/// - "Tag is empty": neither `id` nor `field` nor a property was there. A `commandType` does not count, though it has
-///   reset the destination.
+/// - "Tag is empty": neither `id` nor `field` nor a property is set. A `commandType` does not count, but has reset the
+///   destination.
 ///
-/// Lost on the way: unknown keys read as `Value`, and of those and `Value` itself the lowest stays; unknown enumeration
-/// numbers read as 0.
+/// Lost: unknown keys read as `Value`, and of those and `Value` itself only the one with the lowest key is kept;
+/// unknown enumeration numbers read as 0.
 class ThriftToTagConverter : public Converter<Generated::Tag, Corvane::Data::Sequences::Tag>
 {
 public:

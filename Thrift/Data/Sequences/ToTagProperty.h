@@ -15,11 +15,11 @@ namespace Generated
 class TagProperty;
 } // namespace Generated
 
-/// Replaces a domain `TagProperty` by the wire record `TagProperty`.
+/// Replaces a domain `TagProperty` with the wire record `TagProperty`.
 ///
 /// Failure: "TagProperty is empty" when one of the two flags is clear; the destination is then unchanged.
 ///
-/// Lost on the way: an unknown type reads as `Boolean`.
+/// Lost: an unknown type reads as `Boolean`.
 class ThriftToTagPropertyConverter : public Converter<Generated::TagProperty, Corvane::Data::Sequences::TagProperty>
 {
 public:

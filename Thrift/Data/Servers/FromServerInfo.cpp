@@ -16,7 +16,7 @@ using namespace Detail;
 namespace
 {
 
-/// The first octet goes into the most significant byte.
+/// Packs an address; the first octet is the most significant byte.
 std::int32_t Address(Corvane::Data::Servers::IpAddress const& octets) noexcept
 {
     std::uint32_t address = 0;
@@ -24,7 +24,7 @@ std::int32_t Address(Corvane::Data::Servers::IpAddress const& octets) noexcept
     return static_cast<std::int32_t>(address);
 }
 
-/// The models travel by number; all other numbers are no chassis.
+/// Converts a chassis by number. Numbers outside 1 to 18 become 0.
 Generated::ServerChassis::type Chassis(Corvane::Data::Servers::ServerChassis const chassis) noexcept
 {
     auto const number = static_cast<std::int32_t>(chassis);
@@ -46,7 +46,7 @@ ConversionResult ServerInfoToThriftConverter::To(Corvane::Data::Servers::ServerI
     TALVO_FLAGGED(destination, kronoIpAddress) = Address(source.kronoIpAddress);
     if (!source.hasNoGbeAddresses)
     {
-        // Appended: a destination that holds addresses already keeps them in front.
+        // Appended: addresses that the destination already holds stay in front.
         auto const& [first, second] = source.gbeIpAddressPair;
         destination.gbeIpAddresses.insert(destination.gbeIpAddresses.end(), {Address(first), Address(second)});
         destination.__isset.gbeIpAddresses = true;

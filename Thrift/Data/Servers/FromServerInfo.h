@@ -17,9 +17,10 @@ class ServerInfo;
 
 /// Writes a domain `ServerInfo` into the wire record `ServerInfo`. It can't fail.
 ///
-/// The destination is expected to be new and is not reset. Empty texts stay off the wire, with value and flag as they
-/// were, and so do the GBE addresses when `hasNoGbeAddresses`; else they are appended to what the destination holds. An
-/// address is one number, its first octet in the most significant byte. A chassis outside 1 to 18 travels as 0.
+/// The destination should be new; it is not reset. Empty texts are not written, and their value and flag are unchanged;
+/// the same applies to the GBE addresses if `hasNoGbeAddresses` is true. Otherwise the addresses are appended to those
+/// in the destination. An address is one number with the first octet in the most significant byte. A chassis outside 1
+/// to 18 is written as 0.
 class ServerInfoToThriftConverter : public Converter<Corvane::Data::Servers::ServerInfo, Generated::ServerInfo>
 {
 public:

@@ -18,7 +18,7 @@ using Corvane::Data::Servers::ServerChassis;
 namespace
 {
 
-/// The most significant byte is the first octet.
+/// Unpacks an address; the most significant byte is the first octet.
 IpAddress Octets(std::int32_t const address) noexcept
 {
     auto const bits = static_cast<std::uint32_t>(address);
@@ -26,7 +26,7 @@ IpAddress Octets(std::int32_t const address) noexcept
             static_cast<std::uint8_t>(bits >> 8), static_cast<std::uint8_t>(bits)};
 }
 
-/// The models travel by number; all other numbers are no chassis.
+/// Converts a chassis by number. Numbers outside 1 to 18 become 0.
 ServerChassis Chassis(Generated::ServerChassis::type const number) noexcept
 {
     return static_cast<ServerChassis>(number >= 1 && number <= 18 ? number : 0);

@@ -15,16 +15,16 @@ namespace Generated
 class ServerInfo;
 } // namespace Generated
 
-/// Replaces a domain `ServerInfo` by the wire record `ServerInfo`: the destination becomes a new `ServerInfo` before
-/// anything is looked at, also when the conversion fails, and then takes the fields whose flag is set.
+/// Replaces a domain `ServerInfo` with the wire record `ServerInfo`: the destination first becomes a new `ServerInfo`,
+/// even if the conversion then fails, and then takes the fields whose flag is set.
 ///
 /// Failures:
 /// - "Invalid GBE IP address count.": `gbeIpAddresses` has one element or more than two; the fields before it are
 ///   applied.
-/// - "ServerInfo is empty": no field was there. An empty `gbeIpAddresses` counts for nothing.
+/// - "ServerInfo is empty": no field is set. An empty `gbeIpAddresses` does not count.
 ///
-/// Lost on the way: texts above 32 (`corvaneVersion`), 16 (`hardwareRevision`) and 254 bytes (`hostName`) are cut; a
-/// chassis outside 1 to 18 reads as 0.
+/// Lost: texts above 32 (`corvaneVersion`), 16 (`hardwareRevision`) and 254 bytes (`hostName`) are cut; a chassis
+/// outside 1 to 18 reads as 0.
 class ThriftToServerInfoConverter : public Converter<Generated::ServerInfo, Corvane::Data::Servers::ServerInfo>
 {
 public:

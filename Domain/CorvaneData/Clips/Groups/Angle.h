@@ -12,7 +12,8 @@ struct Angle
     Camera camera = Camera::NotSet;
     Clips::Guid clipGuid;
 
-    /// Camera::NotSet with the empty identifier: no angle. An angle of a camera without a clip is not empty.
+    /// The value for "no angle": Camera::NotSet with the empty identifier. An angle with a camera but without a clip is
+    /// not empty.
     static Angle const& Empty() noexcept;
 
     bool operator==(Angle const&) const = default;

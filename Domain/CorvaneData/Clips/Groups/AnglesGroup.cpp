@@ -19,7 +19,7 @@ Angle AngleOf(AnglesGroup::AngleSlot const* slot) noexcept
 
 void AnglesGroup::AddAngle(Camera camera, Clips::Guid const& clipGuid, PreferentialCamera preferentialCamera) noexcept
 {
-    // Unsigned, so that NotSet (0) and negative numbers land beyond the last slot.
+    // Unsigned, so that NotSet (0) and negative numbers are beyond the last slot.
     auto const index = static_cast<std::uint32_t>(camera) - 1;
     if (index < angleSlots.size()) angleSlots[index] = AngleSlot{false, camera, clipGuid, preferentialCamera};
 }

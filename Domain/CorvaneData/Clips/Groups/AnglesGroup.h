@@ -11,11 +11,11 @@
 namespace Talvo::Corvane::Data::Clips::Groups
 {
 
-/// The angles of one action: at most one clip a camera, of which one may be the primary and one the secondary angle.
+/// The angles of one action: at most one clip per camera. One angle may be the primary and one the secondary angle.
 class AnglesGroup
 {
 public:
-    /// The place of one camera. A new one is free.
+    /// The slot of one camera. A new slot is free.
     struct AngleSlot
     {
         bool isFree = true;
@@ -27,25 +27,26 @@ public:
     };
 
     Guid groupGuid;
-    std::array<AngleSlot, 15> angleSlots; ///< one a camera, in camera order: A to L, X, Y, Z
+    std::array<AngleSlot, 15> angleSlots; ///< one per camera, in camera order: A to L, X, Y, Z
 
-    /// A group without angles.
+    /// Constructs a group without angles.
     explicit AnglesGroup(Guid const& guid) noexcept
         : groupGuid(guid)
     {
     }
 
-    /// Fills the slot of the camera and overwrites what it held. Ignored for Camera::NotSet and numbers that are no camera.
+    /// Fills the slot of the camera and overwrites its contents. Does nothing for Camera::NotSet and for numbers that
+    /// are not a camera.
     void AddAngle(Camera camera, Clips::Guid const& clipGuid, PreferentialCamera preferentialCamera) noexcept;
 
-    /// The first angle in camera order that is marked Primary, else Angle::Empty().
+    /// The first angle in camera order that is marked Primary, or Angle::Empty() if there is none.
     Angle PrimaryAngle() const noexcept;
 
-    /// The first angle in camera order that is marked Secondary, else Angle::Empty().
+    /// The first angle in camera order that is marked Secondary, or Angle::Empty() if there is none.
     Angle SecondaryAngle() const noexcept;
 
-    /// All angles but the primary and the secondary one, in camera order. A second angle marked Primary or Secondary is
-    /// among them.
+    /// All angles except the primary and the secondary one, in camera order. A second angle marked Primary or Secondary
+    /// is included.
     std::vector<Angle> OtherAngles() const;
 
     bool operator==(AnglesGroup const&) const = default;

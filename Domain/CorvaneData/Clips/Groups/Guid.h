@@ -5,7 +5,7 @@
 namespace Talvo::Corvane::Data::Clips::Groups
 {
 
-/// Identifier of an angles group; sixteen zero bytes when default-built.
+/// Identifier of an angles group; sixteen zero bytes when default-constructed.
 class Guid : public Data::Guid
 {
 public:
