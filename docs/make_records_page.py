@@ -1,54 +1,72 @@
 #!/usr/bin/env python3
-"""make_records_page.py: writes docs/records.md, the table of all records, from the schema files and from the banners of
-the converters' headers.
+"""make_records_page.py: writes docs/records.md, the page of all records, from the schema files as the Thrift compiler
+reads them and from the banners of the converters' headers.
 
-A banner is the comment of a converter's class. Its paragraphs that begin with "Failure" or "Ends the process" go to the
-columns of that name, all others to "Conversion". The banner of a converter without failures says that it can't fail."""
+A banner is the comment of a converter's class. Its paragraphs that begin with "Failure" or "Ends the process" become the
+items of that name, all others remarks on the conversion. The banner of a converter without failures says that it can't
+fail."""
 
+import os
 import re
+import sys
+import tempfile
 from pathlib import Path
 from typing import NamedTuple
 
 ROOT = Path(__file__).resolve().parent.parent
+sys.dont_write_bytecode = True
+sys.path.insert(0, str(ROOT / "schema"))
+import make_records  # noqa: E402
+
 PAGE = ROOT / "docs/records.md"
 
 FAMILIES = {
-    "Common records": "Talvo.Corvane.Data.Generated",
-    "Clips": "Talvo.Corvane.Zelmar.Serialization.Thrift.Data.Clips.Generated",
-    "Angles groups": "Talvo.Corvane.Data.Clips.Groups.Generated",
-    "Channels": "Talvo.Corvane.Zelmar.Serialization.Thrift.Data.Channels.Generated",
-    "Servers": "Talvo.Corvane.Zelmar.Serialization.Thrift.Data.Servers.Generated",
-    "Sequences": "Talvo.Corvane.Zelmar.Serialization.Thrift.Data.Sequences.Generated",
-    "Commands and replies": "Talvo.Corvane.Zelmar.Serialization.Thrift.Commands.Generated",
-    "Events": "Talvo.Corvane.Zelmar.Serialization.Thrift.Notifier.Generated",
+    "Common records": "Talvo::Corvane::Data::Generated",
+    "Clips": "Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Clips::Generated",
+    "Angles groups": "Talvo::Corvane::Data::Clips::Groups::Generated",
+    "Channels": "Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Channels::Generated",
+    "Servers": "Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Servers::Generated",
+    "Sequences": "Talvo::Corvane::Zelmar::Serialization::Thrift::Data::Sequences::Generated",
+    "Commands and replies": "Talvo::Corvane::Zelmar::Serialization::Thrift::Commands::Generated",
+    "Events": "Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier::Generated",
 }
 
 INTRODUCTION = """# All records
 
-This page lists every record of the schema, with the converter that writes it (upper row) and the converter that reads
-it (lower row). Each name links to the header, whose comment is the source of this page: `docs/make_records_page.py`
-writes it.
+This page lists every record of the schema: its fields, the converter that writes it and the converter that reads it.
+`docs/make_records_page.py` writes this page from the schema and from the comments in the converters' headers.
 
+- A field has an `__isset` bit, its "flag", which says whether the field was sent. A "required" field has no flag, and
+  `read` rejects a record without it. An "optional" field is written only if its flag is set, a "default" field always.
 - A failure is a `ConversionResult` with one of these texts. The failure of a nested record is returned unchanged. What
-  was written before a failure stays in the destination, unless the table says otherwise.
+  was written before a failure stays in the destination, unless the record's section says otherwise.
 - An enumeration number without a counterpart on the other side becomes 0.
 - A value that ends the process in `To` is a failure of `TryTo` of [Thrift/TryTo.h](../Thrift/TryTo.h), with the path of
   the value; see [Bounding input](bounding-input.md). A failed memory allocation ends the process in every converter. A
   lack of random bytes from the system ends it in the two converters that generate a new identifier.
-- "Flag" is the `__isset` bit of a field. The rows of a nested record apply wherever it is nested.
+- What is said of a record applies wherever it is nested.
 """
+
+
+class Field(NamedTuple):
+    number: str
+    name: str
+    type: str
+    records: tuple  # that its type names
+    requiredness: str
 
 
 class Record(NamedTuple):
     name: str
     namespace: str
-    fields: str
+    fields: tuple
 
 
 class Banner(NamedTuple):
     converter: str
     header: Path
     record: str
+    domain: str
     is_to_wire: bool
     on_the_way: tuple
     failures: tuple
@@ -56,17 +74,45 @@ class Banner(NamedTuple):
     ends_process: str
 
 
+def field_of(element):
+    def names(part):
+        """The type of the field or of its elements, and the records that it names."""
+        kind = part.get("type")
+        parts = [found for kind_of in ("keyType", "valueType", "elemType")
+                 if (found := part.find(make_records.XML + kind_of)) is not None]
+        if parts:
+            texts, inner = zip(*map(names, parts))
+            return f"{kind}<{', '.join(texts)}>", sum(inner, ())
+        return (part.get("type-id"), (part.get("type-id"),)) if kind == "id" else (kind, ())
+
+    text, named = names(element)
+    requiredness = element.get("required")
+    return Field(element.get("field-id"), element.get("name"), text, named,
+                 requiredness if requiredness in ("required", "optional") else "default")
+
+
 def records():
     """Every record of the schema, by name."""
     found = {}
-    for schema in sorted((ROOT / "schema").glob("*.thrift")):
-        text = schema.read_text()
-        namespace = re.search(r"^namespace cpp (\S+)", text, re.M).group(1)
-        for name, fields in re.findall(r"^struct (\w+) \{(.*?)^\}", text, re.M | re.S):
-            if name in found:
-                raise ValueError(f"{schema}: {name} is defined twice")
-            found[name] = Record(name, namespace, fields)
+    with tempfile.TemporaryDirectory() as folder:
+        for file in sorted((ROOT / "schema").glob("*.thrift")):
+            schema = make_records.read_schema(os.environ.get("THRIFT_COMPILER", "thrift"), Path(folder), file)
+            for name, fields in schema.records.items():
+                if name in found:
+                    raise ValueError(f"{file}: {name} is defined twice")
+                found[name] = Record(name, schema.namespace, tuple(map(field_of, fields)))
     return found
+
+
+def domain_header(domain):
+    """The header that declares the class, or the class that it is nested in."""
+    parts = domain.split("<")[0].split("::")
+    for size in range(len(parts) - 1, 0, -1):
+        namespace = re.compile(rf"^namespace [\w:]*\b{'::'.join(parts[:size])}$", re.M)
+        for header in (ROOT / "Domain").glob(f"**/{parts[size]}.h"):
+            if namespace.search(header.read_text()):
+                return header.relative_to(ROOT)
+    raise ValueError(f"no header of {domain}")
 
 
 def paragraphs_of(comment):
@@ -99,11 +145,12 @@ def banners():
                         target.append("See the table in the header.")
                 else:
                     target.append(paragraph.removeprefix("- "))
-            arguments = re.findall(r"(Generated)?::(\w+)(?=,|>|$)", bases)
-            record = next(name for generated, name in arguments if generated)
-            is_to_wire = not re.match(r"[\w:]*Generated::", bases)
+            source, destination = re.split(r",\s*", bases)
+            is_to_wire = "Generated::" in destination
+            wire, domain = (destination, source) if is_to_wire else (source, destination)
+            record = wire.split("::")[-1]
             can_fail = "can't fail" not in " ".join(paragraphs_of(comment))
-            found.append(Banner(converter, header.relative_to(ROOT), record, is_to_wire, tuple(on_the_way),
+            found.append(Banner(converter, header.relative_to(ROOT), record, domain, is_to_wire, tuple(on_the_way),
                                 tuple(failures), can_fail, ends_process))
     return found
 
@@ -112,28 +159,59 @@ def capitalised(text):
     return text[:1].upper() + text[1:]
 
 
-def cell(texts):
-    return "<br>".join(capitalised(text).replace("|", "\\|") for text in texts)
+def remarks_of(banner):
+    """What the banner says of the conversion, without the sentence that only names the two types."""
+    first, *others = banner.on_the_way or ("",)
+    first = re.sub(r"^Writes a domain `[^`]+` into the wire record `[^`]+`\.\s*", "", first)
+    remarks = [re.sub(r"\s*It can't fail\.", "", text).strip() for text in (first, *others)]
+    return [capitalised(text) for text in remarks if text]
 
 
-def on_the_way(banner):
-    """The remarks of the banner, without the sentence that only names the two types."""
-    text = cell(banner.on_the_way)
-    text = re.sub(r"^Writes a domain `[^`]+` into the wire record `[^`]+`\.\s*", "", text)
-    text = re.sub(r"^<br>|\s*It can't fail\.", "", text)
-    return text.removeprefix("<br>").strip() or "–"
-
-
-def failures(banner):
+def failures_of(banner):
     texts = [re.sub(r"^Failures?(?:, ([^:]+:)|:)\s*", lambda match: f"{match[1]} " if match[1] else "", text).strip()
              for text in banner.failures]
-    return cell(text for text in texts if text) or "never"
+    return [text for text in texts if text]
 
 
-def nested_in(record, all_records):
-    users = [user.name for user in all_records.values()
-             if user.name != record.name and re.search(rf"\b{record.name}\b(?!\s*$)", user.fields, re.M)]
-    return "No converter of its own; nested in " + ", ".join(users) if users else "No converter; nested in no record"
+def failure_items(texts):
+    """One text in one line, several below. A first text that ends with a colon says something of all others."""
+    if not texts:
+        return "- It can't fail.\n"
+    if len(texts) == 1:
+        return f"- Fails with: {texts[0]}\n"
+    title = "Fails with:"
+    if texts[0].endswith(":"):
+        title, texts = f"Fails, {texts[0]}", texts[1:]
+    return f"- {title}\n" + "".join(f"  - {text}\n" for text in texts)
+
+
+def converter_section(title, banner):
+    text = f"\n{title}: [{banner.converter}]\n\n"
+    text += "".join(f"- {remark}\n" for remark in remarks_of(banner))
+    text += failure_items(failures_of(banner))
+    return text + (f"- Ends the process: {capitalised(banner.ends_process)}\n" if banner.ends_process else "")
+
+
+def linked(field, all_records):
+    text = field.type.replace("<", "\\<")
+    for name in set(field.records) & set(all_records):
+        text = re.sub(rf"\b{name}\b", f"[{name}](#{name})", text)
+    return text
+
+
+def record_section(record, all_records, own):
+    text = f'\n<a name="{record.name}"></a>\n### {record.name}\n\nWire header `generated/{record.name}.h`'
+    if own:
+        header = domain_header(own[0].domain)
+        text += f", domain `{own[0].domain}` in [{header}](../{header})"
+    else:
+        users = [f"[{user.name}](#{user.name})" for user in all_records.values()
+                 if any(record.name in field.records for field in user.fields)]
+        text += ", no converter of its own; nested in " + ", ".join(users) if users else ", no converter"
+    text += ".\n\n| Id | Field | Type | Requiredness |\n|---|---|---|---|\n"
+    text += "".join(f"| {field.number} | `{field.name}` | {linked(field, all_records)} | {field.requiredness} |\n"
+                    for field in record.fields)
+    return text + "".join(converter_section("To the wire" if banner.is_to_wire else "From the wire", banner) for banner in own)
 
 
 def page():
@@ -143,20 +221,12 @@ def page():
         raise ValueError(f"unknown record or family: {unknown}")
     text = INTRODUCTION
     for title, namespace in FAMILIES.items():
-        text += f"\n## {title}\n\nIn `{namespace.replace('.', '::')}`.\n\n"
-        text += "| Record | Converter | Conversion | Fails with | Ends the process |\n|---|---|---|---|---|\n"
+        text += f"\n## {title}\n\nIn `{namespace}`.\n"
         for record in sorted(all_records.values()):
-            if record.namespace != namespace:
-                continue
-            own = sorted((banner for banner in all_banners if banner.record == record.name),
-                         key=lambda banner: not banner.is_to_wire)
-            name = f"**{record.name}**"
-            for banner in own:
-                text += (f"| {name} | [{banner.converter}] | {on_the_way(banner)} | {failures(banner)} "
-                         f"| {capitalised(banner.ends_process) or 'never'} |\n")
-                name = ""
-            if not own:
-                text += f"| {name} | – | {nested_in(record, all_records)} | – | – |\n"
+            if record.namespace == namespace:
+                own = sorted((banner for banner in all_banners if banner.record == record.name),
+                             key=lambda banner: not banner.is_to_wire)
+                text += record_section(record, all_records, own)
     for banner in all_banners:
         text = re.sub(rf"(?<![\w\[]){banner.converter}\b(?!\])", f"[{banner.converter}]", text)
     return text + "\n" + "".join(f"[{banner.converter}]: ../{banner.header}\n" for banner in all_banners)

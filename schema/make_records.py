@@ -335,15 +335,30 @@ def write_if_changed(file, text):
         file.write_text(text, encoding="utf-8")
 
 
+def read_schema(thrift, scratch, file):
+    run_compiler(thrift, "xml", scratch, file)
+    return Schema(file.stem, ElementTree.fromstring(read_text(scratch / f"{file.stem}.xml")).find(XML + "document"))
+
+
+def record_header(schema, record):
+    """The header that a user includes, who need not know which file the compiler writes a record to."""
+    return f"""\
+#ifndef {record}_RECORD_H
+#define {record}_RECORD_H
+
+#include "{schema.name}_types.h"
+
+#endif
+"""
+
+
 def make_records(thrift, schema_files, output):
     with tempfile.TemporaryDirectory() as scratch:
         scratch = Path(scratch)
         schemas = {}
         for file in schema_files:
-            for generator in (CPP_OPTIONS, "xml"):
-                run_compiler(thrift, generator, scratch, file)
-            document = ElementTree.fromstring(read_text(scratch / f"{file.stem}.xml")).find(XML + "document")
-            schemas[file.stem] = Schema(file.stem, document)
+            run_compiler(thrift, CPP_OPTIONS, scratch, file)
+            schemas[file.stem] = read_schema(thrift, scratch, file)
 
         texts = {}
         for name, schema in schemas.items():
@@ -354,6 +369,7 @@ def make_records(thrift, schema_files, output):
             texts[f"{name}_types.tcc"] = finish_template(schema, read_text(scratch / f"{name}_types.tcc"))
             texts[f"{name}_types.cpp"] = finish_source(schemas, schema, read_text(scratch / f"{name}_types.cpp"))
             texts[f"{name}_constants.h"] = constants_header(schema)
+            texts.update({f"{record}.h": record_header(schema, record) for record in schema.records})
         texts["RecordFields.h"] = fields_header(schemas)
 
     try:

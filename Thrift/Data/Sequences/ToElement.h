@@ -25,7 +25,7 @@ class Element;
 ///
 /// Ends the process: a location below 0 or above 109.
 ///
-/// Lost: `umId` above 8 bytes is cut; unknown enumeration numbers read as 0.
+/// Lost: `umId` is cut at its first NUL and above 8 bytes; unknown enumeration numbers read as 0.
 class ThriftToElementConverter : public Converter<Generated::Element, Corvane::Data::Sequences::Element>
 {
 public:

@@ -31,8 +31,8 @@ class Sequence;
 /// Ends the process: a location below 0 or above 109, and a `timeCodeRegenReference` that has the form of a time code
 /// but an invalid value (a value out of range, a number that drop-frame skips, a rate too large for an `int`).
 ///
-/// Lost: `umId` above 8 bytes, `varId` above 32 and `name` above 24 are cut, shorter texts are filled with zeros, not
-/// blanks; a play rate of which only one flag is set; unknown enumeration numbers, which read as 0.
+/// Lost: `umId` is cut at its first NUL and above 8 bytes, `varId` above 32 and `name` above 24; shorter texts are filled
+/// with zeros, not blanks; a play rate of which only one flag is set; unknown enumeration numbers, which read as 0.
 class ThriftToSequenceConverter : public Converter<Generated::Sequence, Corvane::Data::Sequences::Sequence>
 {
 public:
