@@ -60,6 +60,14 @@ inline CodecResult ResultOf(Common::Serialization::ConversionResult&& result)
     return {Fault::Conversion, "conversion failed: " + std::move(result.message)};
 }
 
+/// Gives all fields their defaults. Unlike an assignment of `{}`, this makes no record, and lists keep their memory.
+template<typename TRecord>
+void Empty(TRecord& record)
+{
+    static TRecord const empty;
+    record = empty;
+}
+
 /// Requires an empty `record`.
 template<typename TConverter>
 CodecResult Decode(TConverter const& converter, std::span<std::uint8_t const> const bytes, SourceOf<TConverter>& record,
@@ -146,13 +154,13 @@ CodecResult Decode(TConverter const& converter, std::span<std::uint8_t const> co
 }
 
 /// Decodes as above, through a record of the caller, which is emptied first so that nothing of an earlier message
-/// remains. A reused record keeps the memory of its strings.
+/// remains. A reused record keeps the memory of its strings and lists.
 template<typename TConverter>
 CodecResult Decode(TConverter const& converter, std::span<std::uint8_t const> const bytes,
                    Detail::SourceOf<TConverter>& record, Detail::DestinationOf<TConverter>& destination,
                    Bounds const& bounds = {})
 {
-    record = {};
+    Detail::Empty(record);
     return Detail::Decode(converter, bytes, record, destination, bounds);
 }
 
@@ -170,12 +178,12 @@ CodecResult Encode(TConverter const& converter, Detail::SourceOf<TConverter> con
 }
 
 /// Encodes as above, through a record of the caller, which is emptied first. A reused record keeps the memory of its
-/// strings.
+/// strings and lists.
 template<typename TConverter>
 CodecResult Encode(TConverter const& converter, Detail::SourceOf<TConverter> const& source,
                    Detail::DestinationOf<TConverter>& record, BinaryWriter& writer)
 {
-    record = {};
+    Detail::Empty(record);
     return Detail::Encode(converter, source, record, writer);
 }
 

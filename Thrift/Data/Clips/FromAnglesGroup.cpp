@@ -18,11 +18,12 @@ AnglesGroupToThriftConverter::To(Corvane::Data::Clips::Groups::AnglesGroup const
 {
     static GuidToThriftConverter const guidConverter;
 
-    // An empty angle is not written; a later angle of the same camera replaces an earlier one.
+    // An empty angle is not written; a later angle of the same camera replaces an earlier one. Most come in camera order.
     auto const send = [&destination](Angle const& angle, Generated::PreferentialCamera::type const preference)
     {
         if (angle == Angle::Empty()) return Success();
-        auto& item = destination.angles[EnumConverter::ToGeneratedEnum(angle.camera)];
+        auto& angles = destination.angles;
+        auto& item = angles.try_emplace(angles.end(), EnumConverter::ToGeneratedEnum(angle.camera))->second;
         item.preferencialCamera = preference;
         return guidConverter.To(angle.clipGuid, item.clipId);
     };

@@ -1,8 +1,8 @@
 #include "Domain/CorvaneData/Clips/Groups/AnglesGroup.h"
 
 #include <algorithm>
-#include <cstddef>
 #include <cstdint>
+#include <utility>
 
 namespace Talvo::Corvane::Data::Clips::Groups
 {
@@ -36,14 +36,17 @@ Angle AnglesGroup::SecondaryAngle() const noexcept
 
 std::vector<Angle> AnglesGroup::OtherAngles() const
 {
-    auto const isOther = [primary = FirstMarked(PreferentialCamera::Primary),
-                          secondary = FirstMarked(PreferentialCamera::Secondary)](AngleSlot const& slot)
-    { return !slot.isFree && &slot != primary && &slot != secondary; };
-
     std::vector<Angle> others;
-    others.reserve(static_cast<std::size_t>(std::count_if(angleSlots.begin(), angleSlots.end(), isOther)));
+    others.reserve(angleSlots.size());
+    bool hasPrimary = false;
+    bool hasSecondary = false;
     for (AngleSlot const& slot : angleSlots)
-        if (isOther(slot)) others.push_back(AngleOf(&slot));
+    {
+        if (slot.isFree) continue;
+        if (slot.preferentialCamera == PreferentialCamera::Primary && !std::exchange(hasPrimary, true)) continue;
+        if (slot.preferentialCamera == PreferentialCamera::Secondary && !std::exchange(hasSecondary, true)) continue;
+        others.push_back(AngleOf(&slot));
+    }
     return others;
 }
 
