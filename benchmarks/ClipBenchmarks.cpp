@@ -99,7 +99,7 @@ void AddClips(Comparisons& rows)
                                      for (auto _ : state) LookUp(clip);
                                  });
 
-    // The sources are made, and the results destroyed, outside the time that counts.
+    // The sources are built, and the results destroyed, outside the measured time.
     benchmark::RegisterBenchmark("100,000 clips to wire",
                                  [](benchmark::State& state)
                                  {

@@ -41,7 +41,7 @@ using Corvane::Zelmar::HighLevelOperations::Commands::PlayCommandParams;
 
 constexpr std::size_t ListSize = 100'000;
 
-/// A reply is read once, so each conversion takes a copy, which shares the clips.
+/// A reply can be read only once, so each conversion gets a copy, which shares the clips.
 void ToWire(GetClipsCommandReply const reply, Generated::GetClipsCommandReply& wire)
 {
     std::ignore = GetClipsCommandReplyToThriftConverter().To(reply, wire);
@@ -55,7 +55,7 @@ GetClipsCommandReply ToDomain(Generated::GetClipsCommandReply const& wire)
     return reply;
 }
 
-/// A command to many players of as many machines, in an order that has nothing to do with that of the wire.
+/// A command to many players, each of another machine, in an order unrelated to that of the wire.
 void AddPlayers(Comparisons& rows, std::string const& name, int const count, double const toNewRecordOfCopy)
 {
     PlayCommandParams play;
@@ -101,7 +101,7 @@ void AddCommands(Comparisons& rows)
     AddPlayers(rows, "command to 100 players", 100, 2.1);
     AddPlayers(rows, "command to 1,000 players", 1'000, 3.2);
 
-    // New parameters draw an identifier, which is a part of what a conversion to new ones takes.
+    // New parameters generate an identifier, which is part of the time of a conversion to new parameters.
     benchmark::RegisterBenchmark("new command parameters",
                                  [](benchmark::State& state)
                                  {
@@ -117,7 +117,7 @@ void AddCommands(Comparisons& rows)
                                                    [](Generated::CreateClipsCommandParams& wire)
                                                    { wire.clips.clear(); });
 
-    // What a conversion leaves is destroyed outside the time that counts.
+    // The result of a conversion is destroyed outside the measured time.
     auto const reply = std::make_shared<GetClipsCommandReply>(ReplyOf(ListSize));
     auto const sent = std::make_shared<Generated::GetClipsCommandReply>();
     ToWire(*reply, *sent);

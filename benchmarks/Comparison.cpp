@@ -17,7 +17,7 @@ namespace Talvo::Benchmarks
 namespace
 {
 
-/// Keeps the times of all repetitions.
+/// Stores the times of all repetitions.
 class TimesReporter : public benchmark::BenchmarkReporter
 {
 public:
@@ -33,7 +33,7 @@ public:
         }
     }
 
-    /// In seconds of processor time, 0 for a benchmark that was not run.
+    /// The median in seconds of processor time, 0 for a benchmark that was not run.
     double Median(std::string const& name) const
     {
         auto const found = times_.find(name);
@@ -86,8 +86,8 @@ void KeepHeap()
 
 int Run(int const argc, char** const argv, Comparisons (*const add)())
 {
-    // Short repetitions in random order: what else the machine does falls on all benchmarks alike. Options of the command
-    // line come later and win.
+    // Short repetitions in random order, so that other load on the machine affects all benchmarks equally. Options of
+    // the command line come later and take precedence.
     std::string defaults[] = {"--benchmark_repetitions=25", "--benchmark_min_time=0.01",
                               "--benchmark_enable_random_interleaving=true"};
     std::vector<char*> arguments(argv, argv + argc);

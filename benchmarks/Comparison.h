@@ -7,24 +7,25 @@
 namespace Talvo::Benchmarks
 {
 
-/// One row of the printed table: how long a benchmark takes, in itself and against another one of the same run.
+/// One row of the printed table: the time of a benchmark, absolute and relative to another one of the same run.
 struct Comparison
 {
-    std::string measured;         ///< name of the benchmark
-    std::string against;          ///< name of the other one
-    std::optional<double> target; ///< the ratio of their times should be at most this
+    std::string measured;         ///< the name of the benchmark
+    std::string against;          ///< the name of the other benchmark
+    std::optional<double> target; ///< the highest ratio of their times that meets the target
 };
 
 using Comparisons = std::vector<Comparison>;
 
-/// Runs what `add` registers, with the options of the command line, and prints the rows it gives. The status to exit with.
+/// Runs the benchmarks that `add` registers, with the options of the command line, and prints the rows that it returns.
+/// Returns the exit status.
 int Run(int argc, char** argv, Comparisons (*add)());
 
-/// From here on the process keeps the memory it has: long lists get memory that is warm, as in a server that runs on. What
-/// the kernel takes to hand out new memory is none of ours, and as much for every way to fill it.
+/// Makes the process keep its memory from here on, so that long lists get warm memory, as in a long-running server. The
+/// time in which the kernel provides new memory does not depend on our code, and is the same for every way to fill it.
 void KeepHeap();
 
-// Each registers its benchmarks and adds the rows that show them.
+// Each function registers its benchmarks and adds the rows that show them.
 void AddTimeCodes(Comparisons& rows);
 void AddClips(Comparisons& rows);
 void AddStatesAndEvents(Comparisons& rows);
@@ -32,13 +33,13 @@ void AddPlaylists(Comparisons& rows);
 void AddCommands(Comparisons& rows);
 void AddWireProtocol(Comparisons& rows);
 
-/// Registers what is measured of every record that converts both ways, as "every/RECORD/WHAT".
+/// Registers the benchmarks of every record that converts both ways, as "every/RECORD/WHAT".
 void AddEveryRecord();
 
-/// Prints what memory 100,000 clips take on their way to a wire list, at the highest.
+/// Prints the peak memory of converting 100,000 clips to a wire list.
 void PrintPeakMemory();
 
-/// Prints what memory a reply of 100,000 clips takes on its way to the wire, at the highest.
+/// Prints the peak memory of converting a reply of 100,000 clips to the wire.
 void PrintPeakMemoryOfReply();
 
 } // namespace Talvo::Benchmarks

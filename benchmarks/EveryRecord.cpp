@@ -20,17 +20,17 @@ namespace Talvo::Benchmarks
 namespace
 {
 
-/// A record on both sides.
+/// A wire record and its domain object.
 template<typename TWire, typename TDomain>
 struct Sample
 {
     std::shared_ptr<TDomain const> domain;
-    std::shared_ptr<TWire const> wire; ///< what became of the domain object
-    std::uint32_t size = 0;            ///< of the wire record in bytes
+    std::shared_ptr<TWire const> wire; ///< the conversion of the domain object
+    std::uint32_t size = 0;            ///< the size of the wire record in bytes
 };
 
-/// The full sample of a record: of a few numbers that every field may hold, those with which most of it travels. What
-/// a record carries hangs on its numbers: clips go with results that succeeded, a video standard with its rates.
+/// The full sample of a record: it tries a few numbers for all fields and takes those with which the most is converted.
+/// What a record carries depends on its numbers: clips belong to results that succeeded, rates to their video standard.
 template<typename TPair, typename TWire = typename TPair::Wire, typename TDomain = typename TPair::Domain>
 Sample<TWire, TDomain> FullSample(std::string const& name)
 {
@@ -55,8 +55,8 @@ Sample<TWire, TDomain> FullSample(std::string const& name)
     return fullest;
 }
 
-/// What makes new destinations. New command parameters draw an identifier, which takes longer than most conversions: a
-/// copy of new ones serves as well, and leaves that to be measured by itself.
+/// Returns a function that makes new destinations. New command parameters generate an identifier, which takes longer
+/// than most conversions, so a copy of new parameters is used here and that time is measured separately.
 template<typename TDomain, typename TWire>
 auto NewDestination(std::shared_ptr<TWire const> const& wire)
 {

@@ -1,4 +1,5 @@
-// What loading the library costs: dlopen in a new process each time, and the allocations of its initialisers.
+// Measures the loading of the library: the time of dlopen, in a new process each time, and the allocations of the
+// initialisers.
 
 #include <dlfcn.h>
 #include <sys/wait.h>
@@ -59,7 +60,7 @@ Load LoadInNewProcess(char const* const library)
 
 } // namespace
 
-// The library's own, too: the first definition counts.
+// Replaces operator new in the library too, because the first definition counts.
 void* operator new(std::size_t const size)
 {
     ++allocations;

@@ -7,7 +7,7 @@ using namespace Talvo::Benchmarks;
 
 Comparisons Add()
 {
-    PrintPeakMemory(); // first, in a heap that nothing has used
+    PrintPeakMemory(); // first, while the heap is unused
     PrintPeakMemoryOfReply();
 
     KeepHeap();

@@ -9,8 +9,7 @@
 namespace Talvo::Benchmarks
 {
 
-/// The MB by which the memory of the process grows while `work` runs, at the highest: seen in a process of its own, whose
-/// high-water mark starts anew.
+/// The peak growth of memory in MB while `work` runs. It runs in a separate process, which has its own high-water mark.
 inline double PeakGrowth(auto const& work)
 {
     auto const peak = []

@@ -20,7 +20,7 @@
 namespace Talvo::Benchmarks::Peer
 {
 
-// Texts and time codes go through the same functions as in our converters.
+// Texts and time codes use the same functions as in our converters.
 using namespace Corvane::Zelmar::Serialization::Thrift::Detail;
 using namespace Corvane::Data;
 using Corvane::Notification::ClipCreationFinishedEventArgs;
@@ -177,7 +177,7 @@ void ReadInfoOnAir(PlayerInfoOnAir const& message, Channels::PlayerState& destin
     destination.limitUserOut = message.limit_user_out();
 }
 
-// The type has the numbers of the record: 0 is absolute, a reference is higher by one.
+// The type has the numbers of the wire record: 0 is absolute, and those of a reference are higher by one.
 
 void Fill(Channels::Boundary const& source, LoadBoundary& message)
 {

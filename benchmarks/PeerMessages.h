@@ -31,9 +31,9 @@ class GetClipsCommandReply;
 namespace Talvo::Benchmarks::Peer
 {
 
-// What a user of protobuf writes by hand: each fills a new or cleared message from a domain object, field by field with
-// its setters, or copies every field of a message into a domain object. A text is assigned to the message's own string:
-// the setter that takes a pointer and a size makes a temporary string.
+// The code that a user of protobuf writes by hand: each function fills a new or cleared message from a domain object,
+// field by field with its setters, or copies every field of a message into a domain object. A text is assigned to the
+// message's own string, because the setter with a pointer and a size makes a temporary string.
 
 void Fill(Corvane::Data::Clips::Clip const& source, Clip& message);
 void Fill(Corvane::Data::Channels::PlayerState const& source, PlayerState& message);

@@ -18,7 +18,8 @@
 namespace Talvo::Benchmarks
 {
 
-/// What a conversion may cost of Thrift's own work on the same record, and of plain copies.
+/// The targets of a record: the highest ratios of a conversion to Thrift's own work on the same record, and to plain
+/// copies.
 struct RecordTargets
 {
     std::optional<double> toNewRecord = {};       ///< of `write`
@@ -28,7 +29,7 @@ struct RecordTargets
     std::optional<double> toDomainOfCopy = {};    ///< of a copy of the domain object
 };
 
-/// A buffer that can be read again and again, at no cost that would count as Thrift's.
+/// A buffer that can be read repeatedly, without a cost that would be measured as Thrift's.
 class WireBuffer : public apache::thrift::transport::TMemoryBuffer
 {
 public:
@@ -41,7 +42,8 @@ public:
 
 using WireProtocol = apache::thrift::protocol::TBinaryProtocolT<apache::thrift::transport::TMemoryBuffer>;
 
-/// What a conversion is given. A reply that is read once is copied for each, which shares what it holds.
+/// The source of a conversion. A reply that can be read only once is copied for each conversion; copies share the
+/// contents.
 template<typename TDomain>
 decltype(auto) ReadableAgain(TDomain const& source)
 {
@@ -51,8 +53,8 @@ decltype(auto) ReadableAgain(TDomain const& source)
         return (source);
 }
 
-// Each registers one measurement. A conversion starts from a new destination and includes its destruction, as do copies
-// and `read`, which are what it is compared with; `write` writes into a buffer that is large enough.
+// Each function registers one measurement. A conversion starts from a new destination and includes its destruction; so
+// do the copies and `read` that it is compared with. `write` writes into a buffer that is large enough.
 
 template<typename TToWire, typename TWire, typename TDomain>
 void AddToWire(std::string const& name, std::shared_ptr<TDomain const> const& source)
@@ -70,7 +72,7 @@ void AddToWire(std::string const& name, std::shared_ptr<TDomain const> const& so
                                  });
 }
 
-/// With `To`, or checked with TryTo(). `make` makes the new destination.
+/// Converts with `To`, or checked with TryTo(). `make` makes the new destination.
 template<typename TToDomain, bool isChecked = false, typename TWire>
 void AddToDomain(std::string const& name, std::shared_ptr<TWire const> const& sent, auto const& make)
 {
@@ -91,8 +93,8 @@ void AddToDomain(std::string const& name, std::shared_ptr<TWire const> const& se
                                  });
 }
 
-/// A copy costs the least that making such an object can: what is copied is what a conversion gave, so that its memory
-/// lies as that of the conversion that is measured.
+/// A copy is the cheapest way to make such an object. It copies the result of a conversion, so that its memory layout
+/// is that of the measured conversion.
 template<typename T>
 void AddCopy(std::string const& name, std::shared_ptr<T const> const& original)
 {
@@ -143,8 +145,9 @@ void AddRead(std::string const& name, std::shared_ptr<TWire const> const& sent)
                                  });
 }
 
-/// Registers what is measured of one record and adds its rows: both directions against `write` and `read` and against
-/// copies. `make` makes new domain objects, `clear` empties the fields of a used record that the conversion appends to.
+/// Registers the benchmarks of one record and adds its rows: both directions, compared with `write` and `read` and with
+/// copies. `make` makes new domain objects; `clear` empties the fields of a used record to which the conversion
+/// appends.
 template<typename TToWire, typename TToDomain, typename TWire, typename TDomain>
 void AddRecord(
     Comparisons& rows, std::string const& name, TDomain const& value, RecordTargets const& targets,
@@ -196,9 +199,9 @@ void AddRecord(
                              {toDomain, domainCopy, targets.toDomainOfCopy}});
 }
 
-/// Registers `work(count)` for a list of `many` elements and for as many in lists of `few`, and adds the row that shows
-/// whether a long list costs more an element than a short one. What the work returns is destroyed outside the time that
-/// counts.
+/// Registers `work(count)` for one list of `many` elements and for the same number in lists of `few`, and adds the row
+/// that shows whether a long list takes more time per element than a short one. The results of `work` are destroyed
+/// outside the measured time.
 template<typename TMakeWork>
 void AddLinear(Comparisons& rows, std::string const& name, std::size_t few, std::size_t many, TMakeWork const& makeWork)
 {

@@ -10,12 +10,12 @@
 #include <cstddef>
 #include <list>
 
-// The full objects that several benchmarks measure.
+// Full objects that several benchmarks use.
 
 namespace Talvo::Benchmarks
 {
 
-/// All texts, both time codes, two essences.
+/// A clip with all texts, both time codes and two essences.
 inline Corvane::Data::Clips::Clip ClipWithTwoEssences()
 {
     auto clip = Tests::FullClip();
@@ -33,7 +33,7 @@ inline Corvane::Notification::ClipCreationFinishedEventArgs CreationOf(Corvane::
     return event;
 }
 
-/// What a creation event is read into: it differs from CreationOf() in every field.
+/// The destination of a creation event. It differs from CreationOf() in every field.
 inline Corvane::Notification::ClipCreationFinishedEventArgs FreshCreation()
 {
     using Event = Corvane::Notification::ClipCreationFinishedEventArgs;
@@ -42,7 +42,7 @@ inline Corvane::Notification::ClipCreationFinishedEventArgs FreshCreation()
     return fresh;
 }
 
-/// A playlist of `count` elements with three tags each, of two properties each.
+/// A playlist of `count` elements, each with three tags of two properties.
 inline Corvane::Data::Sequences::Playlist PlaylistOf(std::size_t const count)
 {
     using Corvane::Data::Sequences::Tag;
@@ -66,7 +66,7 @@ inline Corvane::Zelmar::HighLevelOperations::Commands::GetClipsCommandReply Repl
     return {Corvane::Data::Guid::Generate(), 1, std::list<Corvane::Data::Clips::Clip>(count, Tests::FullClip())};
 }
 
-/// What a reply is read into.
+/// The destination of a reply.
 inline Corvane::Zelmar::HighLevelOperations::Commands::GetClipsCommandReply FreshReply()
 {
     return {Corvane::Data::Guid::Empty(), 0, {}};

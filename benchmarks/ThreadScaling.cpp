@@ -1,5 +1,5 @@
-// How many conversions two threads do against one: clips to new wire records and back. Each share of the machine that the
-// threads did not get is told, since it is missing in the ratio.
+// Compares the conversions of two threads with those of one: clips to new wire records and back. It also prints the
+// share of the processors that the threads did not get, because that share lowers the ratio.
 
 #include "Domain/CorvaneData/Clips/Clip.h"
 #include "Thrift/Data/Clips/FromClip.h"
@@ -29,15 +29,15 @@ using Seconds = std::chrono::duration<double>;
 constexpr Seconds RunTime{0.1};
 constexpr std::size_t Repetitions = 51;
 
-/// Which threads convert in the runs of a repetition: each alone, since how fast one converts hangs on where its stack and
-/// its heap lie, too, and then both.
+/// The threads that convert in the runs of a repetition: first each alone, because the speed of a thread also depends
+/// on the addresses of its stack and heap, and then both.
 constexpr std::array<std::array<bool, 2>, 3> Runs{{{true, false}, {false, true}, {true, true}}};
 
 struct State
 {
-    std::barrier<> barrier{3}; ///< each run lies between two passages
+    std::barrier<> barrier{3}; ///< each run is between two passages
     std::atomic<bool> stop = false;
-    std::array<std::atomic<std::size_t>, 2> counts{}; ///< the conversions of the last run
+    std::array<std::atomic<std::size_t>, 2> counts{}; ///< the numbers of conversions in the last run
 };
 
 void Work(State& state, std::size_t const self)
@@ -62,8 +62,8 @@ void Work(State& state, std::size_t const self)
 
 struct Throughput
 {
-    double aSecond;          ///< conversions
-    double aProcessorSecond; ///< the same, of the time that the threads ran
+    double aSecond;          ///< conversions per second
+    double aProcessorSecond; ///< conversions per second of processor time
 };
 
 Throughput Measure(State& state)

@@ -1,5 +1,5 @@
-// Time codes as text, against FFmpeg's. Its form is shorter, "hh:mm:ss:ff", without date and rate, which is given apart: ours
-// does the same work without a date, and more with one.
+// Compares time codes as text with those of FFmpeg. Its form, "hh:mm:ss:ff", has no date and no rate; the rate is a
+// separate argument. Without a date our code does the same work; with a date it does more.
 
 #include "benchmarks/Comparison.h"
 

@@ -1,4 +1,4 @@
-// BinaryWriter and BinaryReader against Thrift's own binary protocol, on the same records.
+// Compares BinaryWriter and BinaryReader with Thrift's own binary protocol on the same records.
 
 #include "benchmarks/Comparison.h"
 #include "benchmarks/Records.h"
@@ -31,7 +31,7 @@ namespace
 
 using namespace Corvane::Zelmar::Serialization::Thrift;
 
-/// What `TToWire` makes of `value`.
+/// Converts `value` with `TToWire`.
 template<typename TWire, typename TToWire>
 std::shared_ptr<TWire const> RecordOf(TToWire const& converter, auto const& value)
 {
@@ -40,8 +40,8 @@ std::shared_ptr<TWire const> RecordOf(TToWire const& converter, auto const& valu
     return wire;
 }
 
-/// Registers what is measured of one record and adds its rows. AddWrite() and AddRead() have registered the same of
-/// Thrift's protocol under `name`, except the used record.
+/// Registers the benchmarks of one record and adds its rows. AddWrite() and AddRead() have registered those of Thrift's
+/// protocol under `name`, except for the used record.
 template<typename TWire>
 void AddBinary(Comparisons& rows, std::string const& name, std::shared_ptr<TWire const> const& sent)
 {

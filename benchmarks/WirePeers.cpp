@@ -1,6 +1,6 @@
-// The whole road between a domain object and bytes, against protobuf's: Encode() against filling a message and serializing
-// it, Decode() against parsing a message and copying its fields. "New" makes the record or message, the memory for the bytes
-// and the domain object anew each time; "reused" keeps them, and clears the message.
+// Compares the whole conversion between a domain object and bytes with that of protobuf: Encode() with filling and
+// serializing a message, Decode() with parsing a message and copying its fields. "New" constructs the record or
+// message, the memory for the bytes and the domain object each time; "reused" keeps them, and clears the message.
 
 #include "benchmarks/Comparison.h"
 #include "benchmarks/PeerMessages.h"
@@ -48,7 +48,7 @@ bool AreEqual(TDomain const& left, TDomain const& right)
     return left == right;
 }
 
-/// Reads copies, since reading moves the cursor of a reply.
+/// Reads copies, because reading moves the cursor of a reply.
 bool AreEqual(GetClipsCommandReply const& left, GetClipsCommandReply const& right)
 {
     if (left.commandGuid != right.commandGuid || left.revision != right.revision ||
@@ -70,8 +70,8 @@ void Require(bool const condition, std::string const& name, char const* const fa
     std::abort();
 }
 
-/// One object, and its bytes of both kinds. They are made and read once at first: nothing that is measured fails, and what
-/// protobuf's messages bring is the whole object.
+/// One object, and its bytes in both formats. They are written and read once first, to check that no measured operation
+/// fails and that protobuf's messages carry the whole object.
 template<typename TToWire, typename TToDomain, typename TMessage, typename TDomain>
 class Subject
 {
@@ -111,7 +111,7 @@ private:
     std::string peerBytes_;
 };
 
-// What is measured, of a Subject each.
+// The measured operations, each on a Subject.
 
 template<typename TSubject>
 void EncodeNew(benchmark::State& state, std::shared_ptr<TSubject const> const& subject)
@@ -211,13 +211,13 @@ void ParseReused(benchmark::State& state, std::shared_ptr<TSubject const> const&
     auto domain = subject->NewDomain();
     for (auto _ : state)
     {
-        benchmark::DoNotOptimize(message.ParseFromString(subject->PeerBytes())); // clears it before
+        benchmark::DoNotOptimize(message.ParseFromString(subject->PeerBytes())); // clears the message first
         Read(message, domain);
         benchmark::DoNotOptimize(domain);
     }
 }
 
-/// Registers what is measured of one object and adds its rows. `make` makes new domain objects.
+/// Registers the benchmarks of one object and adds its rows. `make` makes new domain objects.
 template<typename TToWire, typename TToDomain, typename TMessage, typename TDomain>
 void AddSubject(
     Comparisons& rows, std::string const& name, TDomain const& value,

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""report.py RESULTS... FOLDER: of what the benchmarks measured of every record, prints the table and writes it into FOLDER
-as performance.json and performance.svg. RESULTS are what Google Benchmark writes as JSON, one a run of the program.
+"""report.py RESULTS... FOLDER: prints a table of the benchmarks of every record and writes it to FOLDER as performance.json
+and performance.svg. RESULTS are JSON files of Google Benchmark, one per run of the program.
 
-report.py --compare RESULTS... --with OTHERS...: what the others take of the time that RESULTS tell."""
+report.py --compare RESULTS... --with OTHERS...: prints the ratios of the times in OTHERS to those in RESULTS."""
 
 import argparse
 import json
@@ -11,7 +11,7 @@ import statistics
 import sys
 
 MEASUREMENTS = ["toWire", "copy", "write", "fromWire", "read"]
-# The ratios with their bars: for the median of all records, and for the highest.
+# The ratios with their targets: for the median of all records, and for the highest.
 RATIOS = {
     "toWireOfCopy": ("toWire", "copy", 1.3, 1.8),
     "toWireOfWrite": ("toWire", "write", None, None),
@@ -20,7 +20,7 @@ RATIOS = {
 
 
 def times(results_files):
-    """By record and measurement: the times of all repetitions, in nanoseconds."""
+    """The median time of all repetitions in nanoseconds, by record and measurement."""
     found = {}
     for file in results_files:
         for run in json.loads(pathlib.Path(file).read_text())["benchmarks"]:
@@ -32,7 +32,7 @@ def times(results_files):
 
 
 def records(results_files):
-    """One dictionary a record. Empty where not all was measured."""
+    """One dictionary per record that has all measurements."""
     rows = []
     for name, measured in times(results_files).items():
         if set(measured) != set(MEASUREMENTS):
@@ -61,7 +61,7 @@ def print_table(rows):
 
 
 def chart(rows):
-    """Two bars a record, readable on a light and on a dark page: to the wire of the copy, from the wire of `read`."""
+    """Two bars per record, readable on light and dark pages: to the wire relative to a copy, from the wire relative to `read`."""
     line, left, scale, top = 22, 290, 200, 60
     bars = [("toWireOfCopy", "a"), ("fromWireOfRead", "b")]
     height = top + line * len(rows) + 10

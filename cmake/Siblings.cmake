@@ -5,7 +5,7 @@
 # TimePoints is part of this library in both cases, because this library exports its classes. The siblings hold time
 # codes by value, so they are compiled with the headers of TimePoints but do not install them, and they hold a private
 # copy of the code that they call.
-option(TALVO_EXTERNAL_SIBLINGS "Build against sibling libraries from elsewhere, not against the stand-ins in Domain/" OFF)
+option(TALVO_EXTERNAL_SIBLINGS "Build against external sibling libraries instead of the stand-ins in Domain/" OFF)
 
 if(TALVO_EXTERNAL_SIBLINGS)
     find_package(TalvoCorvaneData CONFIG REQUIRED)

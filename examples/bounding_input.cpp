@@ -1,4 +1,4 @@
-// A request from a peer that is not trusted: read within bounds, and converted by the checked conversion.
+// A request from an untrusted peer: read within bounds, and converted with the checked conversion.
 
 #include "Domain/HighLevelOperations/Commands/CreateClipsCommandParams.h"
 #include "Thrift/Commands/ToCreateClipsCommandParams.h"
@@ -36,7 +36,7 @@ void Try(char const* const what, std::string const& message)
         std::cout << result.message << '\n';
 }
 
-// Messages that are refused, and one that is not.
+// Messages that are rejected, and one that is accepted.
 
 std::string Written(Record const& record)
 {
@@ -45,7 +45,7 @@ std::string Written(Record const& record)
     return std::string(writer.Text());
 }
 
-/// Fields that the record does not have, each within the one before it.
+/// Fields that the record does not have, each nested in the one before it.
 std::string Nested(std::size_t const depth)
 {
     std::string const fieldOfARecord("\x0c\x00\x63", 3);
@@ -68,11 +68,11 @@ int main()
 {
     Try("two clips", Written(WithClips(2)));
     Try("a message of two megabytes", std::string(2 * 1024 * 1024, '\0'));
-    // The field commandGuid with a value of 2147483647 bytes, of which none comes.
+    // The field commandGuid with a value of 2147483647 bytes, none of which is sent.
     Try("a long string", std::string("\x0c\x00\x01\x0b\x00\x01\x7f\xff\xff\xff", 10));
-    // The field clips with 2147483647 records, of which none comes.
+    // The field clips with 2147483647 records, none of which is sent.
     Try("a long list", std::string("\x0f\x00\x02\x0c\x7f\xff\xff\xff", 8));
-    // Each of them takes one byte on the wire, and 840 in memory.
+    // Each record takes one byte on the wire, and 840 bytes in memory.
     Try("50,000 empty records", std::string("\x0f\x00\x02\x0c\x00\x00\xc3\x50", 8) + std::string(50'001, '\0'));
     Try("records within records", Nested(1000));
     Try("half a message", Written(WithClips(2)).substr(0, 300));

@@ -1,9 +1,9 @@
-// The road of one request: what a server does between the bytes that a client sent and the bytes that it answers with.
+// Follows one request through a server, from the bytes that a client sent to the bytes of the reply.
 //
 //     request_road REQUEST FOLDER
 //
-// REQUEST holds the parameters of a command that creates clips, in Thrift's binary protocol. The reply and the events of
-// the clips go into FOLDER, with a list of them in samples.txt.
+// REQUEST holds the parameters of a command that creates clips, in Thrift's binary protocol. The reply and the events
+// of the clips are written to FOLDER, with a list of them in samples.txt.
 
 #include "Domain/CorvaneData/Clips/Clip.h"
 #include "Domain/CorvaneData/Notification/ClipCreationFailedEventArgs.h"
@@ -49,7 +49,7 @@ namespace Wire = Talvo::Corvane::Zelmar::Serialization::Thrift::Wire;
 namespace WireCommands = Talvo::Corvane::Zelmar::Serialization::Thrift::Commands;
 namespace WireEvents = Talvo::Corvane::Zelmar::Serialization::Thrift::Notifier;
 
-/// The clips of a server, each identifier once.
+/// The clips of a server, with unique identifiers.
 class ClipStore
 {
 public:
@@ -61,20 +61,20 @@ public:
         return OperationResult::Success;
     }
 
-    /// Changes with every clip.
+    /// A number that changes with every clip.
     std::int64_t Revision() const { return static_cast<std::int64_t>(clips_.size()); }
 
 private:
     std::vector<Clip> clips_;
 };
 
-/// What Decode() and Encode() report, as an exception.
+/// Throws an exception for a failure of Decode() or Encode().
 void Require(Wire::CodecResult const& result)
 {
     if (!result.Success()) throw std::runtime_error(result.message);
 }
 
-/// Writes the wire records that leave the server, a file each.
+/// Writes each record that the server sends to its own file.
 class Outbox
 {
 public:
@@ -109,14 +109,14 @@ std::string ReadFile(char const* const path)
 
 void Serve(char const* const requestPath, char const* const folder)
 {
-    // 1. The request comes from the wire into the domain.
+    // 1. The request is converted from the wire to the domain.
     auto const message = ReadFile(requestPath);
     std::span const bytes(reinterpret_cast<std::uint8_t const*>(message.data()), message.size());
     CreateClipsCommandParams request;
     Require(Wire::Decode(WireCommands::ThriftToCreateClipsCommandParamsConverter(), bytes, request));
     std::cout << "received  CreateClipsCommandParams, " << request.clips.size() << " clips\n";
 
-    // 2. The server carries it out, and says of each clip what became of it.
+    // 2. The server executes the request and sets the result of each clip.
     ClipStore store;
     Outbox outbox(folder);
     ClipCommandReply reply(request.commandGuid, request.clips.size());
@@ -132,7 +132,7 @@ void Serve(char const* const requestPath, char const* const folder)
             {isCreated ? OperationStatus::Status::Succeeded : OperationStatus::Status::Failed, result});
         if (isCreated) item.clip = std::make_unique<Clip>(clip);
 
-        // 3. Whoever listens hears of it by an event, which goes back to the wire.
+        // 3. An event for all subscribers is converted to the wire.
         auto const name = "clip-creation-" + std::to_string(i);
         if (isCreated)
         {
@@ -154,7 +154,7 @@ void Serve(char const* const requestPath, char const* const folder)
         }
     }
 
-    // 4. The reply goes back to the wire.
+    // 4. The reply is converted to the wire.
     outbox.Send("clip-command-reply", "ClipCommandReply", WireCommands::ClipCommandReplyToThriftConverter(), reply);
 }
 

@@ -1,10 +1,11 @@
-// Requests, replies and events over real sockets, with clients that are not trusted.
+// Requests, replies and events over real sockets, with untrusted clients.
 //
 //     socket_road [SECONDS]
 //
-// A server on the loopback interface creates clips for many clients at once, and pushes an event for each clip to a
-// subscriber. Another client sends messages that no server should take: each gets a refusal that says why, while the
-// others go on. Sockets, threads and the server are those of libthrift. A message is a frame with a header and a record.
+// A server on the loopback interface creates clips for many concurrent clients, and pushes an event for each clip to a
+// subscriber. Another client sends messages that no server should accept: each is rejected with a reason, while the
+// other clients continue. Sockets, threads and the server are those of libthrift. A message is a frame with a header
+// and a record.
 
 #include "Domain/CorvaneData/Notification/ClipCreationFinishedEventArgs.h"
 #include "Domain/HighLevelOperations/Commands/ClipCommandReply.h"
@@ -70,16 +71,16 @@ constexpr Wire::Bounds RequestBounds{
     .message = 256 * 1024, .text = 4096, .elements = 1000, .depth = 16, .memory = 64 * 1024};
 constexpr std::size_t ClientCount = 8;
 
-/// A message as it comes from a socket.
+/// A message that was read from a socket.
 struct Message
 {
     std::string name;
     TMessageType type{};
     std::int32_t sequence = 0;
-    std::span<std::uint8_t const> record; ///< Within the bytes that it was read from.
+    std::span<std::uint8_t const> record; ///< A part of the bytes that it was read from.
 };
 
-/// Reads the bytes of one frame, its size included. False where the peer has closed the connection.
+/// Reads the bytes of one frame, including its size. Returns false if the peer has closed the connection.
 bool ReadFrame(TTransport& transport, std::vector<std::uint8_t>& bytes)
 {
     static constexpr std::uint32_t SizeBytes = 4;
@@ -89,7 +90,7 @@ bool ReadFrame(TTransport& transport, std::vector<std::uint8_t>& bytes)
     if (first < SizeBytes) transport.readAll(bytes.data() + first, SizeBytes - first);
     std::int32_t signedSize = 0;
     Wire::BinaryReader(bytes).readI32(signedSize);
-    auto const size = static_cast<std::uint32_t>(signedSize); // a negative one is larger than any bound
+    auto const size = static_cast<std::uint32_t>(signedSize); // a negative size becomes larger than any bound
     if (size > RequestBounds.message)
         throw std::runtime_error("a frame of " + std::to_string(size) + " bytes exceeds the bound of " +
                                  std::to_string(RequestBounds.message));
@@ -107,7 +108,7 @@ Message ReadMessage(std::span<std::uint8_t const> bytes)
     return message;
 }
 
-/// Writes a frame with a header and whatever `writeRecord` writes.
+/// Writes a frame with a header and the record that `writeRecord` writes.
 void WriteMessage(Wire::BinaryWriter& writer, std::string const& name, TMessageType const type,
                   std::int32_t const sequence, auto const& writeRecord)
 {
@@ -128,11 +129,12 @@ void Require(Wire::CodecResult const& result)
     if (!result.Success()) throw std::runtime_error(result.message);
 }
 
-/// What the server does with one message after the other; libthrift calls it for each connection on a thread of its own.
+/// Handles the messages of a connection one after the other; libthrift calls it on a separate thread for each
+/// connection.
 class Service : public apache::thrift::TProcessor
 {
 public:
-    /// False ends the connection.
+    /// Handles one message. Returning false ends the connection.
     bool process(std::shared_ptr<apache::thrift::protocol::TProtocol> input,
                  std::shared_ptr<apache::thrift::protocol::TProtocol>, void*) override
     {
@@ -150,11 +152,11 @@ public:
         }
         catch (apache::thrift::transport::TTransportException const&)
         {
-            return false; // the peer is gone
+            return false; // the peer has closed the connection
         }
         catch (std::exception const& error)
         {
-            // What the peer sent after this may be anything, so the connection ends.
+            // Later bytes of the peer can't be interpreted, so the connection ends.
             writer.Truncate();
             WriteMessage(writer, request.name, apache::thrift::protocol::T_EXCEPTION, request.sequence,
                          [&] { TApplicationException(error.what()).write(&writer); });
@@ -174,7 +176,7 @@ private:
         {
             WriteMessage(writer, request.name, apache::thrift::protocol::T_REPLY, request.sequence,
                          [&] { Require(Wire::Encode(Commands::SuccessReplyToThriftConverter(), {}, writer)); });
-            std::lock_guard const lock(subscribersMutex_); // events follow the reply
+            std::lock_guard const lock(subscribersMutex_); // so that events follow the reply
             Send(*transport, writer);
             writer.Truncate();
             subscribers_.push_back(transport);
@@ -216,7 +218,7 @@ private:
     std::vector<std::shared_ptr<TTransport>> subscribers_;
 };
 
-/// The server in a thread of its own, from when it listens until the object is destroyed.
+/// Runs the server in its own thread. It listens once the object is constructed, until the object is destroyed.
 class RunningServer
 {
 public:
@@ -266,8 +268,7 @@ Clip NumberedClip(std::size_t const client, std::uint64_t const number)
     return clip;
 }
 
-/// Creates clips at least once and until the time is over, and checks that each comes back. Returns how many requests it
-/// sent.
+/// Creates clips at least once and until the end time, and checks that each comes back. Returns the number of requests.
 std::uint64_t CreateClips(RunningServer const& server, std::size_t const client,
                           std::chrono::steady_clock::time_point const end = {})
 {
@@ -299,7 +300,7 @@ std::uint64_t CreateClips(RunningServer const& server, std::size_t const client,
     return requests;
 }
 
-/// Counts events until there are as many as `expected`, which is raised until it is known.
+/// Counts events until their number reaches `expected`, which has its maximum until the number is known.
 std::uint64_t CountEvents(TSocket& socket, std::atomic<std::uint64_t> const& expected)
 {
     std::vector<std::uint8_t> bytes;
@@ -315,7 +316,7 @@ std::uint64_t CountEvents(TSocket& socket, std::atomic<std::uint64_t> const& exp
     return count;
 }
 
-/// Messages that no server should take, with a part of the refusal.
+/// Messages that no server should accept, each with a part of the expected reason.
 std::vector<std::pair<std::string, std::string>> HostileMessages()
 {
     auto const message = [](std::string const& name, std::string const& record)
@@ -348,7 +349,8 @@ std::vector<std::pair<std::string, std::string>> HostileMessages()
     };
 }
 
-/// Sends them, each over a connection of its own, until the time is over. Returns how many were refused.
+/// Sends the hostile messages, each over its own connection, until the end time. Returns the number of rejected
+/// messages.
 std::uint64_t Attack(RunningServer const& server, std::chrono::steady_clock::time_point const end)
 {
     auto const messages = HostileMessages();
@@ -369,12 +371,12 @@ std::uint64_t Attack(RunningServer const& server, std::chrono::steady_clock::tim
             if (text.find(expected) == std::string::npos) throw std::runtime_error("not refused as expected: " + text);
             if (refused < messages.size()) std::cout << "refused: " << text << '\n';
             ++refused;
-            server.Connect()->write(reinterpret_cast<std::uint8_t const*>("\0\0\1"), 3); // half a size, and gone
+            server.Connect()->write(reinterpret_cast<std::uint8_t const*>("\0\0\1"), 3); // part of a size, then close
         }
     return refused;
 }
 
-/// Returns 0 where nothing was lost.
+/// Returns 0 if nothing was lost.
 int Run(std::chrono::seconds const duration)
 {
     auto const service = std::make_shared<Service>();
@@ -400,7 +402,7 @@ int Run(std::chrono::seconds const duration)
     auto const refused = attack.get();
     std::chrono::duration<double> const elapsed = std::chrono::steady_clock::now() - begin;
 
-    // The last events come after it is known how many there are.
+    // The last events come after their number is known.
     expected = service->Created() + 2;
     requests += CreateClips(server, ClientCount);
     auto const received = events.get();

@@ -1,4 +1,4 @@
-// Time codes as text: written, read, and refused.
+// Time codes as text: written, read and rejected.
 
 #include "TimePoints/TalvoTimeCodeFormatter.h"
 #include "TimePoints/TalvoTimeCodeParser.h"

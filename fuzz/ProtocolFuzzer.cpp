@@ -1,7 +1,7 @@
-// Any bytes as any record, or as a message header: the binary protocol in memory accepts and refuses what Thrift's own does
-// with the same bounds, reads the same, and writes what it read in the same bytes.
+// Reads arbitrary bytes as any record or as a message header. The in-memory binary protocol has to accept and reject
+// what Thrift's own protocol does with the same bounds, read the same values, and write them as the same bytes.
 //
-// The first byte chooses the record, 255 the header.
+// The first byte selects the record; 255 selects the header.
 
 #include "Thrift/Wire/BinaryWriter.h"
 #include "tests/Thrift/Wire/Differential.h"

@@ -1,8 +1,9 @@
-// Any bytes as any record that converts both ways: read, and taken to the domain and back by the checked
-// conversion, again and again. Nothing may end the process. The second domain object equals the first but for what is known to be
-// lost on the way, and from then on nothing may change: no domain object and, for those without equality, no byte.
+// Reads arbitrary bytes as any record that converts both ways, and converts the record to the domain and back
+// repeatedly, with the checked conversion. Nothing may end the process. The second domain object has to equal the
+// first, except for known losses. After that nothing may change: no domain object and, for those without equality, no
+// byte.
 //
-// The first byte chooses the record, the second the protocol.
+// The first byte selects the record, the second the protocol.
 
 #include "tools/Failure.h"
 #include "tools/Protocols.h"
@@ -46,7 +47,7 @@ std::unique_ptr<WireRecord> Read(std::string const& bytes, Protocol const protoc
     }
 }
 
-/// Identifiers of these are generated anew on every trip.
+/// Whether each conversion to the domain generates a new identifier for this record.
 bool GetsNewIdentifier(RecordType const& type)
 {
     return type.name == "LiveCommandParams" || type.name == "SetMultiviewerDataCommandParams";
@@ -59,7 +60,8 @@ bool IsKnown(Value const& value, std::int32_t const last)
     return number != nullptr && 1 <= *number && *number <= last;
 }
 
-/// What holds a state, a recording range or a sequence, whose pairs, time codes and rates travel back under conditions.
+/// Records that hold a state, a recording range or a sequence, whose pairs, time codes and rates are converted back
+/// only under conditions.
 constexpr std::array TravelUnderConditions{
     std::string_view("PlayerState"),
     std::string_view("RecorderState"),
@@ -74,9 +76,9 @@ constexpr std::array TravelUnderConditions{
     std::string_view("RecordingRangesChangedEventArgs"),
 };
 
-/// Whether a record holds what reaches the domain but not the record that comes back: texts of a fixed width end at their
-/// first NUL there, an HDR profile without a number stays away and reads as the default, and so does an essence that was
-/// not recorded.
+/// Whether a record holds values that reach the domain but not the record that is converted back: texts of a fixed
+/// width then end at their first NUL, and an HDR profile without a number or an essence that was not recorded is not
+/// written and reads as the default.
 bool LosesOnTheWayBack(WireRecord const& record, RecordType const& type)
 {
     if (std::ranges::find(TravelUnderConditions, type.name) != TravelUnderConditions.end()) return true;

@@ -1,4 +1,4 @@
-// Any text as a time code: the parser answers as the rules of the text form do.
+// Parses arbitrary text as a time code. The result has to agree with the rules of the text form.
 
 #include "TimePoints/TalvoTimeCodeParser.h"
 #include "tests/TimePoints/TimeCodeDefinition.h"
@@ -16,7 +16,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* const data, std::size_
     std::string const text(reinterpret_cast<char const*>(data), size);
     TalvoTimeCodeParser const parser;
     auto const found = Outcome([&] { return Describe(parser.Parse(text)); });
-    if (size > 256) return 0; // std::regex recurses once a character
+    if (size > 256) return 0; // std::regex recurses once per character
 
     auto const expected = ReferenceOutcome(text);
     if (found != expected || parser.TryParse(text).first != (expected.find(": ") == std::string::npos))

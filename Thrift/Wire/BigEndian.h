@@ -6,8 +6,8 @@
 namespace Talvo::Corvane::Zelmar::Serialization::Thrift::Wire::Detail
 {
 
-/// Turns a number of this machine into one with its first byte first, and back. Boost.Endian does the same, but out of line
-/// in a unit that reads or writes many records, which took half of the time.
+/// Converts a number between the byte order of this machine and big-endian order. Boost.Endian does the same, but in a
+/// unit that reads or writes many records its functions were not inlined, which took half of the time.
 template<typename TNumber>
 [[gnu::always_inline]] constexpr TNumber BigEndian(TNumber const number)
 {

@@ -101,8 +101,8 @@ public:
     }
     std::uint32_t readFieldEnd() { return 0; }
 
-    /// Called by the records after a field, with the type and id of the one that follows it in the schema: takes its begin
-    /// where it is next, and returns 0 where it is not.
+    /// The records call this after a field, with the type and id of the next field in the schema. If that field comes
+    /// next, this reads its begin and returns the bytes read; otherwise it returns 0.
     [[gnu::always_inline]] std::uint32_t readNextField(TType const type, std::int16_t const id)
     {
         static constexpr std::size_t Size = 3;

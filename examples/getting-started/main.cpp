@@ -1,4 +1,4 @@
-// A clip of your own: to the wire, into the file my-clip.binary, and back.
+// Writes a clip to the file my-clip.binary and reads it back.
 
 #include "Domain/CorvaneData/Clips/Clip.h"
 #include "Thrift/Data/Clips/FromClip.h"
@@ -26,7 +26,7 @@ int main()
     clip.inBoundField = 0;
     clip.outBoundField = 1500;
     TimeCodeBuilder const kickOff{.year = 2025, .month = 5, .day = 17, .hour = 20, .minute = 45, .numerator = 25};
-    // A new clip is Pal, with which 25 frames a second agree.
+    // A new clip is Pal, which allows 25 frames per second.
     if (!clip.TrySetInBoundTodTimecode(kickOff.Build())) return 1;
 
     Wire::BinaryWriter writer;
