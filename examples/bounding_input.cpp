@@ -3,7 +3,7 @@
 #include "Domain/HighLevelOperations/Commands/CreateClipsCommandParams.h"
 #include "Thrift/Commands/ToCreateClipsCommandParams.h"
 #include "Thrift/Wire/Codec.h"
-#include "generated/CreateClipsCommandParams_types.h"
+#include "generated/CreateClipsCommandParams.h"
 
 #include <cstddef>
 #include <cstdint>

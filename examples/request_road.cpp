@@ -15,9 +15,9 @@
 #include "Thrift/Notifier/FromClipCreationFailedEventArgs.h"
 #include "Thrift/Notifier/FromClipCreationFinishedEventArgs.h"
 #include "Thrift/Wire/Codec.h"
-#include "generated/ClipCommandReply_types.h"
-#include "generated/ClipCreationEventArgs_types.h"
-#include "generated/CreateClipsCommandParams_types.h"
+#include "generated/ClipCommandReply.h"
+#include "generated/ClipCreationFinishedEventArgs.h"
+#include "generated/CreateClipsCommandParams.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -19,10 +19,10 @@
 #include "Thrift/Notifier/FromClipCreationFinishedEventArgs.h"
 #include "Thrift/Notifier/ToClipCreationFinishedEventArgs.h"
 #include "Thrift/Wire/Codec.h"
-#include "generated/ClipCommandReply_types.h"
-#include "generated/ClipCreationEventArgs_types.h"
-#include "generated/CreateClipsCommandParams_types.h"
-#include "generated/SuccessReply_types.h"
+#include "generated/ClipCommandReply.h"
+#include "generated/ClipCreationFinishedEventArgs.h"
+#include "generated/CreateClipsCommandParams.h"
+#include "generated/SuccessReply.h"
 
 #include <thrift/TApplicationException.h>
 #include <thrift/TProcessor.h>

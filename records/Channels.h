@@ -7,16 +7,8 @@
 #include "Domain/CorvaneData/Channels/PlayerState.h"
 #include "Domain/CorvaneData/Channels/RecorderState.h"
 #include "Domain/CorvaneData/Servers/ServerInfo.h"
-#include "Thrift/Data/Channels/FromLoadBoundary.h"
-#include "Thrift/Data/Channels/FromPlayerClipOnAir.h"
-#include "Thrift/Data/Channels/FromPlayerState.h"
-#include "Thrift/Data/Channels/FromRecorderState.h"
-#include "Thrift/Data/Channels/ToLoadBoundary.h"
-#include "Thrift/Data/Channels/ToPlayerClipOnAir.h"
-#include "Thrift/Data/Channels/ToPlayerState.h"
-#include "Thrift/Data/Channels/ToRecorderState.h"
-#include "Thrift/Data/Servers/FromServerInfo.h"
-#include "Thrift/Data/Servers/ToServerInfo.h"
+#include "Thrift/Channels.h"
+#include "Thrift/Servers.h"
 
 namespace Talvo::Records
 {

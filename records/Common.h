@@ -6,14 +6,7 @@
 #include "Domain/CorvaneData/Multiviewer/MultiviewerDataOverrides.h"
 #include "Domain/CorvaneData/Multiviewer/PlayerDataOverrides.h"
 #include "Domain/CorvaneData/OperationStatus.h"
-#include "Thrift/Data/FromGuid.h"
-#include "Thrift/Data/FromMultiviewerDataOverrides.h"
-#include "Thrift/Data/FromOperationStatus.h"
-#include "Thrift/Data/FromPlayerDataOverrides.h"
-#include "Thrift/Data/ToGuid.h"
-#include "Thrift/Data/ToMultiviewerDataOverrides.h"
-#include "Thrift/Data/ToOperationStatus.h"
-#include "Thrift/Data/ToPlayerDataOverrides.h"
+#include "Thrift/CommonRecords.h"
 
 namespace Talvo::Records
 {

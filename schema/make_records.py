@@ -8,9 +8,12 @@ The Thrift compiler does most of the work. This step completes its output for ev
   <file>_types.h       enumerations get the fixed underlying type int, because any 32-bit number is legal on the wire; each
                        record declares its fields first, then destructor, fingerprint constants, constructors and setters
   <file>_types.tcc     before and after the elements of a container, `read` calls `beginElements(container, size)` and
-                       `endElements(container)` if the protocol has them; protocols that bound memory do
+                       `endElements(container)` if the protocol has them; protocols that bound memory do. After a
+                       field, `read` calls `readNextField(type, id)` for the next one if the protocol has it
   <file>_types.cpp     printing of records and enumerations, fingerprints and the constants object are appended
   <file>_constants.h   the class <file>Constants and the object g_<file>_constants
+
+  <Record>.h           includes the header that has the record
 
 It also writes one header for all of them, which is not installed:
 

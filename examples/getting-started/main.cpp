@@ -6,7 +6,7 @@
 #include "Thrift/Wire/Codec.h"
 #include "TimePoints/TalvoTimeCodeFormatter.h"
 #include "TimePoints/TimeCodeBuilder.h"
-#include "generated/Clip_types.h"
+#include "generated/Clip.h"
 
 #include <fstream>
 #include <iostream>

@@ -3,7 +3,7 @@
 #include "Domain/CorvaneData/Clips/Clip.h"
 #include "Thrift/Data/Clips/FromClip.h"
 #include "Thrift/Data/Clips/ToClip.h"
-#include "generated/Clip_types.h"
+#include "generated/Clip.h"
 
 #include <thrift/protocol/TCompactProtocol.h>
 #include <thrift/transport/TBufferTransports.h>
