@@ -12,7 +12,6 @@ The Thrift compiler does most of the work. This step completes its output for ev
                        field, `read` calls `readNextField(type, id)` for the next one if the protocol has it
   <file>_types.cpp     printing of records and enumerations, fingerprints and the constants object are appended
   <file>_constants.h   the class <file>Constants and the object g_<file>_constants
-
   <Record>.h           includes the header that has the record
 
 It also writes one header for all of them, which is not installed:
