@@ -1,5 +1,6 @@
 # The install tree can be moved: no file in it holds an absolute path. Components: library, development, tool.
 include(CMakePackageConfigHelpers)
+include(GNUInstallDirs)
 
 set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME development)
 
@@ -20,7 +21,7 @@ install(DIRECTORY ${headerFolders} DESTINATION ${includeRoot}
     PATTERN Thrift/Detail EXCLUDE
     REGEX "Thrift/(Data/(Boundaries|Identifiers)|Commands/(ByChannel|PlayersDataOverrides|Results)|Notifier/(ClipEvents|CreationTexts))\\.h$" EXCLUDE
     REGEX "TimePoints/(SampleCounting|TimeCodeBreakdown|TimeCodeText)\\.h$" EXCLUDE)
-get_target_property(generatedHeaders WireRecords TALVO_GENERATED_HEADERS)
+get_target_property(generatedHeaders TalvoWireRecords TALVO_GENERATED_HEADERS)
 install(FILES ${generatedHeaders} DESTINATION ${includeRoot}/generated)
 install(DIRECTORY schema/ DESTINATION ${schemaFolder} FILES_MATCHING PATTERN "*.thrift")
 
