@@ -11,7 +11,7 @@ if(Thrift_INCLUDE_DIR)
     string(REGEX REPLACE ".*\"(.*)\"" "\\1" Thrift_VERSION "${Thrift_VERSION}")
 endif()
 
-if("compiler" IN_LIST Thrift_FIND_COMPONENTS)
+if(Thrift_FIND_REQUIRED_compiler)
     find_program(THRIFT_COMPILER thrift)
     mark_as_advanced(THRIFT_COMPILER)
     set(Thrift_compiler_FOUND FALSE)

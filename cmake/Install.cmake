@@ -21,6 +21,7 @@ install(DIRECTORY ${headerFolders} DESTINATION ${includeRoot}
     PATTERN Thrift/Detail EXCLUDE
     REGEX "Thrift/(Data/(Boundaries|Identifiers)|Commands/(ByChannel|PlayersDataOverrides|Results)|Notifier/(ClipEvents|CreationTexts))\\.h$" EXCLUDE
     REGEX "TimePoints/(SampleCounting|TimeCodeBreakdown|TimeCodeText)\\.h$" EXCLUDE)
+install(FILES ${PROJECT_BINARY_DIR}/version/Thrift/Version.h DESTINATION ${includeRoot}/Thrift)
 get_target_property(generatedHeaders TalvoWireRecords TALVO_GENERATED_HEADERS)
 install(FILES ${generatedHeaders} DESTINATION ${includeRoot}/generated)
 install(DIRECTORY schema/ DESTINATION ${schemaFolder} FILES_MATCHING PATTERN "*.thrift")
