@@ -31,6 +31,7 @@ if(TARGET talvo-wire)
     install(TARGETS talvo-wire COMPONENT tool)
     install(FILES tools/talvo-wire.bash COMPONENT tool
         DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME talvo-wire)
+    install(FILES tools/talvo-wire.1 COMPONENT tool DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 endif()
 
 install(EXPORT ${package} NAMESPACE Talvo:: DESTINATION ${packageFolder} FILE ${package}Targets.cmake)

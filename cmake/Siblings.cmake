@@ -7,8 +7,8 @@
 option(TALVO_EXTERNAL_SIBLINGS "Build against sibling libraries from elsewhere, not against the stand-ins in Domain/" OFF)
 
 if(TALVO_EXTERNAL_SIBLINGS)
-    find_package(TalvoCorvaneData CONFIG REQUIRED)
-    find_package(TalvoHighLevelOperations CONFIG REQUIRED)
+    find_package(TalvoCorvaneData CONFIG REQUIRED GLOBAL)
+    find_package(TalvoHighLevelOperations CONFIG REQUIRED GLOBAL)
     set(siblingScope PUBLIC) # whoever converts needs their headers and code
 
     # Includes start from a folder without Domain/: a header that a sibling lacks is an error, not silently the stand-in's.
