@@ -1,5 +1,6 @@
 # The install tree is relocatable: no file in it contains an absolute path. Components: library, development, tool.
 include(CMakePackageConfigHelpers)
+include(GNUInstallDirs)
 
 set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME development)
 
@@ -20,8 +21,11 @@ install(DIRECTORY ${headerFolders} DESTINATION ${includeRoot}
     PATTERN Thrift/Detail EXCLUDE
     REGEX "Thrift/(Data/(Boundaries|Identifiers)|Commands/(ByChannel|PlayersDataOverrides|Results)|Notifier/(ClipEvents|CreationTexts))\\.h$" EXCLUDE
     REGEX "TimePoints/(SampleCounting|TimeCodeBreakdown|TimeCodeText)\\.h$" EXCLUDE)
-get_target_property(generatedHeaders WireRecords TALVO_GENERATED_HEADERS)
-install(FILES ${generatedHeaders} DESTINATION ${includeRoot}/generated)
+install(FILES ${PROJECT_BINARY_DIR}/version/Thrift/Version.h DESTINATION ${includeRoot}/Thrift)
+get_target_property(generatedFolder TalvoWireRecords TALVO_GENERATED_FOLDER)
+install(DIRECTORY ${generatedFolder}/ DESTINATION ${includeRoot}/generated
+    FILES_MATCHING PATTERN "*.h" PATTERN "*.tcc"
+    PATTERN RecordFields.h EXCLUDE)
 install(DIRECTORY schema/ DESTINATION ${schemaFolder} FILES_MATCHING PATTERN "*.thrift")
 
 if(TARGET talvo-wire)
@@ -29,6 +33,7 @@ if(TARGET talvo-wire)
     install(TARGETS talvo-wire COMPONENT tool)
     install(FILES tools/talvo-wire.bash COMPONENT tool
         DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME talvo-wire)
+    install(FILES tools/talvo-wire.1 COMPONENT tool DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 endif()
 
 install(EXPORT ${package} NAMESPACE Talvo:: DESTINATION ${packageFolder} FILE ${package}Targets.cmake)

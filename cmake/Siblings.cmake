@@ -8,8 +8,8 @@
 option(TALVO_EXTERNAL_SIBLINGS "Build against external sibling libraries instead of the stand-ins in Domain/" OFF)
 
 if(TALVO_EXTERNAL_SIBLINGS)
-    find_package(TalvoCorvaneData CONFIG REQUIRED)
-    find_package(TalvoHighLevelOperations CONFIG REQUIRED)
+    find_package(TalvoCorvaneData CONFIG REQUIRED GLOBAL)
+    find_package(TalvoHighLevelOperations CONFIG REQUIRED GLOBAL)
     set(siblingScope PUBLIC) # users of the converters need their headers and code
 
     # The include folder has no Domain/, so a header that a sibling lacks is an error and not silently the stand-in's.

@@ -1,13 +1,14 @@
-set(TALVO_WARNINGS -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wold-style-cast -Wnon-virtual-dtor -Werror)
 option(TALVO_LINK_TIME_OPTIMISATION "Inline between files when the library is linked (g++)" ON)
 set(TALVO_LAYER_OPTIONS "" CACHE STRING "Further compile options of the layers of the library")
 # The compiler spends nearly all its time on the headers that the files of a folder share.
 option(TALVO_UNITY_LAYERS "Compile each folder of the library as one unit" OFF)
 
-# talvo_add_layer(NAME SOURCES... [LINK TARGETS...]): the object target of one folder of the library.
-function(talvo_add_layer name)
+# talvo_add_layer(LAYER SOURCES... [LINK TARGETS...]): Talvo::LAYER, the object target of one folder of the library.
+function(talvo_add_layer layer)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+    set(name Talvo${layer})
     add_library(${name} OBJECT ${ARG_SOURCES})
+    add_library(Talvo::${layer} ALIAS ${name})
     target_include_directories(${name} PUBLIC ${TALVO_INCLUDE_ROOT})
     target_compile_options(${name} PRIVATE ${TALVO_WARNINGS} ${TALVO_LAYER_OPTIONS})
     target_link_libraries(${name} PUBLIC ${ARG_LINK})

@@ -1,3 +1,4 @@
+#include "Thrift/Version.h"
 #include "tools/Commands.h"
 #include "tools/Failure.h"
 #include "tools/Text.h"
@@ -18,6 +19,7 @@ namespace
 {
 
 using namespace Talvo::Tools;
+using Talvo::Corvane::Zelmar::Serialization::Thrift::Version;
 
 /// The command line as it was given.
 struct Arguments
@@ -98,6 +100,7 @@ ExitStatus Run(int argc, char** argv)
     CLI::App app("Reads, prints and converts the wire records of the video server's object model.", "talvo-wire");
     app.footer("Each command has a --help with examples.\n" + std::string(ExitStatuses));
     app.require_subcommand(1);
+    app.set_version_flag("--version", "talvo-wire " + std::string(Version), "Print the version and exit");
     Arguments arguments;
 
     auto* const list = AddCommand(app, "list", "List all records, and which directions have a converter",
@@ -146,9 +149,9 @@ ExitStatus Run(int argc, char** argv)
         else if (*transcode)
             Transcode(arguments.From(), arguments.To());
     }
-    catch (CLI::CallForHelp const& help)
+    catch (CLI::Success const& helpOrVersion)
     {
-        app.exit(help);
+        app.exit(helpOrVersion);
     }
     catch (CLI::ParseError const& error)
     {

@@ -1,3 +1,4 @@
+#include "Thrift/Version.h"
 #include "records/RecordType.h"
 #include "tests/tools/Tool.h"
 #include "tools/Failure.h"
@@ -344,6 +345,16 @@ TEST(Tool, HelpEndsWithExamplesThatRunAsTheyStand)
         }
         EXPECT_EQ(count, 2);
     }
+}
+
+TEST(Tool, PrintsItsVersion)
+{
+    using namespace Talvo::Corvane::Zelmar::Serialization::Thrift;
+    auto const outcome = RunTool({"--version"});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.output, "talvo-wire " + std::to_string(VersionMajor) + '.' + std::to_string(VersionMinor) + '.' +
+                                  std::to_string(VersionPatch) + '\n');
+    EXPECT_THAT(outcome.errors, IsEmpty());
 }
 
 TEST(Tool, CompletesWordsInBash)
