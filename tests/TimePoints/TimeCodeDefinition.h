@@ -18,7 +18,7 @@ inline std::string Describe(TimeCode const& timeCode)
            (timeCode.DropFrame() ? " drop" : "") + (timeCode.Dated() ? " dated" : "");
 }
 
-/// What `answer()` returns, or the type and text of what it throws.
+/// Returns the result of `answer()`, or the type and text of the exception that it throws.
 template<typename Answer>
 std::string Outcome(Answer answer)
 {
@@ -36,7 +36,8 @@ std::string Outcome(Answer answer)
     }
 }
 
-/// What Outcome() gives for parsing `text`, by the rules of the text form and by a plain count, without the product's code.
+/// Returns what Outcome() must return for parsing `text`. Applies the rules of the text form and a plain count, without
+/// the product's code.
 inline std::string ReferenceOutcome(std::string const& text)
 {
     static std::regex const datedShape{regexDatedtcNoDrop};
@@ -76,7 +77,7 @@ inline std::string ReferenceOutcome(std::string const& text)
         return m == 2 ? daysOfYear(year) - 337 : m == 4 || m == 6 || m == 9 || m == 11 ? 30 : 31;
     };
 
-    // The expressions leave no minute or second to judge.
+    // The expressions match only valid minutes and seconds.
     auto const decimal = [](auto value) { return std::to_string(value); };
     std::string fault;
     if (year < 1900 || year > 2261)
@@ -96,7 +97,7 @@ inline std::string ReferenceOutcome(std::string const& text)
         fault = "Rate " + decimal(rate) + " / 1 is not compatible with drop TC format";
     if (!fault.empty()) return "out_of_range: " + fault;
 
-    std::uint64_t minutes = static_cast<unsigned>(day - 1); // unsigned, as a large rate leaves 64 bits
+    std::uint64_t minutes = static_cast<unsigned>(day - 1); // unsigned, since a large rate exceeds 64 bits
     for (int y = 1900; y < year; ++y) minutes += static_cast<unsigned>(daysOfYear(y));
     for (int m = 1; m < month; ++m) minutes += static_cast<unsigned>(daysOfMonth(m));
     minutes = (minutes * 24 + static_cast<unsigned>(hour)) * 60 + static_cast<unsigned>(minute);

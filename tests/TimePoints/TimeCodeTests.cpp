@@ -33,7 +33,7 @@ std::string Text(TimeCode const& timeCode)
     return TalvoTimeCodeFormatter{}.Format(timeCode);
 }
 
-/// The text of the failure, or "valid".
+/// Returns the text of the failure, or "valid".
 std::string Judge(TimeCodeBuilder const& builder)
 {
     try
@@ -59,7 +59,7 @@ TEST(TimePoints, NamedValues)
     EXPECT_EQ(CalendarTools::DayPerMonth(2000, 0) + CalendarTools::DayPerMonth(2000, 13), 0);
 }
 
-TEST(TimeCode, EmptyReadsAsTheOriginButEqualsNoBuiltTimeCode)
+TEST(TimeCode, EmptyHasTheFieldsOfTheOriginButEqualsNoBuiltTimeCode)
 {
     TimeCode timeCode = TimeCode::Empty();
     EXPECT_EQ(timeCode, TimeCode{});
@@ -74,7 +74,7 @@ TEST(TimeCode, EmptyReadsAsTheOriginButEqualsNoBuiltTimeCode)
     EXPECT_EQ(timeCode, origin.Build());
 }
 
-TEST(TimeCodeBuilder, JudgesInOrder)
+TEST(TimeCodeBuilder, ValidatesInOrder)
 {
     std::pair<TimeCodeBuilder, char const*> const rows[] = {
         {{.year = 1900}, "valid"},
@@ -110,7 +110,7 @@ TEST(TimeCodeBuilder, JudgesInOrder)
         {{.minute = 1, .sample = 4, .numerator = 60, .dropFrame = true}, "valid"},
         {{.minute = 10, .numerator = 30, .dropFrame = true}, "valid"},
         {{.minute = 1, .second = 1, .numerator = 60, .dropFrame = true}, "valid"},
-        // The dropped numbers are judged before the rate.
+        // The dropped numbers are checked before the rate.
         {{.minute = 1, .sample = 2, .numerator = 25, .dropFrame = true},
          "In dropped TimeCode, this value doesn't exist 1:0;2"},
         {{.minute = 1, .sample = 4, .numerator = 25, .dropFrame = true},
@@ -127,7 +127,7 @@ TEST(TimeCodeBuilder, JudgesInOrder)
     }
 }
 
-TEST(TimeCodeBuilder, UndatedTimeCodesLieOnOneDay)
+TEST(TimeCodeBuilder, UndatedTimeCodesAreWithinOneDay)
 {
     TimeCodeBuilder builder{.year = 2261, .month = 12, .day = 31, .second = 1, .sample = 2, .numerator = 25};
     builder.dated = false;
@@ -140,8 +140,8 @@ TEST(TimeCodeBuilder, UndatedTimeCodesLieOnOneDay)
     EXPECT_NE(builder.Build(), timeCode);
 }
 
-// Counts and texts worked out by another program, from the definition of the arithmetic.
-TEST(TimeCode, CountsAndBreaksDownEveryInput)
+// Another program computed these counts and texts from the definition of the arithmetic.
+TEST(TimeCode, ConvertsEveryInputToAndFromSamples)
 {
     struct Row
     {
@@ -157,32 +157,32 @@ TEST(TimeCode, CountsAndBreaksDownEveryInput)
         {30, true, 1900, 1, 2, 0, 0, 0, 0, 2589408, "1900-01-02T00:00:00;00@30"},
         {60, true, 2261, 12, 31, 23, 59, 59, 59, 684732693887, "2261-12-31T23:59:59;59@60"},
         {120, false, 1900, 1, 1, 0, 0, 0, 119, 119, "1900-01-01T00:00:00:119@120"},
-        // The least and the most digits of an ordinary year and rate, and one more.
+        // The smallest and the largest number of digits of an ordinary year and rate, and one more.
         {9, false, 2000, 1, 1, 0, 0, 0, 8, 28401062408, "2000-01-01T00:00:00:08@9"},
         {10, false, 9999, 12, 31, 23, 59, 59, 9, 2556112895999, "9999-12-31T23:59:59:09@10"},
         {99, false, 9999, 12, 31, 23, 59, 59, 98, 25305517670399, "9999-12-31T23:59:59:98@99"},
         {99, false, 10000, 1, 1, 0, 0, 0, 0, 25305517670400, "10000-01-01T00:00:00:00@99"},
         {100, false, 2000, 1, 1, 0, 0, 0, 99, 315567360099, "2000-01-01T00:00:00:99@100"},
-        // A year before the origin has no days, but its own February.
+        // A year before the origin counts no days, but has the February of that year.
         {50, false, 1896, 3, 1, 0, 0, 0, 0, 259200000, "1900-03-02T00:00:00:00@50"},
         {30, true, 1900, 1, 1, -1, -1, -1, -1, -109721, "1900-01-01T0-1:0-1:0-1;0-1@30"},
-        // Far years answer at once.
+        // Distant years take no longer.
         {24, false, Most, 12, 31, 23, 59, 59, 23, 1626431482620518399, "2147483647-12-31T23:59:59:23@24"},
         {50, false, Most, Most, Most, Most, Most, Most, Most, 3398069150505866997, "2153612394-10-08T14:48:59:47@50"},
         {30, true, Most, Most, Most, Most, Most, Most, Most, 2036802649737923135, "2153612395-09-30T17:29:02;29@30"},
         {60, true, Least, Least, Least, Least, Least, Least, Least, -11592669499373808,
          "1900-01-0-2238478736T0-2:0-29:0-42;0-36@60"},
-        // Counts that leave 64 bits wrap.
+        // Counts beyond 64 bits wrap.
         {Most, false, 2261, 12, 31, 23, 59, 59, 0, 6085325705436539137, "1989-10-18T11:03:22:2147483643@2147483647"},
         {Most64, false, 1900, 1, 1, 1, 0, 0, 5, -3595, "1900-01-01T00:00:00:0-3595@9223372036854775807"},
-        // A rate that is not positive breaks down into zeros.
+        // A rate that is not positive gives zeros.
         {0, false, 1900, 1, 1, 23, 59, 59, -1, -1, "0-00-00T00:00:00:00@0"},
         {-1, false, 1900, 1, 1, 0, 0, 0, Least, Least, "0-00-00T00:00:00:00@-1"},
         {-Most, false, 1900, 1, 1, 0, 0, 1, 0, -Most, "0-00-00T00:00:00:00@-2147483647"},
     };
     for (auto const& row : rows)
     {
-        // The least frame is below every rate of the table.
+        // The smallest frame is below every rate of the table.
         auto timeCode =
             TimeCodeBuilder{.sample = Least, .numerator = row.numerator, .dropFrame = row.dropFrame}.Build();
         timeCode.DateTimeToSample(row.year, row.month, row.day, row.hour, row.minute, row.second, row.frame);
@@ -191,7 +191,7 @@ TEST(TimeCode, CountsAndBreaksDownEveryInput)
     }
 }
 
-TEST(TimeCode, EveryDayOfTheCalendar)
+TEST(TimeCode, CountsEveryDayOfTheCalendar)
 {
     auto timeCode = TimeCodeBuilder{.numerator = 30, .dropFrame = true}.Build();
     std::int64_t days = 0;
@@ -213,7 +213,7 @@ std::string Digits(int number)
     return (number < 10 ? "0" : "") + std::to_string(number);
 }
 
-/// Goes through all frames of a day; the sample counts must follow one another without a gap.
+/// Checks all frames of a day. The sample counts must be consecutive.
 void EveryFrameThereAndBack(int rate, bool dropFrame, int expected)
 {
     TimeCodeBuilder builder{.year = 2000, .month = 2, .day = 29, .numerator = rate, .dropFrame = dropFrame};
@@ -241,7 +241,7 @@ void EveryFrameThereAndBack(int rate, bool dropFrame, int expected)
                     WriteTimeCode(timeCode, written);
                     ASSERT_TRUE(timeCode.Sample() == midnight + frames && written == text) << written << ", " << text;
 
-                    // A negative count is the mirror image: shown where a second begins, after dropped frames, and ends.
+                    // Negative counts mirror positive ones. Checked where a second starts, after dropped frames, and ends.
                     if (builder.sample > rate / 15 && builder.sample < rate - 1) continue;
                     negative.DateTimeToSample(1900, 1, 1, 0, 0, 0, -frames);
                     TimeCodeBreakdown const mirror{negative};
@@ -253,7 +253,7 @@ void EveryFrameThereAndBack(int rate, bool dropFrame, int expected)
     EXPECT_EQ(frames, expected);
 }
 
-TEST(TimeCode, EveryFrameOfADayThereAndBack)
+TEST(TimeCode, RoundTripsEveryFrameOfADay)
 {
     for (int const rate : {24, 25, 30, 48, 50, 60, 100, 120}) EveryFrameThereAndBack(rate, false, 86400 * rate);
     EveryFrameThereAndBack(30, true, 2589408);

@@ -21,7 +21,7 @@ namespace Talvo::TimePoints
 namespace
 {
 
-/// Holds every way of reading `text` against the definition, and gives what the definition says.
+/// Compares every way of reading `text` with the definition, and returns the result of the definition.
 std::string CompareWithDefinition(std::string const& text)
 {
     TalvoTimeCodeParser const parser;
@@ -48,7 +48,7 @@ TEST(TimeCodeText, FormatsEveryKind)
     TimeCodeBuilder builder{.year = 2000, .minute = 1, .sample = 2, .numerator = 30, .dropFrame = true};
     EXPECT_EQ(formatter.Format(builder.Build()), "2000-01-01T00:01:00;02@30");
 
-    // The text of an undated time code can't be read again.
+    // The text of an undated time code can't be parsed again.
     builder.dated = false;
     auto const undated = formatter.Format(builder.Build());
     EXPECT_EQ(undated, "-1-0-1-0-1T00:01:00;02@30");
@@ -58,7 +58,7 @@ TEST(TimeCodeText, FormatsEveryKind)
     EXPECT_EQ(formatter.Format(builder.Build()), "-1-0-1-0-1T00:01:00:02@100");
 }
 
-TEST(TimeCodeText, ReadsAsItsDefinitionSaysOnEveryEdge)
+TEST(TimeCodeText, ParsesEdgeCasesAsDefined)
 {
     std::pair<char const*, char const*> const rows[] = {
         {"2000-02-29T12:00:00:00@25", "79020360000 at 25 dated"},
@@ -79,7 +79,7 @@ TEST(TimeCodeText, ReadsAsItsDefinitionSaysOnEveryEdge)
         {"00:00:00:00@0", "out_of_range: Sample 0 is greater than numerator ratio 0"},
         {"00:00:00:00@0000000000000000000000000025", "55224720000 at 25"},
         {"00:00:00:00@2147483647", "4743767324406153600 at 2147483647"},
-        // A rate too large is found before any other bad value.
+        // A rate that is too large is reported before any other bad value.
         {"00:00:00:00@2147483648", "out_of_range: stoi"},
         {"2262-13-39T29:00:00;00@99999999999999999999999", "out_of_range: stoi"},
         {"", "invalid_argument: TalvoTimeCodeParser the string '' has not the expected format."},
@@ -103,7 +103,7 @@ TEST(TimeCodeText, ReadsAsItsDefinitionSaysOnEveryEdge)
         EXPECT_EQ(CompareWithDefinition(text).find("invalid_argument"), 0u);
 }
 
-TEST(TimeCodeText, ReadsMutatedTextsAsItsDefinitionSays)
+TEST(TimeCodeText, ParsesMutatedTextsAsDefined)
 {
     std::mt19937 random{20000229};
     auto const below = [&](std::size_t bound) { return static_cast<std::size_t>(random() % bound); };
@@ -145,7 +145,7 @@ TEST(TimeCodeText, ReadsMutatedTextsAsItsDefinitionSays)
         ++kinds[outcome == "out_of_range: stoi" ? 's' : outcome.front()];
         ASSERT_FALSE(HasFailure());
     }
-    // Good texts, bad values, rates too large and texts of neither shape all came up often.
+    // Valid texts, bad values, rates that are too large and texts of neither form must all occur often.
     EXPECT_GT(200'000 - kinds['o'] - kinds['s'] - kinds['i'], 10'000);
     for (char const kind : {'o', 's', 'i'}) EXPECT_GT(kinds[kind], 10'000) << kind;
 }
@@ -156,7 +156,7 @@ TEST(TimeCodeText, ParseOfADerivedClassDecidesTryParse)
     {
         TimeCode Parse(std::string const& text) const override
         {
-            if (text == "bad") throw 7; // anything at all
+            if (text == "bad") throw 7; // not derived from std::exception
             return text == "good" ? TimeCodeBuilder{.numerator = 24}.Build() : TalvoTimeCodeParser::Parse(text);
         }
     };
@@ -168,7 +168,7 @@ TEST(TimeCodeText, ParseOfADerivedClassDecidesTryParse)
         EXPECT_EQ(parser.TryParse(text), std::pair(false, TimeCode::Empty())) << text;
 }
 
-/// Run on a small stack, which a matcher that recurses once a character would overrun.
+/// Runs on a small stack, which a matcher that recurses for each character would overflow.
 void* ReadLongTexts(void*)
 {
     TalvoTimeCodeParser const parser;

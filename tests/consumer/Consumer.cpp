@@ -1,4 +1,4 @@
-// A program of its own, built against the installed library: a clip goes to the wire and comes back.
+// A separate program, built against the installed library. It writes a clip to the wire and reads it again.
 
 #include "Domain/CorvaneData/Clips/Clip.h"
 #include "Thrift/Data/Clips/FromClip.h"
@@ -44,9 +44,9 @@ int main()
     auto const toDomain = Wire::ThriftToClipConverter{}.To(received, back);
     if (!toDomain.success || back != clip)
     {
-        std::cerr << "the clip did not come back as it was: " << toDomain.message << '\n';
+        std::cerr << "the clip changed in the round trip: " << toDomain.message << '\n';
         return 1;
     }
-    std::cout << "a clip of " << size << " bytes came back as it was\n";
+    std::cout << "a clip of " << size << " bytes is unchanged after the round trip\n";
     return 0;
 }

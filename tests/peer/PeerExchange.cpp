@@ -1,5 +1,6 @@
-// Answers the peer: for each line "RECORD PROTOCOL BYTES" of standard input, with the bytes as hexadecimal digits, one line
-// with the bytes of that record as it is written again, in binary and, behind a blank, in compact.
+// Answers the peer. Each line of standard input is "RECORD PROTOCOL BYTES", with the bytes as hexadecimal digits. The
+// answer is one line with the record written again: its bytes in the binary protocol, a blank, and its bytes in the
+// compact protocol.
 
 #include "tools/Protocols.h"
 

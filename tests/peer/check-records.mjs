@@ -1,8 +1,8 @@
 // Exchanges values of all records with our library: node tests/peer/check-records.mjs PROGRAM
 //
-// PROGRAM is tests/peer/PeerExchange of a build. It reads each value and writes it again in every protocol. What it writes
-// is read here and compared field by field. A value sent in one protocol also returns in the other, so that a fault which
-// the peer's writing and reading of one protocol share is found too.
+// PROGRAM is tests/peer/PeerExchange of a build. It reads each value and writes it again in every protocol. This script
+// reads the result and compares it field by field. A value sent in one protocol also returns in the other, which finds
+// faults that the peer's writer and reader of one protocol share.
 
 import assert from 'node:assert/strict';
 import { spawnSync } from 'node:child_process';

@@ -1,4 +1,4 @@
-// Checks what examples/request_road answered to the sample create-clips-command: node tests/peer/check-road.mjs FOLDER
+// Checks the answers of examples/request_road to the sample create-clips-command: node tests/peer/check-road.mjs FOLDER
 
 import assert from 'node:assert/strict';
 import { readFileSync } from 'node:fs';
@@ -28,8 +28,8 @@ request.clips.forEach(({ clip }, index) => {
     assert.equal(event.databaseRevision, BigInt(index + 1));
     same('Clip', event.newClip, item.clip);
 
-    // All that the request said of the clip in numbers and short texts came through unchanged.
+    // The numbers and short texts of the clip in the request are unchanged.
     for (const [field, value] of Object.entries(clip).filter(([, value]) => typeof value !== 'object'))
         same('Clip', { [field]: item.clip[field] }, { [field]: value });
 });
-console.log('The reply and the events of the request are as they should be.');
+console.log('The reply and the events match the request.');

@@ -1,4 +1,4 @@
-// Writes examples/samples anew: node tests/peer/make-samples.mjs
+// Rewrites examples/samples: node tests/peer/make-samples.mjs
 
 import { writeFileSync } from 'node:fs';
 import { sampleFiles, samplesFolder } from './sample-files.mjs';

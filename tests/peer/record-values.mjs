@@ -1,8 +1,8 @@
-// Values of records, made up at random. `random(n)` is a number from 0 to n - 1, n at most 2^32.
+// Random values of records. `random(n)` is a number from 0 to n - 1, with n at most 2^32.
 
 import { canonicalJson } from './wire.mjs';
 
-/** A `random` that gives the same numbers on every run: a linear congruential generator of 48 bits. */
+/** A `random` that returns the same numbers on every run: a linear congruential generator of 48 bits. */
 export function seededRandom(seed)
 {
     let state = BigInt(seed);
@@ -20,13 +20,14 @@ const distinct = (type, count, make) =>
     [...new Map(several(count, make).map(value => [canonicalJson(type, value), value])).values()];
 
 /**
- * Any value, edges above all: numbers at the ends of their types, enumerators that are not known, texts that are empty
- * or raw bytes. Of the fields that are not required, each is there with a chance of `share` in 100, nested ones too.
+ * A random value, mostly from edge cases: numbers at the limits of their types, unknown enumeration numbers, texts that
+ * are empty or raw bytes. Each field that is not required is set with a probability of `share` percent, also in nested
+ * records.
  */
 export function anyValue(random, type, share)
 {
     const any = part => anyValue(random, part, share);
-    // With all its fields, as an absent one and one that is zero make equal keys.
+    // A key has all its fields, since an absent field and a zero make equal keys.
     const keys = key => distinct(key, random(4), () => anyValue(random, key, 100));
     switch (type.kind) {
     case 'bool': return random(2) === 1;

@@ -5,7 +5,7 @@ import { protocols, writeRecord } from './wire.mjs';
 export const samplesFolder = new URL('../../examples/samples/', import.meta.url);
 export const schema = readSchema(new URL('../../schema/', import.meta.url));
 
-/** All files of examples/samples: file name -> { bytes }, and { record, protocol, value } too for a sample. */
+/** All files of examples/samples: file name -> { bytes }, plus { record, protocol, value } for a sample. */
 export function sampleFiles()
 {
     const files = new Map();

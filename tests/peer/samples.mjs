@@ -1,4 +1,4 @@
-// The samples: values in the form that wire.mjs describes. `shows` is the line of the index.
+// The samples: values in the form that wire.mjs describes. `shows` is the description in the index.
 
 const utf16 = text => Buffer.from(text, 'utf16le').toString('latin1');
 const ascii = data => ({ data, isUtf16: false });
@@ -54,7 +54,7 @@ const fieldsFromClip = fieldCount => ({
     type: 'RelativeToCorrespondingClipBoundary', specializedLoadBoundary: { relativeLoadBoundary: { fieldCount } },
 });
 
-// What a TimePoint holds when it is empty: 0x8000000000000001.
+// The value of an empty TimePoint: 0x8000000000000001.
 const emptyTimepoint = -0x7fffffffffffffffn;
 
 const playerState = {

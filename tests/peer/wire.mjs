@@ -38,7 +38,7 @@ export function readRecord(record, bytes, protocolName)
     TBufferedTransport.receiver(transport => {
         value = read(new protocols[protocolName](transport), record);
         if (transport.readCursor !== transport.writeCursor)
-            throw new Error(`${record.name}: bytes behind the record`);
+            throw new Error(`${record.name}: bytes after the record`);
     })(bytes);
     return value;
 }
@@ -121,7 +121,7 @@ function readElements(protocol, type, size, wireType)
     return Array.from({ length: size }, () => read(protocol, type.element));
 }
 
-// Both sides share one schema, so an unknown field is a fault here and not something to skip.
+// Both sides use one schema, so an unknown field is a fault and is not skipped.
 function readFields(protocol, record)
 {
     const value = {};
@@ -161,7 +161,7 @@ function expectType(wireType, type, what)
 function checked(value, isValid, type)
 {
     if (!isValid)
-        throw new Error(`${String(value)} is no ${type.kind}`);
+        throw new Error(`${String(value)} is not a ${type.kind}`);
     return value;
 }
 
@@ -169,11 +169,11 @@ function enumNumber(type, value)
 {
     const number = typeof value === 'string' ? type.numbers.get(value) : value;
     if ((number | 0) !== number)
-        throw new Error(`${String(value)} is no ${type.name}`);
+        throw new Error(`${String(value)} is not a ${type.name}`);
     return number;
 }
 
-// JavaScript numbers are exact up to 2^53 only, so 64 bits go through the buffer of an Int64.
+// JavaScript numbers are exact up to 2^53 only, so 64-bit values use the buffer of an Int64.
 function toInt64(value)
 {
     const buffer = Buffer.alloc(8);
@@ -187,8 +187,8 @@ function fromInt64(int64)
 }
 
 /**
- * One text for equal values: enumerations as numbers, 64-bit numbers as decimal text, fields in the
- * schema's order, sets and maps sorted, as neither keeps an order on the wire. Reads its own output too.
+ * Returns the same text for equal values: enumerations as numbers, 64-bit numbers as decimal text, fields in the
+ * schema's order, sets and maps sorted, since neither has an order on the wire. Accepts its own output too.
  */
 export function canonicalJson(record, value)
 {
@@ -218,7 +218,7 @@ function sorted(elements)
     return keyed.sort(([left], [right]) => (left < right ? -1 : Number(left > right))).map(([, element]) => element);
 }
 
-/** The value as a reader that knows the schema has it: an absent field that is not optional is there with zeros. */
+/** The value as a reader with the schema sees it: an absent field that is not optional has the value zero. */
 export function withDefaults(type, value)
 {
     switch (type.kind) {

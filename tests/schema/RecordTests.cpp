@@ -64,7 +64,7 @@ TEST(Records, HaveThePublishedFingerprints)
     EXPECT_EQ(fingerprints, published);
 }
 
-/// Whether a record can be read from the fields of those ids.
+/// Returns whether a record can be read from the fields with these ids.
 bool CanBeRead(RecordType const& type, std::set<std::int16_t> const& ids)
 {
     RecordFiller filler([&ids](auto const id) { return ids.contains(id); });
@@ -80,9 +80,9 @@ bool CanBeRead(RecordType const& type, std::set<std::int16_t> const& ids)
     }
 }
 
-TEST(Records, AreReadByAllProtocolsAndMissTheirRequiredFields)
+TEST(Records, AreReadByAllProtocolsAndRejectMissingRequiredFields)
 {
-    std::map<std::string_view, std::size_t> required; // which the fingerprints don't tell
+    std::map<std::string_view, std::size_t> required; // not part of the fingerprints
     for (auto const& type : RecordTypes())
     {
         RecordFiller filler;
@@ -114,7 +114,7 @@ TEST(Records, AreReadByAllProtocolsAndMissTheirRequiredFields)
                     Pair("SetMultiviewerDataCommandParams", 2), Pair("UpdateAnglesGroupCommandParams", 2)));
 }
 
-TEST(Records, NumberEnumerationsFreely)
+TEST(Records, AcceptAnyEnumerationNumber)
 {
     for (auto const number : {12, 1000000, -1, -2147483647 - 1})
     {
@@ -124,7 +124,7 @@ TEST(Records, NumberEnumerationsFreely)
     }
 }
 
-// A schema file without records has its constants as well.
+// A schema file without records has a constants object too.
 static_assert(std::is_empty_v<ClipConstants> && std::is_empty_v<OperationResultConstants>);
 
 TEST(Records, HaveAConstantsObjectForEachFile)
@@ -134,7 +134,7 @@ TEST(Records, HaveAConstantsObjectForEachFile)
     EXPECT_NE(ofClip, ofResult);
 }
 
-TEST(Records, AreTheSameThroughAConcreteProtocol)
+TEST(Records, AreWrittenAndReadAlikeThroughAConcreteProtocol)
 {
     Clip clip;
     RecordFiller filler;
@@ -148,10 +148,10 @@ TEST(Records, AreTheSameThroughAConcreteProtocol)
     EXPECT_EQ(back, clip);
 }
 
-TEST(Records, AreRefusedWithSizesOfTwoGibibytesAndMore)
+TEST(Records, RejectSizesOfTwoGibibytesAndMore)
 {
-    // Of a text of Guid and of the clips of a reply: before memory is asked for, where a size has 32 bits too. Below that
-    // Thrift asks for the memory, so readers bound what they read.
+    // The sizes of the text of a Guid and of the clips of a reply are rejected before memory is allocated, also where
+    // std::size_t has 32 bits. For smaller sizes Thrift allocates the memory, so readers must bound what they read.
     std::string const binaryText("\x0B\0\1", 3), binaryList("\x0F\0\3\x0C", 4);
     std::string const compactText("\x18"), compactList("\x39\xFC");
     for (auto const& [binary, compact] : {std::pair(std::string("\x80\0\0\0", 4), "\x80\x80\x80\x80\x08"),
@@ -165,9 +165,9 @@ TEST(Records, AreRefusedWithSizesOfTwoGibibytesAndMore)
     }
 }
 
-TEST(Records, LoseNulBytesInTheLibrarysJson)
+TEST(Records, LoseNulBytesInThriftsJson)
 {
-    // The Thrift library writes NUL as \u0000 and drops that when it reads. JSON is for looking, not for keeping.
+    // The Thrift library writes NUL as \u0000 and drops it when it reads. JSON is for display, not for storage.
     auto const guid = NewGuid(std::string("a\0b", 3));
     auto const through = [&guid](auto& protocol)
     { return Read<Corvane::Data::Generated::Guid>(Written(guid, protocol), protocol).value; };
@@ -176,9 +176,9 @@ TEST(Records, LoseNulBytesInTheLibrarysJson)
     EXPECT_EQ(through(*Protocols()[2]), "ab");
 }
 
-// How records print is ours.
+// This library, not Thrift, defines how records print.
 
-TEST(RecordPrinting, ShowsBytesOfTextsAsTheyAre)
+TEST(RecordPrinting, ShowsTheBytesOfTextsUnchanged)
 {
     EXPECT_EQ(Printed(NewGuid(std::string("a\0\"\\\xFF)", 6))), std::string("Guid(value=a\0\"\\\xFF))", 18));
 }
@@ -208,7 +208,7 @@ TEST(RecordPrinting, ShowsEnumerationsAsNumbersAndContainersWithTheirElements)
     DialCommandParams dial;
     dial.players = {NewGuid("b"), NewGuid("a")};
     dial.velocity = 255;
-    std::ostringstream text; // whose number format is ignored
+    std::ostringstream text; // its number format is ignored
     text << std::hex << std::showbase << std::boolalpha << dial << ' ' << Camera::X;
     EXPECT_EQ(text.str(), "DialCommandParams(commandGuid=Guid(value=), players={Guid(value=a), Guid(value=b)}, "
                           "velocity=255) 13");

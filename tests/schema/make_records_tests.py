@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Tests that the schema has its published names, and that make_records.py refuses what it does not understand."""
+"""Tests that the schema has its published names, and that make_records.py rejects what it does not support."""
 
 import os
 import sys
@@ -24,7 +24,7 @@ def type_name(element):
 
 
 def schema_names():
-    """All records and enumerations as the step reads them, by name: a line a field, a line an enumeration."""
+    """Lists all records and enumerations by name, as make_records.py reads them: one line per field or enumeration."""
     definitions = {}
     with tempfile.TemporaryDirectory() as folder:
         for file in SCHEMA.glob("*.thrift"):
@@ -46,7 +46,7 @@ class SchemaFiles(unittest.TestCase):
     maxDiff = None
 
     def test_have_the_published_names(self):
-        # A name that stands in another's place compiles, and the fingerprints don't depend on names.
+        # A wrong name still compiles, and the fingerprints don't depend on names.
         self.assertMultiLineEqual(schema_names(), NAMES.read_text())
 
 
@@ -62,7 +62,7 @@ class MakeRecords(unittest.TestCase):
         file.write_text(text, errors="surrogateescape")
         make_records.make_records(THRIFT, [file, *others], self.output)
 
-    def test_refuses_what_is_no_record_or_enumeration(self):
+    def test_rejects_invalid_schemas(self):
         for text, message in (
             ("struct R {", "New.thrift: the Thrift compiler failed: .*syntax error"),
             ("struct \udcff {", "New.thrift: the Thrift compiler failed: .*Unexpected token"),
@@ -76,7 +76,7 @@ class MakeRecords(unittest.TestCase):
                 self.make(text)
             self.assertFalse(self.output.exists())
 
-    def test_refuses_compiler_output_without_what_the_schema_names(self):
+    def test_rejects_compiler_output_that_does_not_match_the_schema(self):
         schema_text = ('namespace cpp A.B\nenum E { None = 0 }\n'
                        'struct R { 1: i32 first, 2: required E second, 3: list<i32> numbers }')
         self.make(schema_text)
@@ -106,7 +106,7 @@ class MakeRecords(unittest.TestCase):
             with self.subTest(message), self.assertRaisesRegex(make_records.StepError, message):
                 self.make(schema_text)
 
-    def test_refuses_an_output_that_is_no_folder(self):
+    def test_rejects_an_output_that_is_not_a_folder(self):
         self.output.touch()
         with self.assertRaisesRegex(make_records.StepError, "generated: File exists"):
             self.make("namespace cpp A\nstruct R { 1: i32 first }")

@@ -19,7 +19,7 @@ AnglesGroup NewGroup()
     return AnglesGroup(guid);
 }
 
-TEST(AnglesGroup, IsFreeInEverySlotWhenNew)
+TEST(AnglesGroup, HasOnlyFreeSlotsWhenNew)
 {
     AnglesGroup const group = NewGroup();
     EXPECT_EQ(group.groupGuid.Bytes()[0], 'g');
@@ -44,7 +44,7 @@ TEST(AnglesGroup, SortsItsAnglesByMarkAndCamera)
     EXPECT_THAT(group.OtherAngles(), ElementsAre(Angle{Camera::A, Clips::Guid::Empty()}, Angle{Camera::Z, ClipC}));
 }
 
-TEST(AnglesGroup, TakesTheFirstOfSeveralMarkedByCamera)
+TEST(AnglesGroup, PrefersTheLowestCameraOfSeveralWithOneMark)
 {
     AnglesGroup group = NewGroup();
     for (Camera const camera : {Camera::D, Camera::B}) group.AddAngle(camera, ClipA, PreferentialCamera::Primary);
@@ -54,7 +54,7 @@ TEST(AnglesGroup, TakesTheFirstOfSeveralMarkedByCamera)
     EXPECT_THAT(group.OtherAngles(), ElementsAre(Angle{Camera::D, ClipA}, Angle{Camera::E, ClipB}));
 }
 
-TEST(AnglesGroup, IgnoresWhatIsNoCameraAndOverwritesATakenSlot)
+TEST(AnglesGroup, IgnoresInvalidCamerasAndOverwritesAUsedSlot)
 {
     AnglesGroup group = NewGroup();
     for (Camera const camera : {Camera::NotSet, Camera{16}, Camera{-1}, Camera{-2147483647 - 1}})

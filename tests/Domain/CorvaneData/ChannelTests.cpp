@@ -14,7 +14,7 @@ using namespace Data::Channels;
 using Multiviewer::MultiviewerDataOverrides;
 using Multiviewer::PlayerDataOverrides;
 
-// Every comparison of states rests on this, also that of the round trips.
+// Every comparison of states depends on this, including those of the round trips.
 template<typename TState>
 void ExpectComparesItsBase()
 {
@@ -28,7 +28,7 @@ void ExpectComparesItsBase()
     EXPECT_NE(state, other);
 }
 
-TEST(ChannelState, ComparesItsBaseAndTellsItsType)
+TEST(ChannelState, ComparesItsBaseAndReportsItsType)
 {
     ExpectComparesItsBase<PlayerState>();
     ExpectComparesItsBase<RecorderState>();
@@ -50,7 +50,7 @@ TEST(PlayerDataOverrides, CopiesCarryTheReservedValues)
     EXPECT_NE(copy, overrides);
 }
 
-TEST(MultiviewerDataOverrides, HoldsOneEntryAPlayer)
+TEST(MultiviewerDataOverrides, HoldsOneEntryPerPlayer)
 {
     MultiviewerDataOverrides multiviewer(2);
     EXPECT_EQ(multiviewer.playerCount, 2u);

@@ -24,7 +24,7 @@ std::vector<std::int64_t> Numbers(auto... values)
     return {static_cast<std::int64_t>(values)...};
 }
 
-TEST(Clip, HasDefaultsWhenNewThatAreNotSent)
+TEST(Clip, HasTheDefaultsOfUnsentFieldsWhenNew)
 {
     Clip const clip;
     EXPECT_EQ(clip.reservedValue, 2);
@@ -37,14 +37,14 @@ TEST(Clip, HasDefaultsWhenNewThatAreNotSent)
 TEST(Clip, DiffersInAnyByteOfAText)
 {
     Clip clip;
-    clip.name.payload.back() = '\0'; // padded with zeros instead of blanks
+    clip.name.payload.back() = '\0'; // padded with a zero instead of a blank
     EXPECT_NE(clip, Clip());
     clip = Clip();
     clip.keywords[4].isUtf16 = true;
     EXPECT_NE(clip, Clip());
 }
 
-TEST(Clip, TakesOnlyTimeCodesOfItsVideoStandard)
+TEST(Clip, AcceptsOnlyTimeCodesOfItsVideoStandard)
 {
     std::set<int> const palRates{25, 50, 100};
     std::set<int> const ntscRates{24, 30, 48, 60, 120};
@@ -66,7 +66,7 @@ TEST(Clip, TakesOnlyTimeCodesOfItsVideoStandard)
         }
 }
 
-TEST(Clip, TakesTheDefaultTimecodeUnderEitherStandardAndKeepsItWhenTheStandardChanges)
+TEST(Clip, AcceptsTheDefaultTimecodeUnderAnyStandardAndKeepsItWhenTheStandardChanges)
 {
     auto const ntscTimecode = TimeCodeBuilder{.hour = 1, .numerator = 60, .dropFrame = true}.Build();
     Clip clip;
@@ -100,7 +100,7 @@ TEST(Clip, EmptyTimecodeMakesTheTimecodeAbsentUnderAnyStandard)
     }
 }
 
-TEST(Clip, IdentifierTextsAreCutAfterEightCharacters)
+TEST(Clip, IdentifierTextsAreTruncatedToEightCharacters)
 {
     for (auto const& [text, stored, isWhole] :
          {std::tuple("", "\0\0\0\0\0\0\0\0\0"sv, true), std::tuple("A1", "A1\0\0\0\0\0\0\0"sv, true),
@@ -113,7 +113,7 @@ TEST(Clip, IdentifierTextsAreCutAfterEightCharacters)
     }
 }
 
-TEST(ClipEssence, ClearSetsEveryFieldToTheNeutralOnesOfTheType)
+TEST(ClipEssence, ClearSetsEveryFieldToTheNeutralValueOfTheType)
 {
     using namespace Essences;
     struct Row

@@ -13,7 +13,8 @@ namespace
 
 using namespace std::string_view_literals;
 
-/// Sets a used slot of `N` bytes that another object follows: what it holds then, and whether it holds the whole text.
+/// Sets a used slot of `N` bytes that is followed by another object. Returns what the slot holds then, and whether that
+/// is the whole text.
 template<std::size_t N>
 void ExpectStored(auto const text, std::string_view const stored, bool const isWhole)
 {
@@ -34,7 +35,7 @@ void ExpectStored(auto const text, std::string_view const stored, bool const isW
     EXPECT_EQ(used.next, "untouched");
 }
 
-TEST(FixedText, SingleByteTextIsCutOrPaddedWithZeros)
+TEST(FixedText, SingleByteTextIsTruncatedOrPaddedWithZeros)
 {
     ExpectStored<4>(""sv, "\0\0\0\0"sv, true);
     ExpectStored<4>("ab"sv, "ab\0\0"sv, true);
@@ -44,17 +45,17 @@ TEST(FixedText, SingleByteTextIsCutOrPaddedWithZeros)
     ExpectStored<4>(std::string_view(), "\0\0\0\0"sv, true);
 }
 
-TEST(FixedText, Utf16TextIsCutAfterWholeCharacters)
+TEST(FixedText, Utf16TextIsTruncatedAfterWholeCharacters)
 {
     ExpectStored<4>(u""sv, "\0\0\0\0"sv, true);
     ExpectStored<4>(u"\u6771"sv, "\x71\x67\0\0"sv, true);
     ExpectStored<4>(u"\u6771\u00E9"sv, "\x71\x67\xE9\0"sv, true);
     ExpectStored<4>(u"\u6771\u00E9x"sv, "\x71\x67\xE9\0"sv, false);
-    // A surrogate pair: whole, or cut as a whole.
+    // A surrogate pair is kept or dropped as a whole.
     ExpectStored<4>(u"\U0001F3AC"sv, "\x3C\xD8\xAC\xDF"sv, true);
     ExpectStored<4>(u"\U0001F3ACx"sv, "\x3C\xD8\xAC\xDF"sv, false);
     ExpectStored<4>(u"x\U0001F3AC"sv, "x\0\0\0"sv, false);
-    // No code unit has one byte.
+    // One byte does not hold a code unit.
     ExpectStored<5>(u"xyz"sv, "x\0y\0\0"sv, false);
     ExpectStored<1>(u"x"sv, "\0"sv, false);
 }

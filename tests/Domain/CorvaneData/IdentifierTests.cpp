@@ -40,7 +40,7 @@ Guid From(Bytes const& bytes)
     return Guid(bytes.data(), Guid::Size);
 }
 
-TEST(Guid, TakesSixteenBytesAtMostAndFillsWithZeros)
+TEST(Guid, HoldsAtMostSixteenBytesAndFillsWithZeros)
 {
     std::string const text = "\xFF"
                              "bcdefghijklmnopq"; // seventeen characters
@@ -54,7 +54,7 @@ TEST(Guid, TakesSixteenBytesAtMostAndFillsWithZeros)
     EXPECT_EQ(Guid(nullptr, 0), Guid::Empty());
 }
 
-TEST(Guid, IsWrittenThroughTheBaseByItsRelatives)
+TEST(Guid, IsSetThroughTheBaseByDerivedClasses)
 {
     auto const writeThroughBase = [](auto guid)
     {
@@ -100,7 +100,7 @@ TEST(Guid, GeneratesUniqueVersion4FromAnyThread)
     EXPECT_EQ(distinct.size(), 4000u);
 }
 
-TEST(ChannelGuid, GivesItsPartsBackAndIsNeverSixteenZeros)
+TEST(ChannelGuid, ReturnsItsPartsAndIsNeverSixteenZeros)
 {
     using Type = Channels::Guid::Type;
     constexpr int MinIndex = std::numeric_limits<int>::min();
@@ -141,7 +141,7 @@ TEST(ChannelGuid, HashesEachByteAsUnsignedIn32Bits)
     EXPECT_EQ(hashOf({2, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1}), 3273898943u); // 2 * 31^15 + 1, modulo 2^32
 }
 
-TEST(UmId, HoldsEightCharactersAndForgetsTheTextBefore)
+TEST(UmId, HoldsEightCharactersAndDropsThePreviousText)
 {
     Clips::UmId umId;
     EXPECT_STREQ(umId.GetUmId(), "");
@@ -157,7 +157,7 @@ TEST(UmId, HoldsEightCharactersAndForgetsTheTextBefore)
     EXPECT_EQ(umId, Clips::UmId());
 }
 
-TEST(DomainNumbers, DifferFromTheWireWhereTheyMust)
+TEST(DomainNumbers, DifferFromTheWireWhereRequired)
 {
     EXPECT_EQ(OperationResult{2}, OperationResult::ResourceNotFound);
     EXPECT_EQ(OperationResult{7}, OperationResult::TemporaryError);

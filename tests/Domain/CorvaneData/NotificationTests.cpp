@@ -23,7 +23,7 @@ namespace Talvo::Corvane::Notification
 namespace
 {
 
-/// Whether the events derive from the base, and can be deleted through it.
+/// Returns whether the events derive from the base and can be deleted through it.
 template<typename TBase, typename... TEvents>
 constexpr bool AreEach = std::has_virtual_destructor_v<TBase> && (std::is_base_of_v<TBase, TEvents> && ...);
 

@@ -40,7 +40,7 @@ struct Counted
 
 using OptionalCounted = Optional<Counted>;
 
-TEST(Optional, IsNullUntilGivenAValueAndThrowsThen)
+TEST(Optional, IsNullAndThrowsUntilItHasAValue)
 {
     OptionalCounted optional;
     EXPECT_FALSE(optional.HasValue());
@@ -84,7 +84,7 @@ TEST(Optional, CopiesAndMovesFlagAndValueAndDestroysEachOnce)
     EXPECT_EQ(Counted::alive, 0);
 }
 
-TEST(Optional, LaysTheValueDirectlyBehindTheFlag)
+TEST(Optional, PlacesTheValueDirectlyAfterTheFlag)
 {
     static_assert(sizeof(Optional<bool>) == 2 && sizeof(Optional<std::array<char, 5>>) == 6);
     Optional<char> const optional = 'x';

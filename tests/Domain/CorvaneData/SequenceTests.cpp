@@ -12,7 +12,7 @@ namespace Talvo::Corvane::Data::Sequences
 namespace
 {
 
-// Lists of them grow without copying.
+// Lists of these grow without copying their elements.
 static_assert(std::is_nothrow_move_constructible_v<Tag> && std::is_nothrow_move_constructible_v<AudioVideoElement>);
 
 TEST(SequenceId, RefusesALocationAbove109)
@@ -33,7 +33,7 @@ TEST(SequenceId, RefusesALocationAbove109)
     }
 }
 
-TEST(Tag, HoldsItsTypeAloneWhenNew)
+TEST(Tag, HoldsOnlyItsTypeWhenNew)
 {
     Tag const tag(Tag::CommandType::Blurring);
     EXPECT_EQ(tag.commandType, Tag::CommandType::Blurring);
@@ -43,7 +43,7 @@ TEST(Tag, HoldsItsTypeAloneWhenNew)
     EXPECT_THAT(TagProperty(-3).value, testing::ElementsAre(-3));
 }
 
-TEST(Playlist, IsCopiedDeep)
+TEST(Playlist, CopiesAreDeep)
 {
     Playlist playlist = Playlist::Empty();
     EXPECT_EQ(playlist, Playlist());

@@ -39,7 +39,7 @@ using Status = OperationStatus::Status;
 using ChannelGuid = Corvane::Data::Channels::Guid;
 using GroupGuid = Corvane::Data::Clips::Groups::Guid;
 
-TEST(CommandParams, NewOnesHaveNewIdentifiers)
+TEST(CommandParams, NewParametersHaveNewIdentifiers)
 {
     CreateAnglesGroupCommandParams const first, second;
     EXPECT_NE(first.commandGuid, second.commandGuid);
@@ -79,7 +79,8 @@ constexpr bool IsMovableOnly = std::is_nothrow_move_constructible_v<TReply>&& st
 static_assert(IsMovableOnly<ClipCommandReply> && IsMovableOnly<AnglesGroupCommandReply> &&
               IsMovableOnly<PlaylistCommandReply> && IsMovableOnly<GetTrainsCommandReply>);
 
-// What these hold can't be compared: an inherited comparison of the identifiers would call replies equal that are not.
+// The contents of these can't be compared. An inherited comparison of the identifiers would report different replies as
+// equal.
 static_assert(!std::equality_comparable<CommandReply> && !std::equality_comparable<ClipCommandReply> &&
               !std::equality_comparable<AnglesGroupCommandReply> && !std::equality_comparable<PlaylistCommandReply> &&
               !std::equality_comparable<GetClipsCommandReply> && !std::equality_comparable<GetTrainsCommandReply> &&
@@ -122,7 +123,7 @@ TEST(CommandReply, ComparisonCoversEveryField)
         [](auto& reply) { reply.operationStatus.status = Status::Failed; });
 }
 
-/// Items that hold something while they have succeeded.
+/// Checks that an item keeps its content while its status is Succeeded, and that any other status destroys it.
 template<typename TItem, typename THeld>
 void ExpectItem(std::unique_ptr<THeld> TItem::*const held)
 {
@@ -144,13 +145,13 @@ void ExpectItem(std::unique_ptr<THeld> TItem::*const held)
     }
 }
 
-TEST(ResultsItem, StatusOtherThanSucceededDestroysWhatIsHeld)
+TEST(ResultsItem, StatusOtherThanSucceededDestroysTheContent)
 {
     ExpectItem(&ClipResultsItem::clip);
     ExpectItem(&PlaylistResultsItem::playlist);
 }
 
-TEST(ResultsItem, ClipIsReadOnlyFromAnItemThatSucceeded)
+TEST(ResultsItem, ClipCanBeReadOnlyFromAnItemThatSucceeded)
 {
     ClipResultsItem item;
     item.clip = std::make_unique<Clip>();
@@ -162,7 +163,7 @@ TEST(ResultsItem, ClipIsReadOnlyFromAnItemThatSucceeded)
     EXPECT_EQ(item.Clip(), Clip::Empty());
 }
 
-TEST(ReplyCursor, GoesOnceFromFrontToBack)
+TEST(ReplyCursor, MovesOnceFromFirstToLast)
 {
     std::list<Clip> clips(3);
     clips.front().userProtect = 1;
@@ -172,7 +173,7 @@ TEST(ReplyCursor, GoesOnceFromFrontToBack)
     ASSERT_TRUE(reply.MoveNext());
     EXPECT_EQ(reply.CurrentClip().userProtect, 1);
 
-    auto copy = std::make_unique<GetClipsCommandReply>(reply); // with a cursor of its own, where this one stands
+    auto copy = std::make_unique<GetClipsCommandReply>(reply); // with its own cursor at the same position
     EXPECT_EQ(copy->CurrentClip().userProtect, 1);
     ASSERT_TRUE(copy->MoveNext() && copy->MoveNext());
     EXPECT_EQ(copy->CurrentClip().userProtect, 3);
