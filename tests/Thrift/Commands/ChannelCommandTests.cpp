@@ -32,9 +32,9 @@ ChannelGuid Channel(char const name)
     return name == '.' ? ChannelGuid() : Id<ChannelGuid>(name);
 }
 
-// Results are told as pairs of a channel (a point for the default one) and the number of a status.
+// The tests write results as pairs of a channel (a point for the default one) and the number of a status.
 
-/// A wire record with these results, all inner flags of which are clear.
+/// Returns a wire record with these results. The flags inside the results are clear.
 Generated::ChannelCommandReply WireReply(std::string_view const results, bool const hasGuid = true)
 {
     Generated::ChannelCommandReply wire;
@@ -64,7 +64,7 @@ ChannelCommandReply Holding(std::string_view const results)
     return reply;
 }
 
-/// The results of a reply, the first one even where it does not count, behind their number.
+/// Returns the number of results and the results, with the first one even if the number is 0 or less.
 std::string Shown(ChannelCommandReply const& reply)
 {
     std::string shown = std::to_string(reply.resultCount) + ':';
@@ -78,7 +78,7 @@ std::string Shown(ChannelCommandReply const& reply)
     return shown;
 }
 
-TEST(ChannelCommandReplyConversion, SendsNeverFewerThanOneResultNorMoreThanThereAreSlots)
+TEST(ChannelCommandReplyConversion, WritesAtLeastOneResultAndAtMostOnePerSlot)
 {
     auto twelve = Holding("a1b1c1d1e1f1g1h1i1j1k1l1");
     EXPECT_EQ(Reply::Received(Reply::Sent(twelve), ChannelCommandReply(Id('x'))), twelve);
@@ -102,7 +102,7 @@ TEST(ChannelCommandReplyConversion, ResultsAreSortedIntoTwelveSlots)
         auto const reply = Reply::Received(WireReply(results), Holding("x1y2z3"));
         EXPECT_EQ(Shown(reply), expected) << results;
         EXPECT_EQ(reply.commandGuid, Id('w'));
-        EXPECT_EQ(reply.results[11].channel == ChannelGuid(), reply.resultCount < 12); // the others are default
+        EXPECT_EQ(reply.results[11].channel == ChannelGuid(), reply.resultCount < 12); // unused slots hold the default
     };
     expectReceived("", "0:.0");
     expectReceived("b1a2", "2:b1a2");
@@ -111,18 +111,18 @@ TEST(ChannelCommandReplyConversion, ResultsAreSortedIntoTwelveSlots)
     expectReceived("a1b1c1d1e1f1g1h1i1j1k1l1", "12:a1b1c1d1e1f1g1h1i1j1k1l1");
     expectReceived("a1b1c1d1e1f1g1h1i1j1k1l1m1", "12:a1b1c1d1e1f1g1h1i1j1k1l1"); // a thirteenth is dropped
     expectReceived("a1b1c1d1e1f1g1h1i1j1k1l1m1l2", "12:a1b1c1d1e1f1g1h1i1j1k1l2");
-    expectReceived(".1", "0:.1"); // the default channel takes the first slot, without being counted
+    expectReceived(".1", "0:.1"); // the default channel uses the first slot and is not counted
     expectReceived(".1a2", "1:a2");
     expectReceived("a2.1", "2:a2.1");
 
     auto wire = WireReply("a1a2a1");
     wire.channelResults[1].guid.value += "17th byte and more";
     EXPECT_EQ(Shown(Reply::Received(wire, Holding(""))), "1:a1");
-    wire.channelResults[2].status = {}; // without content: a new one
+    wire.channelResults[2].status = {}; // a status without content becomes a new one
     EXPECT_EQ(Shown(Reply::Received(wire, Holding(""))), "1:a0");
 }
 
-TEST(ChannelCommandReplyConversion, WithoutIdentifierResultsArePutAmongTheHeldOnesAndItFails)
+TEST(ChannelCommandReplyConversion, WithoutIdentifierMergesResultsIntoTheReplyAndFails)
 {
     auto const expectPut = [](std::string_view const results, std::string_view const held, std::string const& expected)
     {
@@ -134,7 +134,7 @@ TEST(ChannelCommandReplyConversion, WithoutIdentifierResultsArePutAmongTheHeldOn
     expectPut("b3c3", "a1b1", "3:a1b3c3");
     expectPut("b3", "", "1:b3");
     expectPut("", "", "0:.0");
-    expectPut("", "a1", "2:a1.0"); // the default result is put
+    expectPut("", "a1", "2:a1.0"); // the default result is added
     expectPut("m3c3", "a1b1c1d1e1f1g1h1i1j1k1l1", "12:a1b1c3d1e1f1g1h1i1j1k1l1");
 
     auto negative = Holding("a1");
@@ -143,7 +143,7 @@ TEST(ChannelCommandReplyConversion, WithoutIdentifierResultsArePutAmongTheHeldOn
     EXPECT_EQ(Shown(negative), "-1:a1");
 }
 
-TEST(ChannelCommandReplyConversion, WithoutResults)
+TEST(ChannelCommandReplyConversion, WithoutResultsNeedsAnIdentifier)
 {
     auto wire = WireReply("a1");
     wire.__isset.channelResults = false;

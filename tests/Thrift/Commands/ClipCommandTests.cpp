@@ -45,20 +45,20 @@ CreateClipsCommandParams FullCreation(char const id)
     return params;
 }
 
-TEST(CreateClipsConversion, FieldsOfAnEntryAreTakenWithoutFlagsAndWhateverTheClipReports)
+TEST(CreateClipsConversion, IgnoresFlagsOfAnEntryAndTheFailureOfItsClip)
 {
     auto const full = FullCreation('c');
     auto wire = CreateClips::Sent(full);
     wire.clips[0].__isset = {};
     EXPECT_EQ(CreateClips::Received(wire, full), full);
 
-    wire.clips[0].clip = {}; // fails as empty
+    wire.clips[0].clip = {}; // its conversion fails
     auto expected = full;
     expected.clips[0].clip = Clip();
     EXPECT_EQ(CreateClips::Received(wire, full), expected);
 }
 
-TEST(UpdateClipsConversion, FieldsOfAnEntryAreTakenWithoutFlagsAndWhateverTheClipsReport)
+TEST(UpdateClipsConversion, IgnoresFlagsOfAnEntryAndTheFailuresOfItsClips)
 {
     UpdateClipsCommandParams full;
     full.commandGuid = Id('c');
@@ -80,7 +80,7 @@ auto Shown(AnglesGroupCommandReply const& reply)
     return std::tuple(reply.commandGuid, Guid(reply.groupGuid), reply.operationStatus, Shown(reply.clipCommandReply));
 }
 
-TEST(ClipResultsItemConversion, OnlyAClipOfAnItemThatSucceededTravels)
+TEST(ClipResultsItemConversion, WritesOnlyTheClipOfAnItemThatSucceeded)
 {
     auto const expectSent = [](ClipResultsItem const& item, bool const isSent)
     {
@@ -92,13 +92,13 @@ TEST(ClipResultsItemConversion, OnlyAClipOfAnItemThatSucceededTravels)
         EXPECT_EQ(wire.clip.umId, isSent ? "UMID0001" : "");
     };
     expectSent(SomeItem<ClipResultsItem>(Succeeded, NestedClip()), true);
-    expectSent(SomeItem<ClipResultsItem>(Succeeded, Clip()), false); // nothing but defaults
+    expectSent(SomeItem<ClipResultsItem>(Succeeded, Clip()), false); // only defaults
     expectSent(SomeItem<ClipResultsItem>(Succeeded), false);
     expectSent(SomeItem<ClipResultsItem>(Refused, NestedClip()), false);
     expectSent(SomeItem<ClipResultsItem>(Waiting, NestedClip()), false);
 }
 
-TEST(ClipResultsItemConversion, ReceivedClipIsKeptByAnItemThatHasSucceededByThen)
+TEST(ClipResultsItemConversion, KeepsTheReceivedClipIfTheStatusIsSucceededByThen)
 {
     auto const sent = Item::Sent(SomeItem<ClipResultsItem>(Succeeded, NamedClip("SENT")));
     auto const expectReceived = [&](bool const hasStatus, bool const hasClip, OperationStatus const& held,
@@ -118,11 +118,12 @@ TEST(ClipResultsItemConversion, ReceivedClipIsKeptByAnItemThatHasSucceededByThen
     expectReceived(true, true, Succeeded, StartOfAnItem, "none", WireStatusOf::Failed); // the clip is dropped
     expectReceived(true, false, Succeeded, Succeeded, "HELD", WireStatusOf::Succeeded);
     expectReceived(true, false, Succeeded, StartOfAnItem, "none", WireStatusOf::Failed);
-    expectReceived(false, true, Succeeded, Succeeded, "SENT", WireStatusOf::Failed); // keeps its status
+    expectReceived(false, true, Succeeded, Succeeded, "SENT", WireStatusOf::Failed); // the item keeps its status
     expectReceived(false, true, Refused, Refused, "HELD", WireStatusOf::Succeeded);
     expectReceived(false, false, Refused, Refused, "HELD", WireStatusOf::Succeeded); // untouched
 
-    // A status without content is the one that an item starts with; a clip that fails is kept with what was applied.
+    // A status without content becomes the initial status of an item. A clip that fails keeps the fields applied so
+    // far.
     auto wire = sent;
     wire.operationStatus = {};
     auto item = SomeItem<ClipResultsItem>(Succeeded, NamedClip("HELD"));
@@ -134,7 +135,7 @@ TEST(ClipResultsItemConversion, ReceivedClipIsKeptByAnItemThatHasSucceededByThen
               Shown(SomeItem<ClipResultsItem>(Succeeded, Clip::Empty())));
 }
 
-/// An item each: one that succeeded with its clip, one that failed, one that waits.
+/// Returns a reply with three items: one that succeeded with its clip, one that failed, and one that is pending.
 ClipCommandReply FullReply(char const id)
 {
     ClipCommandReply reply(Id(id), 3);
@@ -149,7 +150,7 @@ TEST(ClipCommandReplyConversion, KeepsAnEmptyItemAsFailed)
     auto wire = Reply::Sent(FullReply('c'));
     EXPECT_EQ(Shown(Reply::Received(wire, FullReply('h'))), Shown(FullReply('c')));
     wire.results[1] = {};
-    wire.results[2].__isset.operationStatus = false; // a clip alone would be dropped
+    wire.results[2].__isset.operationStatus = false; // an item with only a clip becomes failed, and its clip is dropped
     wire.results[2].__isset.clip = true;
     auto expected = FullReply('c');
     expected.results[1] = SomeItem<ClipResultsItem>(StartOfAnItem);
@@ -157,7 +158,7 @@ TEST(ClipCommandReplyConversion, KeepsAnEmptyItemAsFailed)
     EXPECT_EQ(Shown(Reply::Received(wire, FullReply('h'))), Shown(expected));
 }
 
-/// Under one identifier, which is also that of the group.
+/// Returns a reply with `id` as the identifier of the command and of the group.
 AnglesGroupCommandReply FullGroupReply(char const id)
 {
     AnglesGroupCommandReply reply(Id(id), Id<Clips::Groups::Guid>(id));
@@ -166,7 +167,7 @@ AnglesGroupCommandReply FullGroupReply(char const id)
     return reply;
 }
 
-TEST(AnglesGroupCommandReplyConversion, IdentifierTravelsTwiceAndThatOfTheGroupNever)
+TEST(AnglesGroupCommandReplyConversion, WritesTheCommandIdentifierTwiceAndNeverThatOfTheGroup)
 {
     auto source = FullGroupReply('c');
     source.groupGuid = Id<Clips::Groups::Guid>('g');
@@ -174,11 +175,11 @@ TEST(AnglesGroupCommandReplyConversion, IdentifierTravelsTwiceAndThatOfTheGroupN
     EXPECT_EQ(wire.commandGuid, WireId(std::string(16, 'c')));
     EXPECT_EQ(wire.groupGuid, WireId(std::string(16, 'c')));
 
-    wire.groupGuid = WireId(std::string(16, 'w')); // coming in the two are told apart
+    wire.groupGuid = WireId(std::string(16, 'w')); // both are read
     EXPECT_EQ(GroupReply::Received(wire, FullGroupReply('h')).groupGuid, Id<Clips::Groups::Guid>('w'));
 }
 
-TEST(AnglesGroupCommandReplyConversion, RefusedRecordLeavesTheReplyAndAnyOtherReplacesIt)
+TEST(AnglesGroupCommandReplyConversion, RejectedRecordKeepsTheReplyAndAnyOtherReplacesIt)
 {
     auto const wire = GroupReply::Sent(FullGroupReply('c'));
     auto partial = wire;
@@ -195,7 +196,7 @@ TEST(AnglesGroupCommandReplyConversion, RefusedRecordLeavesTheReplyAndAnyOtherRe
     auto bare = wire;
     bare.__isset.operationStatus = bare.__isset.clipCommandReply = false;
     expectNoItems(bare);
-    auto failing = wire; // the nested reply fails, which is not looked at
+    auto failing = wire; // the failure of the nested reply is ignored
     failing.operationStatus = {};
     failing.clipCommandReply.__isset.guid = false;
     expectNoItems(failing);

@@ -30,7 +30,7 @@ using Get =
 using Set =
     Converters<SetMultiviewerDataCommandParamsToThriftConverter, ThriftToSetMultiviewerDataCommandParamsConverter>;
 
-/// Entries of the players a and b, each filed under its player.
+/// Returns entries of the players a and b, each under the key of its player.
 template<typename TDomain>
 TDomain Full()
 {
@@ -47,7 +47,7 @@ GetMultiviewerDataCommandReply FullReply()
     return reply;
 }
 
-/// Adds keys that become the identifier of the player a, behind the one that is it.
+/// Adds keys that become the identifier of the player a. They follow the key that is equal to it.
 void AddKeysOfPlayerA(auto& wireMap)
 {
     auto const other = wireMap.at(WireId(std::string(16, 'b')));
@@ -55,7 +55,7 @@ void AddKeysOfPlayerA(auto& wireMap)
     wireMap[WireId(std::string(1'000'000, 'a'))] = other;
 }
 
-TEST(GetMultiviewerDataReplyConversion, EqualKeyKeepsItsEntry)
+TEST(GetMultiviewerDataReplyConversion, ExistingKeyKeepsItsEntry)
 {
     auto wire = Get::Sent(FullReply());
     auto other = FullReply();
@@ -65,7 +65,7 @@ TEST(GetMultiviewerDataReplyConversion, EqualKeyKeepsItsEntry)
     EXPECT_EQ(Get::Received(wire), FullReply());
 }
 
-TEST(SetMultiviewerDataConversion, IdentifierDoesNotTravel)
+TEST(SetMultiviewerDataConversion, IdentifierIsNeitherWrittenNorRead)
 {
     auto const full = Full<SetMultiviewerDataCommandParams>();
     Generated::SetMultiviewerDataCommandParams filled;
@@ -78,7 +78,7 @@ TEST(SetMultiviewerDataConversion, IdentifierDoesNotTravel)
     EXPECT_NE(first.commandGuid, full.commandGuid);
 }
 
-TEST(SetMultiviewerDataConversion, EqualKeyIsReplacedGoingOutAndKeptComingIn)
+TEST(SetMultiviewerDataConversion, ExistingKeyIsReplacedWhenWrittenAndKeptWhenRead)
 {
     auto const full = Full<SetMultiviewerDataCommandParams>();
     auto other = full;

@@ -13,7 +13,7 @@ using namespace Corvane::Zelmar::Serialization::Thrift::Commands;
 
 using FailureConverters = Converters<FailureReplyToThriftConverter, ThriftToFailureReplyConverter>;
 
-TEST(FailureReplyConversion, IdentifierStartsTheReplyAnewAndATextAloneIsPutIntoIt)
+TEST(FailureReplyConversion, IdentifierReplacesTheReplyAndATextAlonePatchesIt)
 {
     FailureReply const held(Id('h'), "held");
     auto const wire = FailureConverters::Sent({Id('c'), "sent"});
@@ -32,7 +32,7 @@ TEST(FailureReplyConversion, IdentifierStartsTheReplyAnewAndATextAloneIsPutIntoI
     expectReceived(false, false, held, "FailureReply is empty");
 }
 
-TEST(UnknownCommandReplyConversion, IdentifierDoesNotTravel)
+TEST(UnknownCommandReplyConversion, IdentifierIsLost)
 {
     using Pair = Converters<UnknownCommandReplyToThriftConverter, ThriftToUnknownCommandReplyConverter>;
     auto const wire = Pair::Sent({Id('c'), "MakeCoffee"});

@@ -28,13 +28,13 @@ Playlist NamedPlaylist(char const* const umId)
     return playlist;
 }
 
-TEST(PlaylistParamsConversion, ListsTravelWhateverThePlaylistsReport)
+TEST(PlaylistParamsConversion, ReadsListsRegardlessOfTheFailuresOfPlaylists)
 {
     CreatePlaylistsCommandParams creation;
     creation.commandGuid = Id('c');
     creation.playlists = {FullPlaylist(), Playlist()};
     auto wireCreation = Create::Sent(creation);
-    wireCreation.playlists[0] = {}; // fails as empty
+    wireCreation.playlists[0] = {}; // its conversion fails
     creation.playlists[0] = Playlist();
     EXPECT_EQ(Create::Received(wireCreation), creation);
 
@@ -42,13 +42,13 @@ TEST(PlaylistParamsConversion, ListsTravelWhateverThePlaylistsReport)
     update.commandGuid = Id('c');
     update.params = {{NamedPlaylist("OLD"), NamedPlaylist("NEW")}, {Playlist(), FullPlaylist()}};
     auto wireUpdate = Update::Sent(update);
-    wireUpdate.params[0].__isset = {}; // the inner flags are not read
+    wireUpdate.params[0].__isset = {}; // the flags inside an entry are ignored
     wireUpdate.params[1].newPlaylist = {};
     update.params[1].newPlaylist = Playlist();
     EXPECT_EQ(Update::Received(wireUpdate), update);
 }
 
-TEST(PlaylistResultsItemConversion, EveryHeldPlaylistTravelsWhateverTheStatus)
+TEST(PlaylistResultsItemConversion, WritesThePlaylistRegardlessOfTheStatus)
 {
     for (auto const& status : {Succeeded, Refused})
     {
@@ -65,7 +65,7 @@ TEST(PlaylistResultsItemConversion, EveryHeldPlaylistTravelsWhateverTheStatus)
     }
 }
 
-TEST(PlaylistResultsItemConversion, ReceivedPlaylistIsKeptWhateverTheStatus)
+TEST(PlaylistResultsItemConversion, KeepsTheReceivedPlaylistRegardlessOfTheStatus)
 {
     auto const sent = Item::Sent(SomeItem<PlaylistResultsItem>(Succeeded, NamedPlaylist("SENT")));
     auto const expectReceived =

@@ -45,7 +45,7 @@ using ServersReply = Converters<GetServersCommandReplyToThriftConverter, ThriftT
 using PlaylistsReply = Converters<GetPlaylistsCommandReplyToThriftConverter, ThriftToGetPlaylistsCommandReplyConverter>;
 using ChannelsReply = Converters<GetChannelsCommandReplyToThriftConverter, GetChannelsCommandReplyFromThriftConverter>;
 
-TEST(QueryParamsConversion, UnknownNumbersBecomeAKnownOne)
+TEST(QueryParamsConversion, UnknownNumbersBecomeAKnownNumber)
 {
     using Range = GetServersCommandParams::ServerRange;
     using Mode = GetPlaylistsCommandParams::ElementMode;
@@ -66,7 +66,8 @@ TEST(QueryParamsConversion, UnknownNumbersBecomeAKnownOne)
     }
 }
 
-// What a reply holds: identifier, revision where it has one, items; for replies with a cursor those behind it.
+// Shown() returns the contents of a reply: its identifier, its revision if it has one, and its items. If the reply has
+// a cursor, only the items after the cursor.
 
 auto Shown(GetClipsCommandReply const& reply)
 {
@@ -148,7 +149,7 @@ GetPlaylistsCommandReply FullPlaylists(std::size_t const count = 2)
     return {Id('c'), Revision, std::move(playlists)};
 }
 
-/// A refused record without list has replaced the reply; an empty list counts as well.
+/// Checks that a rejected record without a list replaces the reply, and that an empty list is accepted.
 template<typename TConverters>
 void ExpectReplaced(typename TConverters::Wire const& wire, auto const& make, std::string const& failure,
                     auto const flag)
@@ -163,7 +164,7 @@ void ExpectReplaced(typename TConverters::Wire const& wire, auto const& make, st
     EXPECT_EQ(TConverters::Told(listed, reply), "");
 }
 
-TEST(QueryReplyConversion, RefusedRecordReplacesTheReplyAndAnEmptyListCounts)
+TEST(QueryReplyConversion, RejectedRecordReplacesTheReplyAndAnEmptyListIsAccepted)
 {
     ExpectReplaced<ClipsReply>(
         {}, [] { return FullClips(); }, "GetClipsCommandReply is empty", [](auto& isset) { isset.clips = true; });
@@ -178,7 +179,7 @@ TEST(QueryReplyConversion, RefusedRecordReplacesTheReplyAndAnEmptyListCounts)
         {}, [] { return FullPlaylists(); }, "GetPlaylistsCommandReply is empty",
         [](auto& isset) { isset.playlists = true; });
 
-    // A revision is taken even where it does not count, and that of trains without its flag.
+    // The revision of a rejected record is read, and that of trains regardless of its flag.
     Generated::GetClipsCommandReply clips;
     clips.__set_revision(Revision);
     clips.__isset.revision = true;
@@ -191,7 +192,7 @@ TEST(QueryReplyConversion, RefusedRecordReplacesTheReplyAndAnEmptyListCounts)
     EXPECT_EQ(TrainsReply::Received(trains, FullTrains()).dbRevision, Revision);
 }
 
-TEST(QueryReplyConversion, CursorsAreNeverRewound)
+TEST(QueryReplyConversion, CursorsAreNotRewound)
 {
     auto const clips = FullClips();
     ASSERT_TRUE(clips.MoveNext());
@@ -254,17 +255,17 @@ GetChannelsCommandReply FullChannels()
     return reply;
 }
 
-TEST(GetChannelsReplyConversion, NoFlagIsReadAndEntriesAreReplaced)
+TEST(GetChannelsReplyConversion, IgnoresFlagsAndReplacesEntries)
 {
     auto const wire = ChannelsReply::Sent(FullChannels());
     EXPECT_EQ(ChannelsReply::Received(WithoutFlags(wire)), FullChannels());
     auto other = FullChannels();
     std::swap(other.players.at(Id<ChannelGuid>('a')), other.players.at(Id<ChannelGuid>('b')));
     std::swap(other.recorders.at(Id<ChannelGuid>('a')), other.recorders.at(Id<ChannelGuid>('r')));
-    EXPECT_EQ(ChannelsReply::Sent(FullChannels(), ChannelsReply::Sent(other)), wire); // entries are replaced
+    EXPECT_EQ(ChannelsReply::Sent(FullChannels(), ChannelsReply::Sent(other)), wire); // existing entries are replaced
 }
 
-TEST(GetChannelsReplyConversion, LaterOfKeysThatBecomeOneChannelCountsAndStatesMayFail)
+TEST(GetChannelsReplyConversion, LastKeyOfAChannelIsKeptAndStatesMayFail)
 {
     auto wire = ChannelsReply::Sent(FullChannels());
     auto const longer = WireId(std::string(17, 'a'));

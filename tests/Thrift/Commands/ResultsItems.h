@@ -20,7 +20,7 @@ inline ItemStatus const Refused{ItemStatus::Status::Failed, ItemResult::UsedReso
 inline ItemStatus const Waiting{ItemStatus::Status::Pending, ItemResult::Unknown};
 inline ItemStatus const StartOfAnItem{ItemStatus::Status::Failed, ItemResult::DefaultError};
 
-/// The clip or the playlist that an item may hold.
+/// Returns the clip or the playlist of an item.
 auto& ContentOf(auto& item)
 {
     if constexpr (requires { item.clip; })
@@ -29,7 +29,7 @@ auto& ContentOf(auto& item)
         return item.playlist;
 }
 
-/// An item that holds a copy of the content, if there is one.
+/// Returns an item with a copy of the content, if given.
 template<typename TItem, typename... TContent>
 TItem SomeItem(ItemStatus const& status, TContent const&... content)
 {
@@ -39,7 +39,7 @@ TItem SomeItem(ItemStatus const& status, TContent const&... content)
     return item;
 }
 
-/// What an item holds, the content even where it does not count.
+/// Returns the status and the content of an item, regardless of the status.
 auto Shown(auto const& item) requires requires
 {
     item.OperationStatus();

@@ -39,7 +39,7 @@ auto const B = Id<ChannelGuid>('b');
 
 // The sets and the maps of all transport commands are converted by the same functions.
 
-TEST(ChannelSets, IdentifiersOfAWrongSizeMayBecomeTheSameAndThereIsNoLimit)
+TEST(ChannelSets, IdentifiersOfAWrongSizeMayBecomeEqualAndTheNumberIsUnlimited)
 {
     Generated::DialCommandParams wire;
     wire.__isset.players = true;
@@ -53,7 +53,7 @@ TEST(ChannelSets, IdentifiersOfAWrongSizeMayBecomeTheSameAndThereIsNoLimit)
     EXPECT_EQ(Dial::Received(wire).players.size(), 13u);
 }
 
-TEST(ChannelSetsAndMaps, AnyNumberOfChannelsGoesToNewAndToUsedRecords)
+TEST(ChannelSetsAndMaps, WriteAnyNumberOfChannelsToNewAndUsedRecords)
 {
     DialCommandParams dial;
     ChainCommandParams chain;
@@ -61,7 +61,7 @@ TEST(ChannelSetsAndMaps, AnyNumberOfChannelsGoesToNewAndToUsedRecords)
     Generated::ChainCommandParams usedChain;
     for (int serial = 0; serial < 300; ++serial)
     {
-        // In an order that is neither that of the hash nor that of the bytes, which are above 0x7f at times.
+        // The order is neither that of the hash nor that of the bytes. Some bytes are above 0x7f.
         ChannelGuid const channel(ChannelGuid::Type::ChannelGuidTypePlayer, serial % 7,
                                   static_cast<unsigned int>(serial) * 2654435761U);
         dial.players.insert(channel);
@@ -77,7 +77,7 @@ TEST(ChannelSetsAndMaps, AnyNumberOfChannelsGoesToNewAndToUsedRecords)
     }
 }
 
-TEST(ChannelMaps, EqualChannelIsReplacedGoingOutAndKeptComingIn)
+TEST(ChannelMaps, ExistingChannelIsReplacedWhenWrittenAndKeptWhenRead)
 {
     ChainCommandParams full;
     full.players = {{A, Id<ClipGuid>('x')}, {B, Id<ClipGuid>('y')}};
@@ -87,7 +87,8 @@ TEST(ChannelMaps, EqualChannelIsReplacedGoingOutAndKeptComingIn)
     EXPECT_EQ(Chain::Sent(full, Chain::Sent(swapped)), wire);
     EXPECT_EQ(Chain::Received(wire, swapped).players, swapped.players);
 
-    // Of keys that become the same channel the first counts, in the order of their bytes, the shorter first.
+    // Of the keys that become the same channel, the first in the order of bytes is kept. A shorter key precedes a
+    // longer one.
     auto const entries = wire.players;
     wire.players.clear();
     wire.players[WireId(std::string(17, 'a'))] = entries.at(WireId(std::string(16, 'b')));
@@ -99,7 +100,7 @@ TEST(ChannelMaps, EqualChannelIsReplacedGoingOutAndKeptComingIn)
     EXPECT_EQ(collapsed.at(A), full.players.at(A));
 }
 
-TEST(PlayConversion, SpeedTravelsAsAPairWithoutZeroAndComesInWithoutAZeroDenominator)
+TEST(PlayConversion, SpeedIsWrittenWithoutZerosAndReadWithoutAZeroDenominator)
 {
     auto const expectSpeed = [](std::int32_t const num, std::int32_t const den, bool const isSent)
     {
@@ -131,13 +132,13 @@ TEST(PlayConversion, SpeedTravelsAsAPairWithoutZeroAndComesInWithoutAZeroDenomin
         EXPECT_EQ(received.speedNumerator, expectedNum);
         EXPECT_EQ(received.speedDenominator, expectedDen);
     };
-    expectReceived(true, true, 4, 0, 0, 4); // a numerator of 0 is taken
+    expectReceived(true, true, 4, 0, 0, 4); // a numerator of 0 is accepted
     expectReceived(true, true, 0, 3, 0, 1);
     expectReceived(true, false, 4, 3, 0, 1);
     expectReceived(false, true, 4, 3, 0, 1);
 }
 
-TEST(BoundaryConversion, RefusedOnesAreNotLookedAtAndChangeNothing)
+TEST(BoundaryConversion, RejectedBoundariesAreIgnored)
 {
     SyncCommandParams sync;
     sync.inBoundary = Absolute;
@@ -154,7 +155,7 @@ TEST(BoundaryConversion, RefusedOnesAreNotLookedAtAndChangeNothing)
     EXPECT_EQ(Chain::Received(wireChain, chain), chain);
 }
 
-TEST(LiveConversion, WithoutPlayersTheIdentifierIsLostForANewOne)
+TEST(LiveConversion, WithoutPlayersANewIdentifierIsGenerated)
 {
     LiveCommandParams full;
     full.commandGuid = Id('c');
@@ -168,10 +169,10 @@ TEST(LiveConversion, WithoutPlayersTheIdentifierIsLostForANewOne)
     EXPECT_TRUE(first.players.empty());
 
     bare.__isset.players = true;
-    EXPECT_EQ(Live::Received(bare), full); // with players it stays, even without its flag
+    EXPECT_EQ(Live::Received(bare), full); // with players the identifier is read, regardless of its flag
 }
 
-// The inner flags of parameters, which bytes would set.
+// These tests clear flags inside the parameters, which values read from bytes would set.
 
 TEST(LoadClipsConversion, OnlyTheTimePointNeedsItsFlag)
 {
@@ -181,7 +182,7 @@ TEST(LoadClipsConversion, OnlyTheTimePointNeedsItsFlag)
     auto wire = LoadClips::Sent(full);
     auto& param = wire.playersParameters[WireId(std::string(16, 'a'))];
     param.__isset = {};
-    param.outBoundary = {}; // refused: a new one
+    param.outBoundary = {}; // rejected, and replaced by a new one
     full.playersParameters.at(A) = {Id<ClipGuid>('x'), TimePoint::Empty(), Absolute, Boundary()};
     EXPECT_EQ(LoadClips::Received(wire), full);
 }
@@ -208,7 +209,7 @@ TEST(SetLoadBoundariesConversion, BoundariesNeedNoFlags)
     auto wire = SetBoundaries::Sent(full);
     auto& param = wire.playersParameters[WireId(std::string(16, 'a'))];
     param.__isset = {};
-    param.outBoundary = {}; // refused: a new one
+    param.outBoundary = {}; // rejected, and replaced by a new one
     full.playersParameters.at(A).outBoundary = Boundary();
     EXPECT_EQ(SetBoundaries::Received(wire), full);
 }

@@ -17,7 +17,7 @@ WireStatus(Corvane::Data::Generated::OperationStatusStatus::type const value)
     return status;
 }
 
-/// A wire record whose own flags are clear, and its fields all there.
+/// Returns a wire record with its own flags cleared and its values kept.
 template<typename TWire>
 TWire WithoutFlags(TWire wire)
 {
