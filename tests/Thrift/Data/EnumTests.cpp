@@ -58,7 +58,7 @@ void AddEnumerator(Names& names)
     if (written[0] != '(') names.emplace(static_cast<int>(value), written.substr(written.rfind(':') + 1));
 }
 
-/// The enumerators from -1 to 40, and 65535.
+/// Returns the enumerators from -1 to 40, and 65535.
 template<typename TEnum>
 Names Enumerators()
 {
@@ -100,8 +100,9 @@ auto Converted(auto const value)
         return OperationStatusConverter::To(value);
 }
 
-/// Holds a table against the names of its wire enumeration: every name has the same name on the other side, there and back,
-/// and all other numbers go to 0. `domainNumbers` are those of the wire numbers, if they differ.
+/// Compares a table with the names of its wire enumeration. Every enumerator must convert to the one of the same name,
+/// in both directions, and all other numbers to 0. `domainNumbers` are the domain numbers by wire number, if they
+/// differ.
 template<typename TDomain>
 void ExpectTable(std::map<int, char const*> const& wireNames, std::vector<int> const& domainNumbers = {})
 {
@@ -121,7 +122,7 @@ void ExpectTable(std::map<int, char const*> const& wireNames, std::vector<int> c
     EXPECT_EQ(Enumerators<TDomain>(), names);
 
     std::vector<int> numbers{0xFFFE, 0xFFFF, 1 << 16, Least, Most};
-    for (int number = -1; number < 70; ++number) numbers.push_back(number); // each slot of a table twice, and more
+    for (int number = -1; number < 70; ++number) numbers.push_back(number); // each slot of a table at least twice
     for (auto const number : numbers)
     {
         EXPECT_TRUE(wireNames.contains(number) || toDomain(number) == 0) << number;
@@ -129,7 +130,7 @@ void ExpectTable(std::map<int, char const*> const& wireNames, std::vector<int> c
     }
 }
 
-TEST(EnumTables, EveryEnumeratorByNameThereAndBackAndAllOthersToZero)
+TEST(EnumTables, ConvertEnumeratorsByNameBothWaysAndOtherNumbersToZero)
 {
     using namespace Domain::Channels;
     using namespace Domain::Clips;
@@ -181,14 +182,14 @@ TEST(EnumTables, EveryEnumeratorByNameThereAndBackAndAllOthersToZero)
     ExpectTable<Domain::OperationStatus::Status>(Wire::_OperationStatusStatus_VALUES_TO_NAMES);
 }
 
-TEST(EnumNames, OfEnumerationsWithoutATable)
+TEST(EnumNames, HaveTheirNumbersInEnumerationsWithoutATable)
 {
     namespace Commands = Corvane::Zelmar::HighLevelOperations::Commands;
     namespace WireCommands = Thrift::Commands::Generated;
     using Corvane::Notification::ClipCreationEventArgs;
     using Domain::Channels::Boundary;
 
-    // The numbers of the wire.
+    // These have the numbers of the wire.
     EXPECT_EQ(Enumerators<Domain::Servers::ServerChassis>(),
               Copied(Thrift::Data::Servers::Generated::_ServerChassis_VALUES_TO_NAMES));
     EXPECT_EQ(Enumerators<Corvane::Multiviewer::ControlType>(), Copied(Wire::_ControlMode_VALUES_TO_NAMES));
@@ -198,7 +199,7 @@ TEST(EnumNames, OfEnumerationsWithoutATable)
     EXPECT_EQ(Enumerators<Commands::GetPlaylistsCommandParams::ElementMode>(),
               Copied(WireCommands::_ElementConversionMode_VALUES_TO_NAMES));
 
-    // Numbers of their own.
+    // The numbers of these are independent of the wire.
     EXPECT_EQ(Enumerators<Boundary::RelativeTo>(),
               NumberedFromZero({"RelativeToCorrespondingClipBoundary", "RelativeToOppositeClipBoundary",
                                 "RelativeToOppositeLoadBoundary"}));
@@ -229,7 +230,7 @@ constexpr Pair Numbers(std::int32_t const left, std::int32_t const right)
     return {static_cast<Left>(left), static_cast<Right>(right)};
 }
 
-/// Both directions are maps into which the pairs went in their order.
+/// Checks that both directions are equal to maps into which the pairs were inserted in order.
 void ExpectAsMaps(std::initializer_list<Pair> const pairs)
 {
     Association const association(pairs);
@@ -254,17 +255,17 @@ void ExpectAsMaps(std::initializer_list<Pair> const pairs)
     }
 }
 
-TEST(EnumTables, AnyListOfPairsMakesATable)
+TEST(EnumTables, AcceptAnyListOfPairs)
 {
     ExpectAsMaps({});
     ExpectAsMaps({Numbers(1, 0)});
     ExpectAsMaps({Numbers(0, 7), Numbers(7, 0)});
     ExpectAsMaps({Numbers(-1, -32), Numbers(Least, Most), Numbers(Most, -1), Numbers(-32, Least)});
-    // The first pair of a value stays, on either side and both, in its slot and in the memory of the others.
+    // The first pair of a repeated key is kept, in its slot or in the list of other keys, on either side or both.
     ExpectAsMaps({Numbers(0, 0), Numbers(0, 1)});
     ExpectAsMaps({Numbers(0, 1), Numbers(1, 1), Numbers(0, 1)});
     ExpectAsMaps({Numbers(1, 2), Numbers(33, 34), Numbers(33, 66), Numbers(65, 34), Numbers(1, 3), Numbers(4, 2)});
-    // Low five bits that are equal: with 0 last, which is also what a free slot holds, and with 1 in its place.
+    // Keys with equal low five bits, among them 0, which a free slot holds, and 1, which a free slot 0 holds.
     ExpectAsMaps({Numbers(32, 33), Numbers(64, 1), Numbers(0, 65), Numbers(1, 0)});
     ExpectAsMaps({Numbers(33, 64), Numbers(1, 32), Numbers(65, 0)});
 
@@ -276,7 +277,7 @@ TEST(EnumTables, AnyListOfPairsMakesATable)
     std::apply([](auto const&... pairs) { ExpectAsMaps({pairs...}); }, all); // more than there are slots
 }
 
-// As the tables are: nothing runs when the library is loaded, so other static initialisers may convert.
+// The tables are constants. No code runs when the library is loaded, so other static initialisers may convert.
 constexpr Association constant{Numbers(0, 0), Numbers(1, 33), Numbers(2, -1)};
 static_assert(constant.ToGeneratedEnum(static_cast<Left>(2)) == static_cast<Right>(-1));
 static_assert(constant.FromGeneratedEnum(static_cast<Right>(33)) == static_cast<Left>(1));

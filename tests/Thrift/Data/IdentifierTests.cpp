@@ -33,7 +33,7 @@ Guid Bytes(std::string const& bytes)
     return {reinterpret_cast<unsigned char const*>(bytes.data()), static_cast<unsigned int>(bytes.size())};
 }
 
-TEST(GuidConversion, OtherLengthsAreCutOrFilledAndAClearFlagIsEmpty)
+TEST(GuidConversion, OtherLengthsAreTruncatedOrFilledAndAClearFlagIsEmpty)
 {
     struct Row
     {
@@ -61,7 +61,7 @@ TEST(GuidConversion, WireOrderIsThatOfUnsignedBytes)
     EXPECT_EQ(told, "|a|ab|\x80|");
 }
 
-TEST(OperationStatusConversion, OneFieldTravelsAndTheOtherIsMadeUp)
+TEST(OperationStatusConversion, OneFieldIsWrittenAndTheOtherIsDerived)
 {
     struct Row
     {
@@ -85,18 +85,18 @@ TEST(OperationStatusConversion, OneFieldTravelsAndTheOtherIsMadeUp)
     }
 }
 
-TEST(OperationStatusConversion, StatusGoesBeforeResult)
+TEST(OperationStatusConversion, StatusTakesPrecedenceOverResult)
 {
     Wire::OperationStatus wire;
     OperationStatus const held{Status::Pending, OperationResult::UsedResource};
-    EXPECT_EQ(OfStatus::Received(wire, held), held); // neither flag: untouched
+    EXPECT_EQ(OfStatus::Received(wire, held), held); // neither flag is set: unchanged
 
     wire.__set_status(Wire::OperationStatusStatus::Failed);
     wire.__set_result(Wire::OperationResult::NotSupported);
     auto const status = OfStatus::Received(wire, held);
     EXPECT_EQ(status, (OperationStatus{Status::Failed, OperationResult::DefaultError}));
 
-    // A record that is used again keeps the field that is not chosen, and the reader takes the old status.
+    // A reused record keeps the field that is not written, so the reader reads the old status.
     wire = {};
     wire.__set_status(Wire::OperationStatusStatus::Succeeded);
     wire = OfStatus::Sent({Status::Failed, OperationResult::InvalidBound}, wire);
@@ -104,8 +104,8 @@ TEST(OperationStatusConversion, StatusGoesBeforeResult)
     EXPECT_EQ(OfStatus::Received(wire, status), (OperationStatus{Status::Succeeded, OperationResult::Success}));
 }
 
-// Whoever derives from a converter and replaces the const form changes the rvalue form as well.
-TEST(ConverterFrame, RvalueFormGoesThroughTheConstForm)
+// A derived converter that overrides the const form also changes the rvalue form.
+TEST(ConverterFrame, RvalueFormCallsTheConstForm)
 {
     struct Refusing : GuidToThriftConverter
     {

@@ -26,7 +26,7 @@ namespace Wire = Corvane::Data::Generated;
 using OfPlayer = Converters<FromPlayerDataOverrides, ToPlayerDataOverrides>;
 using OfMultiviewer = Converters<FromMultiviewerDataOverrides, ToMultiviewerDataOverrides>;
 
-TEST(PlayerDataOverridesConversion, ModesHaveTheNumbersOfTheWireAndUnknownOnesChangeNothingButTheFlag)
+TEST(PlayerDataOverridesConversion, ModesHaveTheNumbersOfTheWireAndUnknownNumbersChangeOnlyTheFlag)
 {
     for (auto const number : {0, 1, 2})
     {
@@ -54,11 +54,11 @@ TEST(PlayerDataOverridesConversion, ModesHaveTheNumbersOfTheWireAndUnknownOnesCh
         EXPECT_EQ(OfPlayer::Received(wire, FullOverrides('n')), FullOverrides('p'));
     }
     auto wire = OfPlayer::Sent(FullOverrides('p'));
-    wire.programMode = static_cast<Wire::ProgramMode::type>(2); // None of the other mode
+    wire.programMode = static_cast<Wire::ProgramMode::type>(2); // the number of None in the control mode, unknown here
     EXPECT_FALSE(OfPlayer::Received(wire).ProgramMode().HasValue());
 }
 
-TEST(PlayerDataOverridesConversion, PlayerIsReplacedEvenByNoneAndReservedValuesStay)
+TEST(PlayerDataOverridesConversion, PlayerIsReplacedEvenIfAbsentAndReservedValuesAreKept)
 {
     auto overrides = NoOverrides('p');
     overrides.reservedValueA = 1;
@@ -80,7 +80,7 @@ MultiviewerDataOverrides ThreePlayers()
     return multiviewer;
 }
 
-TEST(MultiviewerDataOverridesConversion, TheDestinationDecidesTheNumberOfPlayers)
+TEST(MultiviewerDataOverridesConversion, DestinationDecidesTheNumberOfPlayers)
 {
     auto const wire = OfMultiviewer::Sent(ThreePlayers());
     for (auto const count : {0u, 2u, 4u, 100'000u})

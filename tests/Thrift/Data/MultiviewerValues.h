@@ -6,7 +6,7 @@
 namespace Talvo::Tests
 {
 
-/// The entry of a player, whose identifier has no zero byte, without any override.
+/// Returns the entry of a player without overrides. Its identifier has no zero byte.
 inline Corvane::Multiviewer::PlayerDataOverrides NoOverrides(char const fill)
 {
     Corvane::Multiviewer::PlayerDataOverrides overrides;
@@ -14,7 +14,7 @@ inline Corvane::Multiviewer::PlayerDataOverrides NoOverrides(char const fill)
     return overrides;
 }
 
-/// All overrides, none of which is the value that a wire record starts with.
+/// Returns an entry with all overrides. None is equal to the initial value in a wire record.
 inline Corvane::Multiviewer::PlayerDataOverrides FullOverrides(char const fill)
 {
     using namespace Corvane::Multiviewer;

@@ -9,7 +9,7 @@
 namespace Talvo::Tests
 {
 
-/// An identifier of sixteen equal bytes.
+/// Returns an identifier of sixteen equal bytes.
 template<typename TGuid = Corvane::Data::Guid>
 TGuid Id(char const fill)
 {

@@ -24,7 +24,7 @@ using OnAir = Converters<PlayerClipOnAirToThriftConverter, ThriftToPlayerClipOnA
 using Player = Converters<PlayerStateToThriftConverter, ThriftToPlayerStateConverter>;
 using Recorder = Converters<RecorderStateToThriftConverter, ThriftToRecorderStateConverter>;
 
-// The same states without all that may stay off the wire.
+// Bare() returns a state without the fields that may be absent on the wire.
 
 PlayerClipOnAir Bare(PlayerClipOnAir clip)
 {
@@ -37,7 +37,7 @@ PlayerClipOnAir Bare(PlayerClipOnAir clip)
 PlayerState Bare(PlayerState state)
 {
     state.playoutConfig = PlayoutConfig::Undefined;
-    state.commonSpeedDenominator = 0; // half a speed is none
+    state.commonSpeedDenominator = 0; // a speed needs both halves
     state.curVideoSpeedNumerator = 0;
     state.pgmOnAir = Bare(state.pgmOnAir);
     state.previewOnAir = Bare(state.previewOnAir);
@@ -51,7 +51,7 @@ PlayerState Bare(PlayerState state)
     return state;
 }
 
-TEST(PlayerClipOnAirConversion, ClipReplacesAndABadOneLeavesTheDestination)
+TEST(PlayerClipOnAirConversion, ClipReplacesTheDestinationAndABadClipKeepsIt)
 {
     Generated::PlayerClipOnAir wire;
     wire.__isset.clipOnAir = true;
@@ -70,7 +70,7 @@ TEST(PlayerClipOnAirConversion, ClipReplacesAndABadOneLeavesTheDestination)
     EXPECT_EQ(clip, expected);
 }
 
-TEST(PlayerStateConversion, ASpeedTravelsAsAPair)
+TEST(PlayerStateConversion, SpeedIsWrittenOnlyAsAPair)
 {
     auto state = Bare(FullPlayerState()); // one half of each speed is 0
     for (auto const half : {0, 1})
@@ -83,7 +83,7 @@ TEST(PlayerStateConversion, ASpeedTravelsAsAPair)
     }
 }
 
-TEST(ChannelStateConversion, ANumberWithoutCounterpartIsThereAndZero)
+TEST(ChannelStateConversion, UnknownNumberIsWrittenAsZero)
 {
     PlayerState player;
     player.playoutConfig = static_cast<PlayoutConfig>(99);
@@ -99,7 +99,7 @@ TEST(ChannelStateConversion, ANumberWithoutCounterpartIsThereAndZero)
     EXPECT_TRUE(Recorder::Sent(recorder).__isset.primaryTimecodeType);
 }
 
-TEST(PlayerStateConversion, InfoOnAirOverwritesWhateverItsFlagsSay)
+TEST(PlayerStateConversion, InfoOnAirOverwritesRegardlessOfItsFlags)
 {
     Generated::PlayerState wire;
     wire.__isset.infoOnAir = true;
@@ -109,7 +109,7 @@ TEST(PlayerStateConversion, InfoOnAirOverwritesWhateverItsFlagsSay)
     info.commonSpeedNumerator = info.curVideoSpeedDenominator = 9;
     info.audioPgmInstructionDecSpeedD = -0x10003;
     info.limitUserOut = 77;
-    info.__isset.commonSpeedDenominator = info.__isset.curVideoSpeedNumerator = true; // half a speed is none
+    info.__isset.commonSpeedDenominator = info.__isset.curVideoSpeedNumerator = true; // one half of a speed is ignored
 
     auto expected = FullPlayerState();
     expected.onAirStatus = PlayerModeStatus::Idle;
@@ -123,17 +123,17 @@ TEST(PlayerStateConversion, InfoOnAirOverwritesWhateverItsFlagsSay)
     EXPECT_EQ(Player::Received(wire, FullPlayerState()), expected);
 
     info.__isset = {};
-    info.__isset.commonSpeedNumerator = info.__isset.curVideoSpeedDenominator = true; // nor is the other half
+    info.__isset.commonSpeedNumerator = info.__isset.curVideoSpeedDenominator = true; // and so is the other half
     EXPECT_EQ(Player::Received(wire, FullPlayerState()), expected);
 
     info.__isset.commonSpeedDenominator = info.__isset.playoutConfig = true;
     expected.commonSpeedNumerator = 9;
-    expected.commonSpeedDenominator = 0; // a 0 on the wire is taken
+    expected.commonSpeedDenominator = 0; // a 0 on the wire is accepted
     expected.playoutConfig = PlayoutConfig::Mix;
     EXPECT_EQ(Player::Received(wire, FullPlayerState()), expected);
 }
 
-TEST(PlayerStateConversion, ARefusedBoundaryReplacesByANewOne)
+TEST(PlayerStateConversion, RejectedBoundaryIsReplacedByANewOne)
 {
     Generated::PlayerState wire;
     wire.__isset.inBoundary = wire.__isset.outBoundary = true;
@@ -144,16 +144,16 @@ TEST(PlayerStateConversion, ARefusedBoundaryReplacesByANewOne)
     EXPECT_EQ(Player::Told(wire, state), "PlayerState is empty");
     EXPECT_EQ(state, expected);
 
-    wire.__isset.globalLoopMode = true; // something that counts, of an unknown number
+    wire.__isset.globalLoopMode = true; // a field that counts, with an unknown number
     wire.globalLoopMode = static_cast<Generated::PlayingLoopMode::type>(4);
     expected.globalLoopMode = PlayingLoopMode::Unknown;
     EXPECT_EQ(Player::Received(wire, FullPlayerState()), expected);
 }
 
-TEST(PlayerStateConversion, ABadClipStopsTheConversion)
+TEST(PlayerStateConversion, BadClipStopsTheConversion)
 {
     auto wire = Player::Sent(FullPlayerState());
-    auto const before = Bare(FullPlayerState()); // all before the clips equals what is sent, but for the two speeds
+    auto const before = Bare(FullPlayerState()); // equal to the sent state before the clips, except the speeds
     for (bool const inPreview : {false, true})
     {
         auto expected = before;
@@ -169,7 +169,7 @@ TEST(PlayerStateConversion, ABadClipStopsTheConversion)
     }
 }
 
-TEST(RecorderStateConversion, RemainingNeverEndsAboveTotal)
+TEST(RecorderStateConversion, RemainingIsAtMostTotal)
 {
     constexpr std::int64_t Absent = -99;
     struct Row
@@ -183,8 +183,8 @@ TEST(RecorderStateConversion, RemainingNeverEndsAboveTotal)
         {"remaining below total leaves it", 30, Absent, 30, 100},
         {"total lowers remaining", Absent, 30, 30, 30},
         {"total above remaining leaves it", Absent, 50, 40, 50},
-        {"of both, total decides", 150, 100, 100, 100},
-        {"also upwards", 20, 300, 20, 300},
+        {"with both, total decides", 150, 100, 100, 100},
+        {"with both, total decides upwards too", 20, 300, 20, 300},
         {"high word of remaining is lost before the clamp", 0x100000000, Absent, 0, 100},
         {"high word of total is lost before the clamp", Absent, 0x100000000, 0, 0},
         {"remaining is unsigned", -1, Absent, 0xFFFFFFFF, 0xFFFFFFFF},
@@ -207,7 +207,7 @@ TEST(RecorderStateConversion, RemainingNeverEndsAboveTotal)
     }
 }
 
-TEST(RecorderStateConversion, TrainReplacesAndABadOneLeavesTheDestinationsTrain)
+TEST(RecorderStateConversion, TrainReplacesTheDestinationAndABadTrainKeepsIt)
 {
     Generated::RecorderState wire;
     auto state = FullRecorderState();
@@ -230,7 +230,7 @@ TEST(RecorderStateConversion, TrainReplacesAndABadOneLeavesTheDestinationsTrain)
     EXPECT_EQ(state, expected);
 }
 
-TEST(ChannelStateConversion, BadTimeCodesAreSkippedYetSeen)
+TEST(ChannelStateConversion, BadTimeCodesAreSkippedButCountAsFields)
 {
     for (auto const* const bad : {"", "noon", "2023-02-29T00:00:00:00@50", "00:00:00:00@99999999999"})
     {
@@ -254,7 +254,7 @@ TEST(ChannelStateConversion, BadTimeCodesAreSkippedYetSeen)
     }
 }
 
-TEST(ChannelStateConversion, NamesAreCutAndHighWordsAreLost)
+TEST(ChannelStateConversion, NamesAreTruncatedAndHighWordsAreLost)
 {
     auto const expect = []<typename TConverters>(TConverters)
     {

@@ -29,7 +29,7 @@ TEST(LoadBoundaryConversion, ReusedWireRecordKeepsTheOtherMember)
     auto const& specialized = wire.specializedLoadBoundary;
     EXPECT_TRUE(specialized.__isset.absoluteLoadBoundary && specialized.__isset.relativeLoadBoundary);
     EXPECT_EQ(specialized.relativeLoadBoundary.fieldCount, 6);
-    EXPECT_EQ(wire.type, LoadBoundaryType::Absolute); // an unknown reference leaves it
+    EXPECT_EQ(wire.type, LoadBoundaryType::Absolute); // an unknown reference keeps the type
 
     auto const absolute = OfBoundary::Received(wire, Before);
     EXPECT_EQ(absolute, Boundary::AbsoluteBoundary({5}));
@@ -52,7 +52,7 @@ TEST(LoadBoundaryConversion, TypeDecidesWhichMemberIsNeeded)
         bool hasAbsolute;
         bool hasRelative;
         std::int64_t fieldCount;
-        Boundary expected; ///< `Before` where it is refused.
+        Boundary expected; ///< `Before` if the record is rejected.
     };
     Row const rows[] = {
         {"absolute without its member", 0, false, true, 4, Before},
@@ -78,7 +78,7 @@ TEST(LoadBoundaryConversion, TypeDecidesWhichMemberIsNeeded)
         wire.type = static_cast<LoadBoundaryType::type>(row.type);
         wire.__isset.type = wire.__isset.specializedLoadBoundary = true;
         auto& specialized = wire.specializedLoadBoundary;
-        specialized.absoluteLoadBoundary.timepoint = 3; // the flags inside the members are clear, and not looked at
+        specialized.absoluteLoadBoundary.timepoint = 3; // the flags inside the members are ignored
         specialized.relativeLoadBoundary.fieldCount = row.fieldCount;
         specialized.__isset.absoluteLoadBoundary = row.hasAbsolute;
         specialized.__isset.relativeLoadBoundary = row.hasRelative;

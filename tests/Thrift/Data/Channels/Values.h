@@ -7,8 +7,8 @@
 namespace Talvo::Tests
 {
 
-/// A full clip that comes back equal from a record around it, which reads it into a new clip (that is Pal, and so takes no
-/// `isLegacyTimecodeDrop`).
+/// Returns a full clip that is unchanged by a round trip inside another record. That reads it into a new clip, which is
+/// Pal and ignores `isLegacyTimecodeDrop`.
 inline Corvane::Data::Clips::Clip NestedClip()
 {
     auto clip = FullClip();
@@ -25,7 +25,7 @@ inline Corvane::Data::Channels::PlayerClipOnAir FullClipOnAir()
             ParsedTimeCode("2000-01-01T10:00:05;10@30")};
 }
 
-/// A player in which no field holds its default, and no two fields of one type the same value.
+/// Returns a player in which no field has its default and no two fields of one type have equal values.
 inline Corvane::Data::Channels::PlayerState FullPlayerState()
 {
     using namespace Corvane::Data::Channels;
@@ -74,7 +74,7 @@ inline Corvane::Data::Channels::PlayerState FullPlayerState()
     return state;
 }
 
-/// A recorder of the same kind.
+/// Returns a recorder in which no field has its default and no two fields of one type have equal values.
 inline Corvane::Data::Channels::RecorderState FullRecorderState()
 {
     using namespace Corvane::Data::Channels;

@@ -28,7 +28,7 @@ std::string Text(auto const& payload)
     return {payload.begin(), payload.end()};
 }
 
-TEST(ClipConversion, ReservedFieldsStayInTheProcess)
+TEST(ClipConversion, ReservedFieldsAreNeitherWrittenNorRead)
 {
     Clip clip;
     clip.reservedName.isUtf16 = true;
@@ -38,7 +38,7 @@ TEST(ClipConversion, ReservedFieldsStayInTheProcess)
     EXPECT_EQ(OfClip::Received(OfClip::Sent(Clip()), clip), clip);
 }
 
-TEST(ClipConversion, AbsentIsWhatTheDomainSaysAndANumberWithoutCounterpartIsThereAndZero)
+TEST(ClipConversion, EmptyValuesAreAbsentAndUnknownNumbersAreZero)
 {
     Clip clip;
     clip.hdrProfile = Corvane::Data::Clips::HdrProfile::Unknown;
@@ -64,14 +64,14 @@ TEST(ClipConversion, AbsentIsWhatTheDomainSaysAndANumberWithoutCounterpartIsTher
                 isset.primaryTimecode && isset.rating && isset.preferentialCamera);
 }
 
-TEST(ClipConversion, TextsAreCutPaddedAndEndedAsTheirSlotsSay)
+TEST(ClipConversion, TextsAreTruncatedPaddedAndTerminatedPerSlot)
 {
     Generated::Clip wire;
     wire.__set_umId("TWELVE CHARS");
     wire.__set_sourceUmId("");
     wire.__set_materialId(std::string("A\0B", 3));
     wire.name.data = std::string("\x41\x00\x42", 3);
-    wire.name.isUtf16 = true; // the inner flags are clear, and not looked at
+    wire.name.isUtf16 = true; // the flags inside the text are ignored
     wire.varId.data = std::string(33, 'v');
     wire.__isset.umId = wire.__isset.sourceUmId = wire.__isset.materialId = true;
     wire.__isset.name = wire.__isset.varId = true;
@@ -95,7 +95,7 @@ TEST(ClipConversion, TextsAreCutPaddedAndEndedAsTheirSlotsSay)
     EXPECT_TRUE(again.name.isUtf16 && again.name.__isset.data && again.name.__isset.isUtf16);
 }
 
-TEST(ClipConversion, ListsPatchTheSlotsThatTheyReach)
+TEST(ClipConversion, ListsReplaceOnlyAsManySlotsAsTheyHaveElements)
 {
     Generated::Clip wire;
     wire.__isset.keywords = wire.__isset.userBits = true;
@@ -120,11 +120,11 @@ TEST(ClipConversion, ListsPatchTheSlotsThatTheyReach)
     EXPECT_THAT(OfClip::Sent(many).userBits, testing::AllOf(testing::SizeIs(8), Each(255)));
 }
 
-TEST(ClipConversion, LegacyDropIsTakenOnlyByAClipThatIsNtscBefore)
+TEST(ClipConversion, LegacyDropIsReadOnlyIntoAClipThatIsAlreadyNtsc)
 {
     Generated::Clip wire;
     wire.__isset.isLegacyTimecodeDrop = wire.isLegacyTimecodeDrop = true;
-    EXPECT_EQ(OfClip::Received(wire), Clip()); // dropped, yet it counts as a field
+    EXPECT_EQ(OfClip::Received(wire), Clip()); // dropped, but the record is not empty
 
     wire.__isset.videoStandard = true;
     wire.videoStandard = Generated::VideoStandard::Ntsc;
@@ -133,7 +133,7 @@ TEST(ClipConversion, LegacyDropIsTakenOnlyByAClipThatIsNtscBefore)
     EXPECT_TRUE(OfClip::Received(wire, NtscClip()).isLegacyTimecodeDrop);
 }
 
-TEST(ClipConversion, EmptyWhenNothingCounts)
+TEST(ClipConversion, IsEmptyWithoutAFieldThatCounts)
 {
     Generated::Clip wire;
     auto const expectEmpty = [&wire]
@@ -167,10 +167,10 @@ TEST(ClipConversion, TimeCodeOfAnotherRateStopsTheConversion)
         (wire.*set)("2024-02-29T12:00:00:00@25");
         auto clip = NtscClip();
         EXPECT_EQ(OfClip::Told(wire, clip), message);
-        EXPECT_EQ(clip.dolbyMonoSignal, 2);                               // before it: applied
-        EXPECT_EQ(clip.inBoundTimepoint, TimePoints::TimePoint::Empty()); // behind it: not
+        EXPECT_EQ(clip.dolbyMonoSignal, 2);                               // applied before the time code
+        EXPECT_EQ(clip.inBoundTimepoint, TimePoints::TimePoint::Empty()); // not applied after it
         EXPECT_EQ(clip.InBoundUserTimecode(), Clip::DefaultTimecode());
-        wire.videoStandard = Generated::VideoStandard::Pal; // the standard of the same record decides
+        wire.videoStandard = Generated::VideoStandard::Pal; // the standard in the same record applies
         (wire.*set)("2024-02-29T12:00:00;00@30");
         EXPECT_FALSE(OfClip::Told(wire, clip).empty());
     }

@@ -33,11 +33,11 @@ Groups::AnglesGroup FullGroup()
     group.AddAngle(Camera::Z, Id<Clips::Guid>('z'), PreferentialCamera::Primary);
     group.AddAngle(Camera::B, Id<Clips::Guid>('b'), PreferentialCamera::Secondary);
     group.AddAngle(Camera::A, Id<Clips::Guid>('a'), PreferentialCamera::None);
-    group.AddAngle(Camera::C, Clips::Guid(), PreferentialCamera::None); // no clip, but not the empty angle
+    group.AddAngle(Camera::C, Clips::Guid(), PreferentialCamera::None); // has no clip, but is not the empty angle
     return group;
 }
 
-/// What a group sends: camera, first byte of the identifier and mark of each item.
+/// Returns the written items of a group: camera, first byte of the identifier and mark of each.
 std::string SentItems(Groups::AnglesGroup const& group)
 {
     WireGroups::AnglesGroup wire;
@@ -50,16 +50,16 @@ std::string SentItems(Groups::AnglesGroup const& group)
     return told;
 }
 
-TEST(AnglesGroupConversion, SendsOneItemACameraInTheOrderOfCameras)
+TEST(AnglesGroupConversion, WritesOneItemPerCameraInTheOrderOfCameras)
 {
     using namespace std::string_literals;
     auto group = FullGroup();
     EXPECT_EQ(SentItems(group), "1a0 2b2 3\0000 15z1 "s);
 
-    // What only slots that are filled by hand can hold.
-    group.angleSlots[3] = {false, Camera::NotSet, Clips::Guid(), PreferentialCamera::None}; // the empty angle: not sent
+    // AddAngle() never sets these contents of slots.
+    group.angleSlots[3] = {false, Camera::NotSet, Clips::Guid(), PreferentialCamera::None}; // the empty angle: ignored
     group.angleSlots[4] = {false, Camera::NotSet, Id<Clips::Guid>('n'), PreferentialCamera::None};
-    group.angleSlots[5] = {false, Camera::Z, Id<Clips::Guid>('y'), PreferentialCamera::None}; // the later wins
+    group.angleSlots[5] = {false, Camera::Z, Id<Clips::Guid>('y'), PreferentialCamera::None}; // replaces primary Z
     EXPECT_EQ(SentItems(group), "0n0 1a0 2b2 3\0000 15y0 "s);
 }
 
@@ -68,7 +68,7 @@ RecordingRange FullRange()
     return {{1}, {-2}, ParsedTimeCode("2001-01-01T01:02:03:04@25"), ParsedTimeCode("2001-01-01T01:02:59;29@30")};
 }
 
-TEST(RecordingRangeConversion, IncompleteOrBadRangesLeaveTheDestination)
+TEST(RecordingRangeConversion, IncompleteOrBadRangesKeepTheDestination)
 {
     auto const full = OfRange::Sent(FullRange());
     auto const expectRefused = [](Generated::RecordingRange const& wire, char const* const message)
@@ -80,7 +80,7 @@ TEST(RecordingRangeConversion, IncompleteOrBadRangesLeaveTheDestination)
 
     auto incomplete = full;
     incomplete.__isset.outBoundTimecode = false;
-    incomplete.inBoundTimecode = "bad"; // completeness is judged first
+    incomplete.inBoundTimecode = "bad"; // missing fields are reported first
     expectRefused(incomplete, "RecordingRange is empty");
     for (auto const* const bad : {"", "noon", "2001-02-29T00:00:00:00@25", "2001-01-01T00:00:00:00@99999999999"})
     {
@@ -107,7 +107,7 @@ Train EmptyTrain()
     return {nullptr, {}, false, false, TimeCode(TimeCode::Empty())};
 }
 
-TEST(TrainConversion, BadRangesAndABadLastTimeCodeAreNoFailure)
+TEST(TrainConversion, BadRangesAndABadLastTimeCodeDoNotFail)
 {
     auto wire = OfTrain::Sent(FullTrain());
     wire.recordingRanges[0].inBoundTimecode = "noon";
@@ -118,7 +118,7 @@ TEST(TrainConversion, BadRangesAndABadLastTimeCodeAreNoFailure)
     EXPECT_EQ(train.lastKnownTimeCode, TimeCode::Empty());
 }
 
-TEST(TrainConversion, RefusedRecordEmptiesTheDestination)
+TEST(TrainConversion, RejectedRecordClearsTheDestination)
 {
     auto wire = OfTrain::Sent(FullTrain());
     wire.__isset = {}; // the flags decide, not the values
@@ -130,7 +130,7 @@ TEST(TrainConversion, RefusedRecordEmptiesTheDestination)
     EXPECT_EQ(train.lastKnownTimeCode, TimeCode::Empty());
 }
 
-TEST(TrainConversion, BadClipLeavesTheDestination)
+TEST(TrainConversion, BadClipKeepsTheDestination)
 {
     Generated::Train wire;
     wire.__isset.trainData = wire.__isset.isInMoving = true;

@@ -21,7 +21,7 @@ void SetText(Text& slot, std::string_view const text)
     std::copy(text.begin(), text.end(), slot.begin());
 }
 
-/// An essence in which no field holds what Clear() leaves.
+/// Returns an essence in which no field has the value that Clear() sets.
 inline Corvane::Data::Clips::Clip::Essence FullEssence(Corvane::Data::Clips::Essences::Type const type)
 {
     using namespace Corvane::Data::Clips::Essences;
@@ -43,7 +43,7 @@ inline Corvane::Data::Clips::Clip::Essence FullEssence(Corvane::Data::Clips::Ess
     return essence;
 }
 
-/// A clip in which no field that travels holds its default, and every text fills its slot without a zero.
+/// Returns a clip in which no written field has its default and every text fills its slot without a zero.
 inline Corvane::Data::Clips::Clip FullClip()
 {
     using namespace Corvane::Data::Clips;
@@ -101,7 +101,7 @@ inline Corvane::Data::Clips::Clip FullClip()
     return clip;
 }
 
-/// What reading FullClip() starts from: `isLegacyTimecodeDrop` is taken only by a clip that is Ntsc already.
+/// Returns the destination for reading FullClip(). Only a clip that is already Ntsc accepts `isLegacyTimecodeDrop`.
 inline Corvane::Data::Clips::Clip NtscClip()
 {
     Corvane::Data::Clips::Clip clip;

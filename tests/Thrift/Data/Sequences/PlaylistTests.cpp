@@ -29,7 +29,7 @@ using OfAudioVideoElement = Converters<AudioVideoElementToThriftConverter, Thrif
 using OfTrack = Converters<AudioVideoTrackToThriftConverter, ThriftToAudioVideoTrackConverter>;
 using OfPlaylist = Converters<PlaylistToThriftConverter, ThriftToPlaylistConverter>;
 
-/// What of FullElement() is applied before its tags, and these tags.
+/// Returns the fields of FullElement() that are applied before its tags, with `tags`.
 Element UpToTags(std::vector<Tag> tags)
 {
     Element element = FullElement();
@@ -40,7 +40,7 @@ Element UpToTags(std::vector<Tag> tags)
     return element;
 }
 
-TEST(ElementConversion, InnerFlagsOfTheSpeedAreNotLookedAt)
+TEST(ElementConversion, FlagsInsideTheSpeedAreIgnored)
 {
     Generated::Element wire;
     wire.speed.numerator = 3;
@@ -66,7 +66,7 @@ TEST(ElementConversion, SequenceIdIsReplaced)
     EXPECT_EQ(OfElement::Received(wire, element).sequenceId, SequenceId(ServerId::None(), 7));
 }
 
-TEST(ElementConversion, TypeOfATagIsTakenWithoutItsFlag)
+TEST(ElementConversion, TypeOfATagIsReadRegardlessOfItsFlag)
 {
     auto wire = OfElement::Sent(FullElement());
     wire.tags[1].__isset.commandType = false;
@@ -89,7 +89,7 @@ TEST(ElementConversion, BadTagStopsTheConversion)
     }
 }
 
-TEST(ElementConversion, MillionTagsGrowTheListsByFactors)
+TEST(ElementConversion, AppendedTagsGrowTheListsGeometrically)
 {
     Element thousand;
     for (auto id = 0; id < 1000; ++id) thousand.tags.emplace_back(Tag::CommandType::GpiOut).id = id;
@@ -113,7 +113,7 @@ TEST(ElementConversion, MillionTagsGrowTheListsByFactors)
     EXPECT_EQ(element.tags.back(), thousand.tags.back());
 }
 
-TEST(AudioVideoElementConversion, FailureOfTheElementIsSwallowed)
+TEST(AudioVideoElementConversion, FailureOfTheElementIsDropped)
 {
     auto wire = OfAudioVideoElement::Sent(FullElement());
     wire.element.tags[1].__isset = {};
@@ -133,7 +133,7 @@ TEST(AudioVideoElementConversion, FailureOfTheElementIsSwallowed)
     EXPECT_EQ(OfAudioVideoElement::Told(Generated::AudioVideoElement(), other), "AudioVideoElement is empty");
 }
 
-TEST(TrackConversion, ElementsTravelOrTheirNumber)
+TEST(TrackConversion, WritesEitherElementsOrTheirNumber)
 {
     Generated::AudioVideoTrack wire;
     auto const expectSent = [&wire](AudioVideoTrack const& track, bool const isNumber, std::size_t const size)
@@ -144,15 +144,15 @@ TEST(TrackConversion, ElementsTravelOrTheirNumber)
         EXPECT_THAT(wire.elements, SizeIs(size));
     };
     expectSent({0, {}}, false, 0);
-    expectSent({5, {AudioVideoElement(), FullElement()}}, false, 2); // the number stays in the process
+    expectSent({5, {AudioVideoElement(), FullElement()}}, false, 2); // the number is not written
     EXPECT_EQ(wire.numberOfElements, 0);
-    expectSent({7, {}}, true, 2); // a used record keeps what does not travel, and is appended to
+    expectSent({7, {}}, true, 2); // a used record keeps elements that are not written, and more are appended
     EXPECT_EQ(wire.numberOfElements, 7);
     expectSent({0, {FullElement()}}, false, 3);
     EXPECT_EQ(wire.elements[1], wire.elements[2]);
 }
 
-TEST(TrackConversion, ReadingAppendsElementsOrTakesTheNumber)
+TEST(TrackConversion, ReadingAppendsElementsOrSetsTheNumber)
 {
     Generated::AudioVideoTrack wire;
     wire.elements = {OfAudioVideoElement::Sent(FullElement())};
@@ -160,7 +160,7 @@ TEST(TrackConversion, ReadingAppendsElementsOrTakesTheNumber)
     AudioVideoTrack const held{9, {AudioVideoElement()}};
     auto const expectRead = [&](AudioVideoTrack const& expected)
     { EXPECT_EQ(OfTrack::Received(wire, held), expected); };
-    expectRead(held); // neither flag
+    expectRead(held); // neither flag is set
     wire.__isset.numberOfElements = true;
     expectRead({5, {}});
     wire.__isset.elements = true;
@@ -180,7 +180,7 @@ TEST(TrackConversion, BadElementStopsTheConversion)
     EXPECT_EQ(track, (AudioVideoTrack{9, {AudioVideoElement(), FullElement()}}));
 }
 
-TEST(PlaylistConversion, FailuresOfThePartsAreSwallowed)
+TEST(PlaylistConversion, FailuresOfThePartsAreDropped)
 {
     auto wire = OfPlaylist::Sent(FullPlaylist());
     wire.audioVideoTrack.elements.insert(wire.audioVideoTrack.elements.begin() + 1, Generated::AudioVideoElement());
@@ -190,7 +190,7 @@ TEST(PlaylistConversion, FailuresOfThePartsAreSwallowed)
     playlist.audioVideoTrack = {5, {AudioVideoElement(), AudioVideoElement()}};
     playlist = OfPlaylist::Received(wire, playlist);
     auto expected = FullPlaylist();
-    expected.audioVideoTrack = {0, {FullElement()}}; // replaced by what it reached
+    expected.audioVideoTrack = {0, {FullElement()}}; // replaced by the elements before the bad one
     expected.playRate = Playlist().playRate;
     expected.isFixedDuration = Playlist().isFixedDuration;
     expected.archiveStatus = Playlist().archiveStatus;

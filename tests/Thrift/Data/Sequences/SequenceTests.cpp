@@ -37,23 +37,23 @@ std::string Text(auto const& payload)
     return {payload.begin(), payload.end()};
 }
 
-TEST(SequenceConversion, PlayRateGoesByItsNumeratorAlone)
+TEST(SequenceConversion, PlayRateDependsOnlyOnTheNumeratorUnlessTheDenominatorIsOne)
 {
     struct Row
     {
         std::int64_t numerator;
         std::int64_t denominator;
-        VideoRate taken; // {0, 0}: refused
+        VideoRate taken; // {0, 0} if rejected
     };
     constexpr VideoRate refused{0, 0};
     for (auto const& [numerator, denominator, taken] : {
-             Row{25, 1, {25, 1}}, // over 1: no check at all
+             Row{25, 1, {25, 1}}, // a denominator of 1 is not checked
              Row{0, 1, {0, 1}},
              Row{-50, 1, {-50, 1}},
              Row{Max64, 1, {Max64, 1}},
              Row{Min64, 1, {Min64, 1}},
              Row{30000, 1, {30000, 1}},
-             Row{24000, 7, {24000, 1001}}, // a standard rate: over 1001 whatever was sent
+             Row{24000, 7, {24000, 1001}}, // a standard rate gets the denominator 1001
              Row{30000, 1002, {30000, 1001}},
              Row{48000, 0, {48000, 1001}},
              Row{60000, -1001, {60000, 1001}},
@@ -62,7 +62,7 @@ TEST(SequenceConversion, PlayRateGoesByItsNumeratorAlone)
              Row{25000, 3, refused},
              Row{0, 0, refused},
              Row{-30000, 1001, refused},
-             Row{30000 + (std::int64_t{1} << 32), 1001, refused}, // no low word
+             Row{30000 + (std::int64_t{1} << 32), 1001, refused}, // not truncated to the low word
              Row{Min64, -1, refused},
              Row{Max64, Min64, refused},
          })
@@ -78,7 +78,7 @@ TEST(SequenceConversion, PlayRateGoesByItsNumeratorAlone)
             EXPECT_EQ(told, "");
             expected.playRate = taken;
         }
-        else // what stands before it is applied, what stands behind it is not
+        else // fields before the rate are applied, and fields after it are not
         {
             EXPECT_EQ(told, "Invalid sequence rate " + std::to_string(numerator) + ":" + std::to_string(denominator));
             expected.playRate = Sequence().playRate;
@@ -89,9 +89,9 @@ TEST(SequenceConversion, PlayRateGoesByItsNumeratorAlone)
     }
 }
 
-TEST(SequenceConversion, TextThatIsNoTimeCodeStopsTheConversion)
+TEST(SequenceConversion, MalformedTimeCodeStopsTheConversion)
 {
-    auto const expected = [] // what stands before the time code
+    auto const expected = [] // the fields before the time code
     {
         auto sequence = Sequence();
         auto const full = FullSequence();
@@ -115,7 +115,7 @@ TEST(SequenceConversion, TextThatIsNoTimeCodeStopsTheConversion)
         EXPECT_EQ(sequence, expected);
     }
 
-    // An undated time code goes out as a text that can't be read again.
+    // An undated time code is written as a text that can't be parsed.
     auto undated = FullSequence();
     undated.timeCodeRegenReference = ParsedTimeCode("10:11:12:13@25");
     Sequence sequence;
@@ -126,7 +126,7 @@ TEST(SequenceConversion, TextThatIsNoTimeCodeStopsTheConversion)
     EXPECT_EQ(sequence, expected);
 }
 
-TEST(SequenceConversion, ArchiveStatusComesBeforeTheEmptyTest)
+TEST(SequenceConversion, ArchiveStatusAloneIsNotEmpty)
 {
     Generated::Sequence wire;
     wire.archiveStatus = static_cast<WireArchiveStatus::type>(99);
@@ -136,11 +136,11 @@ TEST(SequenceConversion, ArchiveStatusComesBeforeTheEmptyTest)
     EXPECT_EQ(OfSequence::Received(wire, FullSequence()), expected);
 }
 
-TEST(SequenceConversion, TextsAreCutAndFilledWithZeros)
+TEST(SequenceConversion, TextsAreTruncatedAndFilledWithZeros)
 {
     using namespace std::string_literals;
     Generated::Sequence wire;
-    wire.__isset.id = wire.__isset.umId = wire.__isset.varId = wire.__isset.name = true; // all inner flags are clear
+    wire.__isset.id = wire.__isset.umId = wire.__isset.varId = wire.__isset.name = true; // the inner flags are clear
     wire.umId = "TWELVE CHARS";
     wire.varId.data = "\x3D\xD8\x00"s; // a UTF-16 unit and a half
     wire.varId.isUtf16 = true;
@@ -157,7 +157,7 @@ TEST(SequenceConversion, TextsAreCutAndFilledWithZeros)
     EXPECT_EQ(again.name.data, wire.name.data.substr(0, 24));
     EXPECT_TRUE(again.varId.isUtf16 && again.varId.__isset.data && again.varId.__isset.isUtf16);
 
-    wire.varId.data = std::string(31, 'v') + "wx"; // an odd start: the cut falls inside a unit
+    wire.varId.data = std::string(31, 'v') + "wx"; // an odd start, so that the text is cut inside a unit
     wire.name.data = "";
     wire.umId = "A\0B"s;
     sequence = OfSequence::Received(wire, sequence);

@@ -37,7 +37,7 @@ Generated::TagProperty WireProperty(std::vector<int> const& value)
     return property;
 }
 
-/// The properties of a tag that are under a key each, by key.
+/// Returns the values of the properties of a tag by key.
 auto ByKey(auto const& properties)
 {
     std::map<int, std::vector<int>> values;
@@ -46,11 +46,11 @@ auto ByKey(auto const& properties)
     return values;
 }
 
-TEST(TagConversion, CommandTypeResetsBeforeTheOtherFieldsPatch)
+TEST(TagConversion, CommandTypeResetsTheTagBeforeTheOtherFieldsAreSet)
 {
     struct Row
     {
-        char const* flags; // of id, command type, field and properties, with one entry if the P is large
+        char const* flags; // i: id, c: command type, f: field, p: no properties, P: one property
         char const* told;
     };
     for (auto const& [flags, told] : {Row{"", "Tag is empty"}, Row{"c", "Tag is empty"}, Row{"p", "Tag is empty"},
@@ -85,13 +85,13 @@ TEST(TagConversion, BadPropertyStopsTheConversion)
     wire.properties[Generated::TagPropertyKey::Levels].__isset.value = false;
     Tag tag(Tag::CommandType::Custom);
     EXPECT_EQ(OfTag::Told(wire, tag), "TagProperty is empty");
-    auto expected = FullTag(); // what stands before it, in the order of the keys
+    auto expected = FullTag(); // the properties before the bad one, in the order of the keys
     expected.properties.erase(TagProperty::Key::Levels);
     expected.properties.erase(TagProperty::Key::TriggerType);
     EXPECT_EQ(tag, expected);
 }
 
-TEST(TagConversion, KeysThatAreThereKeepTheirValues)
+TEST(TagConversion, ExistingKeysKeepTheirValues)
 {
     Generated::Tag wire;
     wire.properties[Generated::TagPropertyKey::Name] = WireProperty({1});
@@ -124,7 +124,8 @@ TEST(TagConversion, UnknownWireKeysCollapseToTheFirst)
     }
 }
 
-// Which of them is the first depends on how the hash map was filled and on its buckets; sorting would change what peers get.
+// Which key is first depends on how the hash map was filled and on its buckets. Sorting would change what peers
+// receive.
 TEST(TagConversion, UnknownDomainKeysCollapseToTheFirstOfTheHashMap)
 {
     std::set<int> kept;
@@ -147,7 +148,7 @@ TEST(TagConversion, UnknownDomainKeysCollapseToTheFirstOfTheHashMap)
             kept.insert(number);
         } while (std::next_permutation(order.begin(), order.end()));
     }
-    EXPECT_THAT(kept, ElementsAre(-1, 0, 18, 1000)); // each is the first once
+    EXPECT_THAT(kept, ElementsAre(-1, 0, 18, 1000)); // each key is the first at least once
 }
 
 } // namespace

@@ -27,7 +27,7 @@ inline Corvane::Data::Sequences::TagProperty Property(Corvane::Data::Sequences::
     return property;
 }
 
-// The values below hold no default in any field, and no two fields of a record hold the same number.
+// No field of these values has its default, and no two fields of a record have the same number.
 
 inline Corvane::Data::Sequences::Tag FullTag()
 {

@@ -26,7 +26,7 @@ using testing::ElementsAre;
 
 using Info = Converters<ServerInfoToThriftConverter, ThriftToServerInfoConverter>;
 
-/// What becomes of a full destination, which holds nothing afterwards that was not on the wire.
+/// Reads into a full destination. The result must hold nothing that was not on the wire.
 ServerInfo Received(Generated::ServerInfo const& wire, std::string const& failure = {})
 {
     auto info = FullServerInfo();
@@ -75,7 +75,7 @@ TEST(ServerInfoConversion, ChassisOutsideOneToEighteenIsNone)
     }
 }
 
-TEST(ServerInfoConversion, TextsAreCutAndEnded)
+TEST(ServerInfoConversion, TextsAreTruncatedAndTerminated)
 {
     Generated::ServerInfo wire;
     wire.corvaneVersion = std::string(40, 'v');
@@ -98,13 +98,13 @@ TEST(ServerInfoConversion, TextsAreCutAndEnded)
     EXPECT_EQ(Info::Sent(expected).corvaneVersion, "1");
 }
 
-TEST(ServerInfoConversion, AddressesComeInTwosOrNotAtAll)
+TEST(ServerInfoConversion, NeedsTwoAddressesOrNone)
 {
     for (auto const count : {1u, 3u, 4u, 1'000'000u})
     {
         auto wire = Info::Sent(FullServerInfo());
         wire.gbeIpAddresses.assign(count, 0x01020304);
-        auto expected = FullServerInfo(); // all before the addresses, nothing from there on
+        auto expected = FullServerInfo(); // only the fields before the addresses are applied
         expected.gbeIpAddressPair = {};
         expected.hasNoGbeAddresses = true;
         expected.isLocal = false;
@@ -123,7 +123,7 @@ TEST(ServerInfoConversion, AddressesComeInTwosOrNotAtAll)
     expected.isLocal = false;
     expected.gbeIpAddressPair = {{{0, 0, 0, 1}, {0, 0, 0, 2}}};
     expected.hasNoGbeAddresses = false;
-    EXPECT_EQ(Received(wire), expected); // they are enough
+    EXPECT_EQ(Received(wire), expected); // the addresses alone are sufficient
     wire.__isset.gbeIpAddresses = false; // the flag decides
     EXPECT_EQ(Received(wire, "ServerInfo is empty"), ServerInfo());
 }

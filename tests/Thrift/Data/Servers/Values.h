@@ -8,7 +8,7 @@
 namespace Talvo::Tests
 {
 
-/// A server in which no field holds its default.
+/// Returns a server in which no field has its default.
 inline Corvane::Data::Servers::ServerInfo FullServerInfo()
 {
     using namespace Corvane::Data::Servers;
