@@ -27,7 +27,7 @@ Clips::Groups::AnglesGroup GroupOf(char const id)
     return group;
 }
 
-/// `TContent` is what the event holds: a group or the identifier of one.
+/// `TContent` is the content of the event: a group or the identifier of a group.
 template<typename TContent, typename TToWire, typename TToDomain>
 struct GroupEvent : Converters<TToWire, TToDomain>
 {
@@ -82,7 +82,7 @@ class AnglesGroupEventConversion : public testing::Test
 using GroupEvents = testing::Types<Creation, CreationFinished, UpdateFinished, DeletionFinished>;
 TYPED_TEST_SUITE(AnglesGroupEventConversion, GroupEvents, );
 
-TYPED_TEST(AnglesGroupEventConversion, ABadBlockLeavesPlaceholdersInTheDestination)
+TYPED_TEST(AnglesGroupEventConversion, BadBlockSetsPlaceholdersInTheDestination)
 {
     using Event = TypeParam;
     auto wire = Event::Sent(Event::Full());
@@ -92,7 +92,7 @@ TYPED_TEST(AnglesGroupEventConversion, ABadBlockLeavesPlaceholdersInTheDestinati
     EXPECT_EQ(event, Event::Of(Placeholders(), 'f'));
 }
 
-TEST(AnglesGroupCreationFailedConversion, GoesToTheWireOnly)
+TEST(AnglesGroupCreationFailedConversion, WritesAllFields)
 {
     AnglesGroupCreationFailedEventArgs event(0, {}, GroupOf('f'));
     FullBlock().Fill(event);

@@ -22,7 +22,7 @@ using Corvane::Data::Clips::Clip;
 using CreationType = ClipCreationEventArgs::CreationType;
 using NetworkType = ClipCreationEventArgs::NetworkType;
 
-/// All that any clip event adds to its block.
+/// The fields that any clip event has in addition to its block.
 struct Details
 {
     Clip first, second;
@@ -51,7 +51,7 @@ Details FullDetails()
             true};
 }
 
-// What the constructors take behind the block.
+// These functions return the arguments of the constructors after the block.
 auto Clips(Details const& all)
 {
     return std::tie(all.first, all.second);
@@ -110,7 +110,7 @@ struct ClipEvent : Converters<TToWire, TToDomain>
 
     static Domain Full() { return Of(FullBlock(), FullDetails()); }
 
-    /// What a destination holds before.
+    /// Returns the event that a used destination holds.
     static Domain Held() { return Of(HeldBlock(), {}); }
 };
 
@@ -181,7 +181,7 @@ TYPED_TEST(ClipEventConversion, SendsTheFirstClipFirst)
     }
 }
 
-TYPED_TEST(ClipEventConversion, RevisionIsTakenWithoutItsFlagAndTheInternalResultIsNot)
+TYPED_TEST(ClipEventConversion, ReadsTheRevisionRegardlessOfItsFlagButNotTheInternalResult)
 {
     using Event = TypeParam;
     auto wire = Event::Sent(Event::Full());
@@ -196,11 +196,11 @@ TYPED_TEST(ClipEventConversion, RevisionIsTakenWithoutItsFlagAndTheInternalResul
     EXPECT_EQ(Event::Received(wire, Event::Held()), expected);
 }
 
-TYPED_TEST(ClipEventConversion, ABadClipLeavesTheDestination)
+TYPED_TEST(ClipEventConversion, BadClipKeepsTheDestination)
 {
     using Event = TypeParam;
     auto wire = Event::Sent(Event::Full());
-    wire.clipCommand.__isset.commandGuid = false; // judged after the clips
+    wire.clipCommand.__isset.commandGuid = false; // checked after the clips
     auto event = Event::Held();
     auto const clips = ClipsOf(wire);
     if (clips.size() == 2)
@@ -217,7 +217,7 @@ TYPED_TEST(ClipEventConversion, ABadClipLeavesTheDestination)
     }
 }
 
-TYPED_TEST(ClipEventConversion, ABadBlockLeavesPlaceholdersInTheDestination)
+TYPED_TEST(ClipEventConversion, BadBlockSetsPlaceholdersInTheDestination)
 {
     using Event = TypeParam;
     auto wire = Event::Sent(Event::Full());
@@ -238,7 +238,7 @@ ClipCommandEventArgs EventOf(Block const& block)
     return event;
 }
 
-TEST(ClipCommandConversion, RefusedBlockLeavesTheDestinationAndTheSubCommandIndexNeedsNoFlag)
+TEST(ClipCommandConversion, RejectedBlockKeepsTheDestinationAndTheSubCommandIndexNeedsNoFlag)
 {
     auto wire = BlockOf::Sent(EventOf(FullBlock()));
     wire.__isset.subCommandIndex = false;
@@ -249,7 +249,7 @@ TEST(ClipCommandConversion, RefusedBlockLeavesTheDestinationAndTheSubCommandInde
     EXPECT_EQ(event, EventOf(HeldBlock()));
 }
 
-TEST(ClipCommandConversion, NumbersAreCutAndOtherWordsAreUnknown)
+TEST(ClipCommandConversion, NumbersAreTruncatedAndOtherWordsAreUnknown)
 {
     auto wire = BlockOf::Sent(EventOf(HeldBlock()));
     wire.userTicket = 70000;
@@ -273,7 +273,7 @@ TEST(ClipCommandConversion, NumbersAreCutAndOtherWordsAreUnknown)
     }
 }
 
-/// Sends an event whose field holds each number, and reads each word.
+/// Writes an event with each number in the field, and reads each word.
 template<typename TEnumeration>
 void ExpectWords(TEnumeration ClipCreationEventArgs::*const field, auto const wireField,
                  std::vector<std::string> const& words, std::vector<std::string> const& otherWords)
@@ -300,7 +300,7 @@ void ExpectWords(TEnumeration ClipCreationEventArgs::*const field, auto const wi
     for (auto const& word : otherWords) EXPECT_EQ(read(word), TEnumeration::Unknown) << word;
 }
 
-TEST(ClipCreationConversion, WordsAreExactAndAllOthersUnknown)
+TEST(ClipCreationConversion, WordsAreMatchedExactlyAndOthersAreUnknown)
 {
     using Wire = CreationStarted::Wire;
     ExpectWords(&ClipCreationEventArgs::creationType, &Wire::creationType,
@@ -311,7 +311,7 @@ TEST(ClipCreationConversion, WordsAreExactAndAllOthersUnknown)
                 {"SDTI", "gbe", "unknown", "pushSdti", "PUSHGBE", "Pushunknown", "", "Copy"});
 }
 
-TEST(ClipDeletionConversion, ReservedBytesStayAndTheBitmapHasOneByte)
+TEST(ClipDeletionConversion, ReservedBytesAreNotWrittenAndTheBitmapHasOneByte)
 {
     auto details = FullDetails();
     details.reserved = 9;

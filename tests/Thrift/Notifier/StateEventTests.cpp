@@ -56,7 +56,7 @@ protected:
 using Channels = testing::Types<Player, Recorder>;
 TYPED_TEST_SUITE(StateChangedConversion, Channels, );
 
-TYPED_TEST(StateChangedConversion, NeedsAWholeIdentifier)
+TYPED_TEST(StateChangedConversion, NeedsACompleteIdentifier)
 {
     auto wire = this->Sent(this->full);
     wire.__isset.channelSerial = false;
@@ -65,7 +65,7 @@ TYPED_TEST(StateChangedConversion, NeedsAWholeIdentifier)
     EXPECT_EQ(TypeParam::Received(wire, this->held), expected);
 }
 
-TYPED_TEST(StateChangedConversion, DropsTheFailureOfAState)
+TYPED_TEST(StateChangedConversion, DropsTheFailureOfItsState)
 {
     auto wire = this->Sent(this->full);
     wire.channelSerial = 0x100000005;
@@ -101,7 +101,7 @@ RecordingRangesChangedEventArgs HeldRanges()
     return event;
 }
 
-TEST(RecordingRangesChangedConversion, FlagOfTheRangesFollowsWhatTheUsedRecordHolds)
+TEST(RecordingRangesChangedConversion, FlagOfTheRangesDependsOnTheRangesOfAUsedRecord)
 {
     auto empty = FullRanges();
     empty.recordingRanges.clear();
@@ -113,10 +113,10 @@ TEST(RecordingRangesChangedConversion, FlagOfTheRangesFollowsWhatTheUsedRecordHo
     EXPECT_TRUE(Ranges::Sent(empty, wire).__isset.recordingRanges);
 }
 
-TEST(RecordingRangesChangedConversion, TakesTheDestinationOverEvenIfItFails)
+TEST(RecordingRangesChangedConversion, ReplacesTheDestinationEvenIfItFails)
 {
     auto wire = Ranges::Sent(FullRanges());
-    wire.__isset = {}; // those of the two booleans do not count
+    wire.__isset = {}; // the flags of the two booleans are ignored
     auto event = HeldRanges();
     EXPECT_EQ(Ranges::Told(wire, event), "RecordingRangesChanged is empty");
     auto expected = FullRanges();
@@ -129,7 +129,7 @@ TEST(RecordingRangesChangedConversion, TakesTheDestinationOverEvenIfItFails)
     EXPECT_EQ(Ranges::Received(onlyEmptyList, HeldRanges()), RecordingRangesChangedEventArgs());
 }
 
-TEST(RecordingRangesChangedConversion, ABadRangeIsKeptEmpty)
+TEST(RecordingRangesChangedConversion, BadRangeBecomesEmpty)
 {
     auto wire = Ranges::Sent(FullRanges());
     wire.recordingRanges[0].inBoundTimecode = "noon";
@@ -140,7 +140,7 @@ TEST(RecordingRangesChangedConversion, ABadRangeIsKeptEmpty)
 
 using Added = Converters<ServerAddedEventArgsToThriftConverter, ThriftToServerAddedEventArgsConverter>;
 
-TEST(ServerAddedConversion, MissingOrBadFieldsLeaveTheDestination)
+TEST(ServerAddedConversion, MissingOrBadFieldsKeepTheDestination)
 {
     ServerAddedEventArgs const held(ServerId(3), ServerInfo());
     auto const full = Added::Sent({ServerId(9), FullServerInfo()});

@@ -23,7 +23,7 @@ struct Block
     int subCommandIndex = 0;
     long long databaseRevision = 0;
 
-    /// Puts it into an event, whatever that was built with.
+    /// Replaces the block of an event.
     void Fill(ClipCommandEventArgs& event) const
     {
         event = ClipCommandEventArgs(localMachineSerial, requestSource, operationNumber, userTicket, commandGuid,
@@ -42,7 +42,8 @@ inline Block HeldBlock()
     return {1, RequestSource::Local, 2, 3, Id('h'), 4, 5};
 }
 
-/// What an event holds whose block failed: all but the database revision is as good as not there.
+/// Returns the block of an event whose block failed to convert: all fields except the database revision have
+/// placeholders.
 inline Block Placeholders()
 {
     Block block;
