@@ -35,14 +35,14 @@ std::string Written(auto const& record)
     return std::string(writer.Text());
 }
 
-TEST(Codec, TakesADomainObjectToBytesAndBack)
+TEST(Codec, RoundTripsADomainObjectThroughBytes)
 {
     Wire::BinaryWriter writer;
     writer.writeByte(1);
     ASSERT_TRUE(Wire::Encode(Data::Clips::ClipToThriftConverter(), FullClip(), writer).Success());
     WireClip wire;
     ASSERT_TRUE(Data::Clips::ClipToThriftConverter().To(FullClip(), wire).success);
-    EXPECT_EQ(writer.Text(), '\1' + Written(wire)) << "appended";
+    EXPECT_EQ(writer.Text(), '\1' + Written(wire)) << "the writer appends";
 
     auto clip = NtscClip();
     auto const result = Wire::Decode(Data::Clips::ThriftToClipConverter(), writer.Bytes().subspan(1), clip);
@@ -51,7 +51,7 @@ TEST(Codec, TakesADomainObjectToBytesAndBack)
     EXPECT_EQ(clip, FullClip());
 }
 
-TEST(Codec, ReportsWhatIsAtFault)
+TEST(Codec, ReportsTheKindOfFault)
 {
     Data::Clips::ThriftToClipConverter const toClip;
     auto const expect = [](Wire::CodecResult const& result, Fault const fault, std::string_view const message)
@@ -91,7 +91,7 @@ TEST(Codec, ReportsWhatIsAtFault)
         "format.");
 }
 
-TEST(Codec, LeavesNothingOfAnEarlierMessageInAReusedRecord)
+TEST(Codec, KeepsNothingOfAnEarlierMessageInAReusedRecord)
 {
     WireClip record;
     Wire::BinaryWriter writer;
@@ -99,7 +99,7 @@ TEST(Codec, LeavesNothingOfAnEarlierMessageInAReusedRecord)
     auto const full = std::string(writer.Text());
     writer.Truncate();
     ASSERT_TRUE(Wire::Encode(Data::Clips::ClipToThriftConverter(), FullClip(), record, writer).Success());
-    EXPECT_EQ(writer.Text(), full) << "user bits are appended to a used record";
+    EXPECT_EQ(writer.Text(), full) << "a converter appends user bits to a used record";
 
     Corvane::Data::Clips::Clip clip;
     ASSERT_TRUE(Wire::Decode(Data::Clips::ThriftToClipConverter(), BytesOf(full), record, clip).Success());
@@ -112,7 +112,7 @@ TEST(Codec, LeavesNothingOfAnEarlierMessageInAReusedRecord)
     EXPECT_FALSE(record.__isset.name || record.__isset.userBits || record.name.__isset.data);
 }
 
-/// Converts nothing.
+/// Fails without a conversion.
 class FailingConverter : public Common::Serialization::Converter<int, WireClip>
 {
 public:
@@ -121,7 +121,7 @@ public:
     Result To(int&&, WireClip&) const noexcept override { return {false, "no clip"}; }
 };
 
-TEST(Codec, LeavesTheWriterAsItWasOnAFailure)
+TEST(Codec, LeavesTheWriterUnchangedOnFailure)
 {
     Wire::BinaryWriter writer;
     writer.writeByte('x');

@@ -27,7 +27,7 @@ inline std::span<std::uint8_t const> BytesOf(std::string_view const text)
     return {reinterpret_cast<std::uint8_t const*>(text.data()), text.size()};
 }
 
-/// Small ones, and no bound of memory, which Thrift's own protocol does not have.
+/// Small bounds, and none of memory, since Thrift's own protocol has no such bound.
 inline Wire::Bounds DifferentialBounds()
 {
     return {.text = 1000,
@@ -38,10 +38,10 @@ inline Wire::Bounds DifferentialBounds()
             .memoryPerByte = 0};
 }
 
-/// What a reader made of some bytes: what it read, and after a blank how many bytes it left; nothing where it refused.
+/// The result of a reader: the text that it read, a blank, and the number of bytes left. Empty if the reader failed.
 using Reading = std::optional<std::string>;
 
-/// Calls `read` with a BinaryReader, which returns what it read as a text.
+/// Calls `read` with a BinaryReader. `read` returns the value as a text.
 Reading ReadOwn(std::string_view const bytes, auto const& read)
 {
     try
@@ -56,7 +56,7 @@ Reading ReadOwn(std::string_view const bytes, auto const& read)
     }
 }
 
-/// The same with Thrift's own protocol.
+/// Calls `read` with Thrift's own protocol. `read` returns the value as a text.
 Reading ReadPeer(std::string_view const bytes, auto const& read)
 {
     using namespace apache::thrift;
@@ -79,7 +79,8 @@ Reading ReadPeer(std::string_view const bytes, auto const& read)
     }
 }
 
-/// Reads a record of that type, or a message header where there is none, and prints it with all flags.
+/// Returns a function that reads a record of this type, or a message header if `type` is null, and returns it as a
+/// text.
 inline auto ReaderOf(Records::RecordType const* const type)
 {
     return [type](auto& protocol) -> std::string
@@ -98,7 +99,7 @@ inline auto ReaderOf(Records::RecordType const* const type)
     };
 }
 
-/// Whether both readers make the same of the bytes.
+/// Returns whether both readers have the same result.
 inline bool ReadAlike(std::string_view const bytes, Records::RecordType const* const type)
 {
     return ReadOwn(bytes, ReaderOf(type)) == ReadPeer(bytes, ReaderOf(type));

@@ -31,7 +31,7 @@ using testing::HasSubstr;
 
 using WireClip = Data::Clips::Generated::Clip;
 
-/// A record that is new, full, full of other values, and full of zeros.
+/// Returns records that are new, full, full of other values, and full of zeros.
 std::vector<std::unique_ptr<Records::WireRecord>> Variants(Records::RecordType const& type)
 {
     std::vector<std::unique_ptr<Records::WireRecord>> records;
@@ -48,7 +48,7 @@ std::string WrittenOwn(Records::WireRecord const& record)
     return std::string(writer.Text());
 }
 
-TEST(BinaryProtocol, WritesAndReadsAllRecordsAsThriftsOwn)
+TEST(BinaryProtocol, WritesAndReadsAllRecordsLikeThrift)
 {
     for (auto const& type : Records::RecordTypes())
         for (auto const& record : Variants(type))
@@ -61,11 +61,11 @@ TEST(BinaryProtocol, WritesAndReadsAllRecordsAsThriftsOwn)
         }
 }
 
-TEST(BinaryProtocol, AcceptsAndRefusesWhatThriftsOwnDoes)
+TEST(BinaryProtocol, AcceptsAndRejectsTheSameBytesAsThrift)
 {
     std::mt19937 random(1);
     auto const any = [&random](std::size_t const count) { return random() % count; };
-    // Types of values and of containers, small sizes, the bounds and what is just above them, and negative sizes.
+    // Types of values and of containers, small sizes, the bounds and the values just above them, and negative sizes.
     static constexpr std::array<unsigned char, 14> Bytes{0, 1, 2, 8, 9, 10, 11, 12, 13, 15, 16, 100, 101, 255};
     std::size_t accepted = 0;
     std::size_t refused = 0;
@@ -88,9 +88,9 @@ TEST(BinaryProtocol, AcceptsAndRefusesWhatThriftsOwnDoes)
     EXPECT_GT(refused, 2000U);
 }
 
-TEST(BinaryProtocol, SkipsWhatThriftsOwnSkips)
+TEST(BinaryProtocol, SkipsTheSameFieldsAsThrift)
 {
-    // Of an id that no record has.
+    // A field with an id that no record has.
     auto const of = [](char const type, std::string const& value)
     { return type + std::string(1, '\x7f') + std::string(1, '\0') + value + std::string(1, '\0'); };
     std::string const large("\0\0\0\x64", 4), tooLarge("\0\0\0\x65", 4), negative("\xff\xff\xff\xff", 4);
@@ -153,7 +153,7 @@ TEST(BinaryProtocol, WritesAndReadsMessageHeaders)
         for (std::size_t size = 0; size < bytes.size(); ++size)
             EXPECT_FALSE(ReadOwn(bytes.substr(0, size), ReaderOf(nullptr))) << size;
     }
-    // Of a type that there is not.
+    // Headers with an unknown message type.
     for (auto const& bytes :
          {std::string("\0\0\0\4name\xe9\0\0\0\1", 13), std::string("\x80\1\0\xe9\0\0\0\4name\0\0\0\1", 16)})
     {
@@ -163,7 +163,7 @@ TEST(BinaryProtocol, WritesAndReadsMessageHeaders)
     EXPECT_FALSE(ReadOwn(std::string("\x80\x02\x00\x01\x00\x00\x00\x00\x00\x00\x00\x00", 12), ReaderOf(nullptr)));
 }
 
-TEST(BinaryProtocol, WritesFramesAndTakesThemFromBytes)
+TEST(BinaryProtocol, WritesFramesAndTakesFramesFromBytes)
 {
     Wire::BinaryWriter writer;
     writer.writeByte(7);
@@ -191,11 +191,11 @@ TEST(BinaryProtocol, WritesFramesAndTakesThemFromBytes)
         {
             EXPECT_THAT(error.what(), HasSubstr(text));
         }
-        EXPECT_EQ(rest.size(), frame.size()) << "nothing is taken";
+        EXPECT_EQ(rest.size(), frame.size()) << "a bad frame must not be taken";
     }
 }
 
-/// The message of the exception that reading a record within bounds throws, or the empty text.
+/// Returns the message of the exception that reading a record within the bounds throws, or an empty text.
 template<typename TRecord>
 std::string Refusal(TRecord const& record, Wire::Bounds const& bounds)
 {
@@ -206,7 +206,7 @@ std::string Refusal(TRecord const& record, Wire::Bounds const& bounds)
         Wire::BinaryReader reader(writer.Bytes(), bounds);
         TRecord read;
         read.read(&reader);
-        return read == record ? "" : "was read as another record";
+        return read == record ? "" : "was read as a different record";
     }
     catch (TProtocolException const& error)
     {
@@ -253,7 +253,7 @@ TEST(BinaryReader, NamesTheBoundThatIsExceeded)
     EXPECT_EQ(Refusal(clip, {.memoryPerByte = std::numeric_limits<std::uint64_t>::max()}), "");
 }
 
-TEST(BinaryReader, CountsWhatElementsTakeInMemory)
+TEST(BinaryReader, CountsTheMemoryOfElements)
 {
     Commands::Generated::GetClipsCommandReply clips;
     clips.clips.resize(10);
@@ -267,7 +267,8 @@ TEST(BinaryReader, CountsWhatElementsTakeInMemory)
     EXPECT_THAT(Refusal(dial, {.memory = ofPlayers - 1, .memoryPerByte = 0}), HasSubstr("bytes in memory"));
 }
 
-/// So many identifiers of sixteen bytes, all of them with one hash: a byte more in one place is 31 less in the next.
+/// Returns `count` identifiers of sixteen bytes with equal hashes: 1 more in one byte is balanced by 31 less in the
+/// next.
 std::vector<std::string> Colliding(std::size_t const count)
 {
     std::vector<std::string> identifiers;
@@ -284,7 +285,7 @@ std::vector<std::string> Colliding(std::size_t const count)
     return identifiers;
 }
 
-TEST(BinaryReader, RefusesLargeSetsAndMapsOfCollidingChannels)
+TEST(BinaryReader, RejectsLargeSetsAndMapsOfCollidingChannels)
 {
     std::vector<std::string> ordinary;
     for (int i = 0; i < 2000; ++i)
@@ -304,7 +305,7 @@ TEST(BinaryReader, RefusesLargeSetsAndMapsOfCollidingChannels)
     EXPECT_EQ(Refusal(reply, raised), "too many of 2000 channels have colliding identifiers");
 }
 
-TEST(BinaryReader, ReportsBytesThatAreNoRecord)
+TEST(BinaryReader, ReportsInvalidBytes)
 {
     auto const refusal = [](std::string const& bytes) -> std::string
     {
@@ -329,7 +330,7 @@ TEST(BinaryReader, ReportsBytesThatAreNoRecord)
     EXPECT_EQ(refusal(std::string("\1\0\x63", 3)), "a value has the type 1, which has no values");
 }
 
-TEST(BinaryReader, ReadsRecordsOneAfterTheOther)
+TEST(BinaryReader, ReadsConsecutiveRecords)
 {
     Wire::BinaryWriter writer;
     Dial({"A"}).write(&writer);
