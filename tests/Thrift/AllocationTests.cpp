@@ -30,7 +30,7 @@ std::size_t allocatedBytes = 0;
 
 } // namespace
 
-// Of the whole program, the library included.
+// Replaces the operators of the whole program, including the library.
 void* operator new(std::size_t const size)
 {
     ++allocationCount;
@@ -63,18 +63,18 @@ std::size_t Allocations(auto const& work)
     return allocationCount - before;
 }
 
-TEST(Allocations, OfAClipToTheWireAreItsHeapMembersOnly)
+TEST(Allocations, ClipToWireAllocatesOnlyItsHeapMembers)
 {
     auto const clip = FullClip();
     Clips::Generated::Clip wire;
     auto const convert = [&clip, &wire] { ASSERT_TRUE(Clips::ClipToThriftConverter().To(clip, wire).success); };
 
     EXPECT_EQ(Allocations(convert), 6) << "name, varId, keywords, userBits and two time codes";
-    wire.userBits.clear(); // to which a conversion appends
+    wire.userBits.clear(); // a conversion appends to them
     EXPECT_EQ(Allocations(convert), 0);
 }
 
-TEST(Allocations, OfAClipFromTheWireAreNone)
+TEST(Allocations, ClipFromWireAllocatesNothing)
 {
     Clips::Generated::Clip wire;
     ASSERT_TRUE(Clips::ClipToThriftConverter().To(FullClip(), wire).success);
@@ -88,7 +88,7 @@ TEST(Allocations, OfAClipFromTheWireAreNone)
               0);
 }
 
-TEST(Allocations, OfATimeCodeAreTheResultOnly)
+TEST(Allocations, TimeCodeAllocatesOnlyItsText)
 {
     std::string const text = "2024-02-29T23:58:57;28@30";
     TimePoints::TimeCode timeCode;
@@ -116,7 +116,7 @@ TEST(Allocations, OfATimeCodeAreTheResultOnly)
     EXPECT_EQ(formatted, text);
 }
 
-TEST(Allocations, OfASuccessAreNone)
+TEST(Allocations, SuccessAllocatesNothing)
 {
     Corvane::Data::OperationStatus status;
     Corvane::Data::Generated::OperationStatus wire;
@@ -129,7 +129,7 @@ TEST(Allocations, OfASuccessAreNone)
               0);
 }
 
-TEST(Allocations, OfTheWholeRoadWithWhatIsUsedAgainAreTheContainersOnly)
+TEST(Allocations, CodecWithReusedObjectsAllocatesOnlyContainers)
 {
     namespace Wire = Corvane::Zelmar::Serialization::Thrift::Wire;
     auto const clip = FullClip();
@@ -150,17 +150,17 @@ TEST(Allocations, OfTheWholeRoadWithWhatIsUsedAgainAreTheContainersOnly)
     EXPECT_EQ(Allocations(decode), 2);
 }
 
-TEST(Allocations, OfARefusedMessageDoNotDependOnWhatItClaims)
+TEST(Allocations, RejectedMessageAllocatesLittleForTheSizesThatItClaims)
 {
     namespace Wire = Corvane::Zelmar::Serialization::Thrift::Wire;
     using Corvane::Zelmar::Serialization::Thrift::Commands::Generated::GetClipsCommandReply;
     std::string const clips("\x0f\0\3\x0c", 4); // a list of records
     for (auto const& message : {
-             clips + std::string("\0\0\x20\0", 4) + std::string(0x2001, '\0'), // 8192 empty clips, all there
+             clips + std::string("\0\0\x20\0", 4) + std::string(0x2001, '\0'), // 8192 complete empty clips
              clips + std::string("\0\1\x86\xa0", 4) + std::string(1000, '\0'), // 100,000 clips
              std::string("\x0c\0\1\x0b\0\1\0\x0f\xff\xff", 10),                // a string of nearly 1 MiB
-             std::string("\x0b\0\x63\0\x0f\xff\xff", 7),                       // the same, skipped
-             std::string("\x0d\0\x63\x0b\x0b\0\0\x03\xe8", 9),                 // a map of 1000 entries, skipped
+             std::string("\x0b\0\x63\0\x0f\xff\xff", 7),                       // a skipped string of nearly 1 MiB
+             std::string("\x0d\0\x63\x0b\x0b\0\0\x03\xe8", 9),                 // a skipped map of 1000 entries
          })
     {
         auto const before = allocatedBytes;

@@ -65,7 +65,7 @@ using Records::WireRecord;
 namespace WireClips = Data::Clips::Generated;
 namespace WireSequences = Data::Sequences::Generated;
 
-/// What a conversion said, or what the terminate handler found when it ended the process.
+/// The result of a conversion, or the exception that the terminate handler found when the conversion ended the process.
 struct Outcome
 {
     bool ended;
@@ -80,14 +80,14 @@ std::ostream& operator<<(std::ostream& out, Outcome const& outcome)
     return out << (outcome.ended ? "ended" : outcome.success ? "success" : "failure") << ": " << outcome.message;
 }
 
-/// Converts into a newly built domain object.
+/// Converts into a new domain object.
 Common::Serialization::ConversionResult ToNewDomain(RecordType const& type, WireRecord const& record, Form const form)
 {
     auto const domain = type.makeDomain(record);
     return type.convertToDomain(record, *domain, form);
 }
 
-/// Converts with `To` in a process of its own, which answers through a pipe.
+/// Converts with `To` in a child process, which sends the outcome through a pipe.
 Outcome Unchecked(RecordType const& type, WireRecord const& record)
 {
     static std::array<int, 2> pipeEnds{};
@@ -127,7 +127,7 @@ Outcome Unchecked(RecordType const& type, WireRecord const& record)
     return {WEXITSTATUS(status) == 2, WEXITSTATUS(status) == 0, message};
 }
 
-/// The value of a record that the path of a bad value leads to, as it is printed; empty where the path leads nowhere.
+/// Returns the printed value at the path of a bad value in a record, or an empty text if the path does not exist.
 std::string ValueAt(Records::View view, std::string path)
 {
     while (!path.empty())
@@ -136,7 +136,7 @@ std::string ValueAt(Records::View view, std::string path)
         auto step = path.substr(0, path[0] == '[' ? path.find(']') + 1 : end);
         path.erase(0, step.size());
         if (path.starts_with('.')) path.erase(0, 1);
-        // Fields have their id before their name, an entry of a map its key before it.
+        // The label of a field is its id and its name. An entry of a map follows its key.
         auto const key = step.starts_with("[\"") ? step.substr(1, step.size() - 2) : "";
         auto const part =
             std::ranges::find_if(view.parts,
@@ -164,7 +164,7 @@ public:
     }
 
 protected:
-    /// Holds TryTo to `To` on one record, the values of which are spoiled in turn.
+    /// Compares TryTo with `To` for one record from `filler`, which may have bad values.
     void Compare(RecordFiller filler)
     {
         auto const& type = GetParam();
@@ -175,15 +175,15 @@ protected:
         }
         catch (apache::thrift::protocol::TProtocolException const&)
         {
-            return; // without a field that is required
+            return; // a required field is missing
         }
 
         auto const checked = ToNewDomain(type, *record, Form::Checked);
         ++compared;
-        // A fixed failure text has no path before it.
+        // A fixed failure text has no path in front of it.
         if (checked.success || checked.message.find(": ") == std::string::npos)
         {
-            auto const same = ToNewDomain(type, *record, Form::Constant); // would end this process
+            auto const same = ToNewDomain(type, *record, Form::Constant); // an exception would end this process
             EXPECT_EQ(same.success, checked.success);
             EXPECT_EQ(same.message, checked.message);
             return;
@@ -196,7 +196,7 @@ protected:
         ++ended;
     }
 
-    // The values that are spoiled get these.
+    // The bad values.
     static constexpr auto* NoForm = "noon";
     static constexpr auto* BadDay = "2024-02-30T00:00:00:00@50";
     static constexpr std::int16_t BadLocation = 110;
@@ -216,10 +216,10 @@ std::vector<RecordType> ReadableTypes()
 INSTANTIATE_TEST_SUITE_P(Records, EveryRecord, testing::ValuesIn(ReadableTypes()),
                          [](auto const& type) { return std::string(type.param.name); });
 
-TEST_P(EveryRecord, TryToFailsJustWhereToEndsTheProcess)
+TEST_P(EveryRecord, TryToFailsExactlyWhereToEndsTheProcess)
 {
-    constexpr auto* OtherRate = "2024-02-28T00:00:00:00@30"; // where the standard is Pal, a clip fails with it
-    constexpr std::size_t Stride = 29;                       // one in so many values, where a field is missing too
+    constexpr auto* OtherRate = "2024-02-28T00:00:00:00@30"; // a Pal clip reports a failure for it
+    constexpr std::size_t Stride = 29;                       // with a missing field, every 29th value is tested
     constexpr int Pairs = 20;
     std::mt19937 random(5489);
 
@@ -236,7 +236,7 @@ TEST_P(EveryRecord, TryToFailsJustWhereToEndsTheProcess)
         {
             auto alone = RecordFiller::Convertible(numbers);
             alone.Spoil(value, text, BadLocation);
-            // The value before it fails first, where it is a time code too.
+            // The value before the bad one fails first if it is a time code too.
             auto afterFailure = alone;
             if (value > 0) afterFailure.Spoil(value - 1, OtherRate, 0);
             Compare(std::move(alone));
@@ -252,7 +252,7 @@ TEST_P(EveryRecord, TryToFailsJustWhereToEndsTheProcess)
                 Compare(std::move(filler));
             }
         }
-        // An earlier record fails, which keeps some converters from later ones and others not.
+        // An earlier record fails. Some converters stop there, and others go on to later records.
         for (int pair = 0; pair < Pairs && full.Values() > 1; ++pair)
         {
             auto filler = RecordFiller::Convertible(numbers);
@@ -264,7 +264,7 @@ TEST_P(EveryRecord, TryToFailsJustWhereToEndsTheProcess)
     }
 }
 
-/// A record, what TryTo says of it, and both conversions of it.
+/// The message that TryTo reports for a record, and both conversions of the record.
 struct Row
 {
     std::string message;
@@ -300,7 +300,7 @@ WireSequences::Playlist PlaylistWith(std::int32_t const location)
 {
     WireSequences::Playlist playlist;
     playlist.audioVideoTrack.elements.resize(2);
-    playlist.audioVideoTrack.elements[0].__isset.videoFieldIn = true; // an empty one would fail
+    playlist.audioVideoTrack.elements[0].__isset.videoFieldIn = true; // an empty element would fail
     auto& element = playlist.audioVideoTrack.elements[1];
     element.element.sequenceId.location = location;
     element.element.sequenceId.__isset.location = element.element.__isset.sequenceId = element.__isset.element = true;
@@ -322,11 +322,11 @@ TEST(BadValueDeathTest, NamesPathAndReason)
     add(clip, ClipWith("noon"), std::string("inBoundTodTimecode: ") + Noon);
     add(clip, ClipWith(nullptr, "2023-02-29T00:00:00:00@50"), std::string("inBoundUserTimecode: ") + BadDay);
     add(clip, ClipWith("2024-01-01T00:00:00:00@50", "00:00:00:00@99999999999"), "inBoundUserTimecode: stoi");
-    // An undated time code is read, but what it is written as is not.
+    // An undated time code is valid, but its written form can't be parsed.
     add(clip, ClipWith(nullptr, "-1-0-1-0-1T01:02:03:04@25"),
         "inBoundUserTimecode: TalvoTimeCodeParser the string '-1-0-1-0-1T01:02:03:04@25' has not the expected format.");
 
-    // The reference time code of a sequence, of which only a bad value ends the process.
+    // The reference time code of a sequence. A malformed text is a failure, and only a bad value ends the process.
     std::type_identity<Data::Sequences::ThriftToSequenceConverter> const sequence;
     for (auto const& [text, reason] :
          {std::pair("2023-02-29T00:00:00:00@50", BadDay), {"2024-01-01T00:00:00:00@99999999999", "stoi"}})
@@ -344,8 +344,8 @@ TEST(BadValueDeathTest, NamesPathAndReason)
         id.__isset.location = true;
         add(std::type_identity<Data::Sequences::ThriftToSequenceIdConverter>(), id,
             std::string("location: ") + BadLocation);
-        WireSequences::Playlist header;         // whose result the playlist drops
-        header.sequence.id.location = location; // regardless of its flag
+        WireSequences::Playlist header;         // the playlist ignores its result
+        header.sequence.id.location = location; // its flag is ignored
         header.sequence.__isset.id = header.__isset.sequence = true;
         add(std::type_identity<Data::Sequences::ThriftToPlaylistConverter>(), header,
             std::string("sequence.id.location: ") + BadLocation);
@@ -363,20 +363,21 @@ TEST(BadValueDeathTest, NamesPathAndReason)
     trains.__isset.trains = true;
     add(std::type_identity<Commands::ThriftToGetTrainsCommandReplyConverter>(), trains,
         std::string("trains[1].trainData.inBoundTodTimecode: ") + Noon);
-    Commands::Generated::ClipResultsItem item; // a clip that is dropped, since nothing succeeded
+    Commands::Generated::ClipResultsItem item; // a clip that is dropped, since the item did not succeed
     item.__set_clip(ClipWith("noon"));
     add(std::type_identity<Commands::ThriftToClipResultsItemConverter>(), item,
         std::string("clip.inBoundTodTimecode: ") + Noon);
-    Commands::Generated::CreateAnglesGroupCommandParams group; // a record whose own flag is not read
+    Commands::Generated::CreateAnglesGroupCommandParams group; // the flag of creationParams is ignored
     group.creationParams.clips.resize(4);
-    group.creationParams.clips[1].clip = ClipWith("2024-01-01T00:00:00:00@30", "noon"); // fails first, if it is Pal
+    group.creationParams.clips[1].clip = ClipWith("2024-01-01T00:00:00:00@30", "noon"); // the rate fails first
     group.creationParams.clips[1].clip.__set_videoStandard(WireClips::VideoStandard::Pal);
     group.creationParams.clips[3].clip = ClipWith("noon");
     group.creationParams.__isset.clips = true;
     add(std::type_identity<Commands::ThriftToCreateAnglesGroupCommandParamsConverter>(), group,
         std::string("creationParams.clips[3].clip.inBoundTodTimecode: ") + Noon);
 
-    // Channels, of which no flag is read; the time codes around their clips are guarded, those of a clip on air not.
+    // The flags of the channels are ignored. Bad time codes of a player are skipped, but those of its clip on air are
+    // not.
     Commands::Generated::GetChannelsCommandReply channels;
     Corvane::Data::Generated::Guid key;
     key.value = std::string("\0A\"\\\x7f", 5);
@@ -405,15 +406,15 @@ TEST(BadValueDeathTest, NamesPathAndReason)
     }
 }
 
-TEST(BadValue, IsNoneWhereNoConverterReads)
+TEST(BadValue, IsNotReportedForIgnoredOrHandledTexts)
 {
     auto clip = ClipWith("noon");
     clip.__isset.inBoundTodTimecode = false;
     clip.__set_sourceInBoundTodTimecode("noon");
-    WireSequences::Sequence sequence; // a failure
+    WireSequences::Sequence sequence; // reported as a failure
     sequence.timeCodeRegenReference = "noon";
     sequence.__isset.timeCodeRegenReference = true;
-    Commands::Generated::GetTrainsCommandReply trains; // a guarded text
+    Commands::Generated::GetTrainsCommandReply trains; // skipped
     trains.trains.resize(1);
     trains.trains[0].lastKnownTimeCode = "noon";
     trains.trains[0].__isset.lastKnownTimeCode = trains.__isset.trains = true;

@@ -1,4 +1,5 @@
-// What a program and the library share at run time: variables that a program may copy into itself, exceptions and types.
+// Tests what a program and the library share at run time: variables, which the linker may copy into the program,
+// exceptions and types.
 
 #include "Common/Serialization/Converter.h"
 #include "Domain/CorvaneData/Clips/Clip.h"

@@ -57,7 +57,7 @@ std::map<std::string, Records::View> BuiltRecords()
     };
     auto const addCommand = [&add](auto const& converter, auto params)
     {
-        params.commandGuid = Id('c'); // new ones are generated
+        params.commandGuid = Id('c'); // a new identifier is generated otherwise
         add(converter, params);
     };
 

@@ -8,8 +8,8 @@
 namespace Talvo::Tests
 {
 
-/// What is written of domain objects that are built by hand, where two fields could be exchanged both ways and nobody who
-/// reads and writes would see it. Under headings such as `Clip, built`.
+/// The wire records of domain objects that are built by hand, under headings such as `Clip, built`. They show exchanged
+/// fields: a converter pair that exchanges two fields in both directions passes a round trip.
 std::map<std::string, Records::View> BuiltRecords();
 
 } // namespace Talvo::Tests

@@ -9,7 +9,7 @@
 namespace Talvo::Tests
 {
 
-/// Converts, and gives the text of the failure: nothing for a success.
+/// Converts, and returns the text of the failure, which is empty after a success.
 template<typename TConverter>
 std::string Told(auto const& source, auto& destination)
 {
@@ -18,7 +18,7 @@ std::string Told(auto const& source, auto& destination)
     return result.message;
 }
 
-/// The two converters of a record, and what they do to its values: a failure is one of the test.
+/// The two converters of a record. Sent() and Received() fail the test if the conversion fails.
 template<typename TToWire, typename TToDomain>
 struct Converters
 {

@@ -1,4 +1,5 @@
-// What every pair of converters owes, held over the registry of records. What departs from a duty has a row that says why.
+// Checks the rules that every pair of converters must follow, over the registry of records. A row gives the reason for
+// each exception.
 
 #include "tests/Thrift/Samples.h"
 #include "tests/Thrift/WireBytes.h"
@@ -41,7 +42,7 @@ FieldBytes FieldsOf(WireRecord const& record)
     for (auto& field : FieldByField(Writable{record}))
     {
         field.pop_back();
-        fields[static_cast<unsigned char>(field[2])] = field; // behind the type
+        fields[static_cast<unsigned char>(field[2])] = field; // after the type
     }
     return fields;
 }
@@ -51,10 +52,10 @@ int IdOf(Part const& part)
     return std::stoi(part.label);
 }
 
-/// Makes a record of the fields with these ids; null where one is missing that is required.
+/// Makes a record of the fields with these ids. Returns null if a required field is missing.
 using Maker = std::function<std::unique_ptr<WireRecord>(std::set<int> const&)>;
 
-/// Of one and the same record, whatever fields are asked for.
+/// Makes records of the fields of `whole`.
 Maker PartsOf(RecordType const& type, WireRecord const& whole)
 {
     return [&type, fields = FieldsOf(whole)](std::set<int> const& ids) -> std::unique_ptr<WireRecord>
@@ -75,7 +76,8 @@ Maker PartsOf(RecordType const& type, WireRecord const& whole)
     };
 }
 
-/// Of a full record whose nested ones lack their third field. Bytes would not do: they have all fields.
+/// Makes records of the fields of a full record whose nested records lack their third field. PartsOf() would not do,
+/// since its nested records have all fields.
 Maker WithGaps(RecordType const& type)
 {
     return [&type](std::set<int> const& ids) -> std::unique_ptr<WireRecord>
@@ -93,7 +95,7 @@ Maker WithGaps(RecordType const& type)
     };
 }
 
-/// A record that has no value of the full one, as far as it converts.
+/// Returns a record that converts, with other values than the full record where possible.
 std::unique_ptr<WireRecord> UsedRecord(RecordType const& type)
 {
     for (auto const& numbers : {std::vector<std::int16_t>{2, 3, 1}, {3, 1, 2}})
@@ -102,20 +104,20 @@ std::unique_ptr<WireRecord> UsedRecord(RecordType const& type)
         auto const domain = type.makeDomain(*record);
         if (type.convertToDomain(*record, *domain, Form::Checked).success) return record;
     }
-    ADD_FAILURE() << "no used " << type.name << " converts";
+    ADD_FAILURE() << type.name << ": no used record converts";
     return nullptr;
 }
 
-/// A record that converts both ways, in the states that conversions meet.
+/// A record that converts in both directions, and its variants for the tests.
 struct Subject
 {
     RecordType const& type;
     View view;
     std::set<int> ids;
     std::set<int> required;
-    std::unique_ptr<WireRecord> used; ///< What a used destination was filled with.
+    std::unique_ptr<WireRecord> used; ///< The record that a used destination was filled from.
     Maker full;
-    Maker zeros; ///< Zeros with their flags.
+    Maker zeros; ///< All values are zero, with their flags set.
     Maker gaps;
 
     std::set<int> Without(int const id) const
@@ -125,7 +127,7 @@ struct Subject
         return others;
     }
 
-    /// The required fields and that one.
+    /// The required fields and this one.
     std::set<int> Only(int const id) const
     {
         auto only = required;
@@ -161,8 +163,8 @@ std::vector<Subject> const& Subjects()
     return subjects;
 }
 
-/// Converts the records one after the other into one domain object, and gives what is written of that; a failure gives its
-/// message and no parts.
+/// Converts the records in order into one domain object, and returns the record that is written from it. A failure
+/// returns its message and no parts.
 View Through(RecordType const& type, std::vector<WireRecord const*> const& records)
 {
     auto const failure = [](std::string const& message) { return View{View::Kind::Text, message, {}}; };
@@ -179,10 +181,10 @@ View Through(RecordType const& type, std::vector<WireRecord const*> const& recor
     return result.success ? sent->Fields() : failure(result.message);
 }
 
-/// What does not hold of a record: `Clip.42 inBoundTodTimecode`, and why.
+/// The violations of a rule: where, such as `Clip.42 inBoundTodTimecode`, and the difference.
 using Found = std::multimap<std::string, std::string>;
 
-/// Adds where the views differ.
+/// Adds the places where the views differ.
 void Compare(Found& found, std::string const& where, View const& actual, View const& expected)
 {
     if (actual.parts.size() != expected.parts.size() || actual.parts.empty())
@@ -203,10 +205,10 @@ void Compare(Found& found, std::string const& where, View const& actual, View co
     }
 }
 
-/// The ids of fields by their records.
+/// The ids of fields by record.
 using Fields = std::map<std::string, std::set<int>, std::less<>>;
 
-/// Reads `Record id id, Record id`.
+/// Parses `Record id id, Record id`.
 Fields FieldsIn(std::string const& text)
 {
     Fields fields;
@@ -227,9 +229,10 @@ bool Holds(Fields const& fields, RecordType const& type, int const id)
     return found != fields.end() && found->second.contains(id);
 }
 
-// What a record to the domain does other than to patch by its flags.
+// Conversions to the domain that do more than set the fields whose flags are set.
 
-// Identifier, list and what else makes a new command or reply; what replaces the destination; and where what is absent is 0.
+// Fields from which a new command or reply is built, such as its identifier and its list, fields of records that
+// replace the destination, and fields that become 0 when absent.
 Fields const ReadRegardlessOfTheirFlags = FieldsIn(R"(
     ChainCommandParams 1 2, ChannelCommandReply 2, CreateAnglesGroupCommandParams 1 2 3,
     CreateClipsCommandParams 1 2, CreatePlaylistsCommandParams 1 2, DeleteClipsCommandParams 1 2,
@@ -250,10 +253,10 @@ Fields const Appended = FieldsIn(R"(
     SetLoadBoundariesCommandParams 2, StartRecordingCommandParams 2, StepCommandParams 2,
     StopRecordingCommandParams 2, SyncCommandParams 3, Tag 4)");
 
-/// With this field the destination is built anew.
+/// With this field the destination is rebuilt.
 Fields const Rebuilding = FieldsIn("Essence 1, Tag 2");
 
-/// Nested records that are converted into what the destination holds, which keeps what they lack.
+/// Nested records that are converted into the nested object of the destination, which keeps the values that they lack.
 std::set<std::string> const PatchedInside{
     "MultiviewerDataOverrides.1 playersData",
     "PlayerState.7 pgmOnAir",
@@ -263,7 +266,7 @@ std::set<std::string> const PatchedInside{
     "RecorderStateChangedEventArgs.4 status",
 };
 
-/// Where the views depart from a duty for a reason.
+/// Known exceptions to a rule, and their reason.
 struct Departure
 {
     std::string reason;
@@ -276,11 +279,11 @@ void ExpectOnly(Found const& found, std::vector<Departure> const& departures)
     for (auto const& departure : departures) known.insert(departure.where.begin(), departure.where.end());
     for (auto const& [where, what] : found)
         if (!known.contains(where)) ADD_FAILURE() << where << ": " << what;
-    for (auto const& where : known) EXPECT_TRUE(found.contains(where)) << where << " departs no more";
+    for (auto const& where : known) EXPECT_TRUE(found.contains(where)) << where << " is no longer an exception";
 }
 
-/// `used` with the elements of `added` behind its own. Those of a set and of a map stand in the order of their keys; a
-/// key that is there keeps its value.
+/// Returns `used` with the elements of `added` after its own. Elements of sets and maps are in the order of their keys,
+/// and an existing key keeps its value.
 View Append(View const& used, View const& added)
 {
     View all{View::Kind::Container, "", {}};
@@ -295,7 +298,7 @@ View Append(View const& used, View const& added)
             else if (part.label.starts_with("{"))
                 entries.emplace(key, part.view);
             else
-                entries[std::to_string(entries.size())] = part.view; // fewer than ten
+                entries[std::to_string(entries.size())] = part.view; // the order holds for up to ten elements
         }
     for (auto const& [key, view] : entries)
     {
@@ -306,7 +309,7 @@ View Append(View const& used, View const& added)
     return all;
 }
 
-/// A container without keys, which Append() gives.
+/// Returns a container without its keys, as Append() does.
 View WithoutKeys(View view)
 {
     return view.kind == View::Kind::Container ? Append({View::Kind::Container, "", {}}, view) : view;
@@ -318,7 +321,8 @@ std::string Name(Subject const& subject, int const id)
     return std::string(subject.type.name) + '.' + std::ranges::find(parts, id, IdOf)->label;
 }
 
-/// Lets third fields of nested records be those of `used`, where the records are converted into that.
+/// Replaces the third fields of nested records with those of `used`, where the records are converted into the used
+/// object.
 void KeepGaps(View& record, View const& used)
 {
     auto const keep = [](View& nested, View const& usedNested)
@@ -343,7 +347,7 @@ bool Converts(Subject const& subject, Maker const& make, std::set<int> const& id
     return !Through(subject.type, {make(ids).get()}).parts.empty();
 }
 
-/// The field with as few others as it takes to convert.
+/// Returns the field with as few others as a conversion needs.
 std::set<int> Smallest(Subject const& subject, Maker const& make, int const id)
 {
     auto const only = subject.Only(id);
@@ -357,7 +361,8 @@ std::set<int> Smallest(Subject const& subject, Maker const& make, int const id)
     return subject.ids;
 }
 
-/// Each field, converted into a used domain object: it is as in a new one, all others are as they were.
+/// Converts each field into a used domain object. The field must have the value that it has in a new one, and all
+/// others must be unchanged.
 void ExpectPatched(Maker Subject::*const make, std::vector<Departure> const& departures)
 {
     Found found;
@@ -392,42 +397,43 @@ void ExpectPatched(Maker Subject::*const make, std::vector<Departure> const& dep
     ExpectOnly(found, departures);
 }
 
-TEST(Duty, FieldThatIsThereReplacesWhatAUsedDomainObjectHolds)
+TEST(Duty, SetFieldReplacesTheValueOfAUsedDomainObject)
 {
     ExpectPatched(&Subject::full,
-                  {{"a new one each time", {"LiveCommandParams.1 commandGuid"}},
-                   {"a number without counterpart is ignored", {"MultiviewerDataOverrides.1 playersData"}},
-                   {"no rate without its denominator", {"Sequence.14 playRateNumerator"}},
-                   {"an element whose tags grow", {"AudioVideoElement.9 element"}}});
+                  {{"a new identifier each time", {"LiveCommandParams.1 commandGuid"}},
+                   {"an unknown enumeration number is ignored", {"MultiviewerDataOverrides.1 playersData"}},
+                   {"a rate needs its denominator", {"Sequence.14 playRateNumerator"}},
+                   {"its tags are appended", {"AudioVideoElement.9 element"}}});
 }
 
-TEST(Duty, ZeroThatIsThereReplacesWhatAUsedDomainObjectHolds)
+TEST(Duty, SetZeroReplacesTheValueOfAUsedDomainObject)
 {
     ExpectPatched(
         &Subject::zeros,
-        {{"a new one each time", {"LiveCommandParams.1 commandGuid"}},
-         {"the number of players is that of the destination", {"MultiviewerDataOverrides.1 playersData"}},
-         {"no rate without its denominator", {"Sequence.14 playRateNumerator"}},
-         {"an element whose tags grow", {"AudioVideoElement.9 element"}},
+        {{"a new identifier each time", {"LiveCommandParams.1 commandGuid"}},
+         {"the destination decides the number of players", {"MultiviewerDataOverrides.1 playersData"}},
+         {"a rate needs its denominator", {"Sequence.14 playRateNumerator"}},
+         {"its tags are appended", {"AudioVideoElement.9 element"}},
          {"an empty list has no elements to replace", {"Clip.7 keywords", "Clip.8 userBits"}},
-         {"an empty text is no time code and is skipped",
+         {"an empty text is not a valid time code and is skipped",
           {"PlayerState.13 todPgmInTimecodeOnAir", "PlayerState.14 todPgmShortInTimecodeOnAir",
            "PlayerState.15 todPgmShortOutTimecodeOnAir", "PlayerState.16 todPgmOutTimecodeOnAir",
            "PlayerState.17 userPgmInTimecodeOnAir", "PlayerState.18 userPgmShortInTimecodeOnAir",
            "PlayerState.19 userPgmShortOutTimecodeOnAir", "PlayerState.20 userPgmOutTimecodeOnAir",
            "RecorderState.8 lastTodTimecode", "RecorderState.9 lastUserTimecode", "Playlist.3 sequence"}},
-         {"a playlist is sent after a success only", {"PlaylistResultsItem.1 operationStatus changes 2 playlist"}},
-         {"no more remains than there is", {"RecorderState.12 totalCapacity changes 11 remainingCapacity"}}});
+         {"the playlist is sent only after a success", {"PlaylistResultsItem.1 operationStatus changes 2 playlist"}},
+         {"the remaining capacity is at most the total capacity",
+          {"RecorderState.12 totalCapacity changes 11 remainingCapacity"}}});
 }
 
-TEST(Duty, NestedRecordReplacesWhatAUsedDomainObjectHolds)
+TEST(Duty, NestedRecordReplacesTheValueOfAUsedDomainObject)
 {
-    ExpectPatched(&Subject::gaps, {{"a new one each time", {"LiveCommandParams.1 commandGuid"}},
-                                   {"no rate without its denominator", {"Sequence.14 playRateNumerator"}},
-                                   {"an element whose tags grow", {"AudioVideoElement.9 element"}}});
+    ExpectPatched(&Subject::gaps, {{"a new identifier each time", {"LiveCommandParams.1 commandGuid"}},
+                                   {"a rate needs its denominator", {"Sequence.14 playRateNumerator"}},
+                                   {"its tags are appended", {"AudioVideoElement.9 element"}}});
 }
 
-TEST(Duty, RecordWithoutWhatItNeedsIsRefused)
+TEST(Duty, RecordWithoutItsNecessaryFieldsIsRejected)
 {
     std::string text = "Which fields of a full record do not convert alone, and without which it does not convert;\n"
                        "0 stands for no field at all.\n\n";
@@ -453,9 +459,9 @@ TEST(Duty, RecordWithoutWhatItNeedsIsRefused)
     ExpectRecorded(text, "refused-records.txt");
 }
 
-// What a record to the wire does other than to set values with their flags and to let containers grow.
+// Conversions to the wire that do more than set values with their flags and append to containers.
 
-/// Replaced whole, where they are written.
+/// Fields that are replaced as a whole when they are written.
 std::set<std::string> const ReplacedOnTheWire{
     "AnglesGroup.2 angles",
     "AudioVideoElement.9 element",
@@ -464,7 +470,7 @@ std::set<std::string> const ReplacedOnTheWire{
     "MultiviewerDataOverrides.1 playersData",
 };
 
-/// Written without their flag.
+/// Fields that are written without their flag.
 std::set<std::string> const WrittenWithoutFlag{
     "DialCommandParams.3 velocity",
     "GoIdleCommandParams.3 setBlackScreen",
@@ -476,7 +482,7 @@ std::set<std::string> const WrittenWithoutFlag{
     "GetChannelsCommandReply.3 recorders",
 };
 
-/// Whose flags are cleared where there is nothing to write.
+/// Fields whose flag is cleared when there is nothing to write.
 std::set<std::string> const ClearedOnTheWire{
     "AudioVideoTrack.2 numberOfElements",
     "ClipResultsItem.2 clip",
@@ -492,7 +498,7 @@ std::set<std::string> const ClearedOnTheWire{
     "PlayerDataOverrides.8 message",
 };
 
-/// What is written over `used`, where `sent` is what is written into a new record.
+/// Changes `used` to the expected result of writing into it, where `sent` is the result of writing into a new record.
 void WriteOver(View& used, View const& sent)
 {
     for (std::size_t i = 0; i < used.parts.size(); ++i)
@@ -520,7 +526,7 @@ View WithoutKeysInside(View view)
     return WithoutKeys(std::move(view));
 }
 
-TEST(Duty, UsedWireRecordIsWrittenOver)
+TEST(Duty, UsedWireRecordIsOverwritten)
 {
     Found found;
     for (auto const& type : RecordTypes())
@@ -543,7 +549,7 @@ TEST(Duty, UsedWireRecordIsWrittenOver)
     ExpectOnly(found, {});
 }
 
-TEST(Duty, BothFormsDoTheSameAndLeaveTheSource)
+TEST(Duty, BothFormsConvertAlikeAndKeepTheSource)
 {
     Found found;
     for (auto const& subject : Subjects())
@@ -563,12 +569,13 @@ TEST(Duty, BothFormsDoTheSameAndLeaveTheSource)
         Compare(found, name, moved->Fields(), Sent(type, *FullDomain(type))->Fields());
         Compare(found, name + ", again", Sent(type, *domain)->Fields(), moved->Fields());
     }
-    ExpectOnly(found, {{"a reply that is read once has nothing more to give",
+    ExpectOnly(found, {{"the cursor of the reply is at its end",
                         {"GetAnglesGroupsCommandReply, again changes 3 groups",
                          "GetClipsCommandReply, again changes 3 clips"}}});
 }
 
-/// A used domain object, after a record was converted into it, as it is written; and what the conversion said.
+/// Converts a record into a used domain object. Returns the record that is written from it and the message of the
+/// conversion.
 std::pair<View, std::string> Patched(Subject const& subject, WireRecord const& record, Form const form)
 {
     auto const& type = subject.type;
@@ -577,7 +584,7 @@ std::pair<View, std::string> Patched(Subject const& subject, WireRecord const& r
     return {Sent(type, *domain)->Fields(), result.message};
 }
 
-TEST(Duty, BothFormsLeaveTheSameInWhatIsUsed)
+TEST(Duty, BothFormsLeaveTheSameInAUsedDestination)
 {
     Found found;
     for (auto const& subject : Subjects())
@@ -599,7 +606,7 @@ TEST(Duty, BothFormsLeaveTheSameInWhatIsUsed)
         EXPECT_TRUE(type.convertToWire(*domain, *movable, Form::Movable).success);
         Compare(found, std::string(type.name), movable->Fields(), constant->Fields());
     }
-    ExpectOnly(found, {{"a new one each time", {"LiveCommandParams changes 1 commandGuid"}}});
+    ExpectOnly(found, {{"a new identifier each time", {"LiveCommandParams changes 1 commandGuid"}}});
 }
 
 TEST(Duty, ValueWithoutItsFlagIsIgnored)
@@ -617,7 +624,7 @@ TEST(Duty, ValueWithoutItsFlagIsIgnored)
         Compare(found, std::string(type.name), actual, expected);
     }
     ExpectOnly(found,
-               {{"the identifier of a command",
+               {{"the identifier of a command is always read",
                  {"ChainCommandParams changes 1 commandGuid",
                   "CreateAnglesGroupCommandParams changes 1 commandGuid",
                   "CreateClipsCommandParams changes 1 commandGuid",
@@ -653,7 +660,7 @@ TEST(Duty, ValueWithoutItsFlagIsIgnored)
                   "UnknownCommandReply changes 1 commandType"}}});
 }
 
-TEST(Duty, RecordWithoutFieldsThatIsRefusedChangesNothing)
+TEST(Duty, RejectedRecordWithoutFieldsChangesNothing)
 {
     Found found;
     for (auto const& subject : Subjects())
@@ -663,7 +670,7 @@ TEST(Duty, RecordWithoutFieldsThatIsRefusedChangesNothing)
             if (!message.empty())
                 Compare(found, std::string(subject.type.name), after, Through(subject.type, {subject.used.get()}));
         }
-    ExpectOnly(found, {{"is replaced before it is refused",
+    ExpectOnly(found, {{"the destination is replaced before the record is rejected",
                         {"GetAnglesGroupsCommandReply changes 1 guid",
                          "GetAnglesGroupsCommandReply changes 2 revision",
                          "GetAnglesGroupsCommandReply changes 3 groups",
@@ -693,12 +700,12 @@ TEST(Duty, RecordWithoutFieldsThatIsRefusedChangesNothing)
                          "Train changes 2 recordingRanges",
                          "Train changes 4 isOutMoving",
                          "Train changes 5 lastKnownTimeCode"}},
-                       {"flags that are not sent are 0",
+                       {"event flags that are absent are 0",
                         {"PlayerStateChangedEventArgs changes 3 eventFlags",
                          "RecorderStateChangedEventArgs changes 3 eventFlags"}}});
 }
 
-TEST(Duty, ValuesComeBackFromTheBytesOfEachProtocol)
+TEST(Duty, ValuesRoundTripThroughTheBytesOfEachProtocol)
 {
     Found found;
     for (auto const& subject : Subjects())
@@ -710,7 +717,7 @@ TEST(Duty, ValuesComeBackFromTheBytesOfEachProtocol)
             for (auto const& protocol : Protocols())
             {
                 if (protocol == Protocols()[2] && Text(sent->Fields()).find("\\x00") != std::string::npos)
-                    continue; // the library's JSON loses NUL bytes
+                    continue; // Thrift's JSON loses NUL bytes
                 auto const back = type.make();
                 ReadBytes(WrittenBytes(*sent, *protocol), *protocol, *back);
                 auto const received = type.makeDomain(*back);
@@ -733,7 +740,7 @@ TEST(Duty, ValuesComeBackFromTheBytesOfEachProtocol)
     }
     ExpectOnly(found,
                {{"the internal result is not written", {"ClipCreationFailedEventArgs"}},
-                {"the empty time code is written as its digits", {"RecordingRange"}},
+                {"the empty time code is written as digits and read as another time code", {"RecordingRange"}},
                 {"the type of a channel is rebuilt", {"PlayerStateChangedEventArgs", "RecorderStateChangedEventArgs"}},
                 {"the identifier is not written", {"SetMultiviewerDataCommandParams"}}});
 }
@@ -746,7 +753,7 @@ bool DiffersInAnEnumeration(View const& left, View const& right)
     return false;
 }
 
-TEST(Duty, EnumerationNumberWithoutCounterpartIsReadAsZero)
+TEST(Duty, UnknownEnumerationNumberIsReadAsZero)
 {
     Found found;
     for (auto const& subject : Subjects())
@@ -770,18 +777,18 @@ TEST(Duty, EnumerationNumberWithoutCounterpartIsReadAsZero)
                     Through(type, {subject.used.get(), spoiled(0).get()}));
         }
     }
-    ExpectOnly(found, {{"any other is the last kind of relative boundary",
+    ExpectOnly(found, {{"an unknown type is the last kind of relative boundary",
                         {"LoadBoundary changes 1 type", "LoadBoundary changes 2 specializedLoadBoundary",
                          "ChainCommandParams changes 4 inBoundary", "ChainCommandParams changes 5 outBoundary",
                          "SyncCommandParams changes 4 inBoundary", "SyncCommandParams changes 5 outBoundary",
                          "PlayerState changes 22 inBoundary", "PlayerState changes 23 outBoundary"}},
-                       {"any other is ignored",
+                       {"an unknown number is ignored",
                         {"PlayerDataOverrides changes 5 controlMode", "PlayerDataOverrides changes 6 programMode",
                          "MultiviewerDataOverrides changes 1 playersData",
                          "GetMultiviewerDataCommandReply changes 3 playersDataOverrides",
                          "SetMultiviewerDataCommandParams changes 2 playersDataOverrides"}},
-                       {"any other is 1", {"GetPlaylistsCommandParams changes 2 elementMode"}},
-                       {"any other is 2", {"GetServersCommandParams changes 2 serverRange"}}});
+                       {"an unknown number is 1", {"GetPlaylistsCommandParams changes 2 elementMode"}},
+                       {"an unknown number is 2", {"GetServersCommandParams changes 2 serverRange"}}});
 }
 
 } // namespace

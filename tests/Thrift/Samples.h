@@ -19,7 +19,7 @@
 namespace Talvo::Tests
 {
 
-/// Compares a text with the file that records it. With TALVO_RENEW_RECORDED in the environment the file is written anew.
+/// Compares a text with the recorded file. If TALVO_RENEW_RECORDED is set in the environment, writes the file first.
 inline void ExpectRecorded(std::string const& text, std::string const& name)
 {
     auto const path = std::string(TALVO_RECORDED) + '/' + name;
@@ -29,7 +29,7 @@ inline void ExpectRecorded(std::string const& text, std::string const& name)
     EXPECT_EQ(text, recorded.str());
 }
 
-/// A record filled from the protocol.
+/// Returns a record that is read from `filler`.
 inline std::unique_ptr<Records::WireRecord> Filled(Records::RecordType const& type, Records::RecordFiller filler)
 {
     auto record = type.make();
@@ -37,7 +37,7 @@ inline std::unique_ptr<Records::WireRecord> Filled(Records::RecordType const& ty
     return record;
 }
 
-/// Converts a record into a domain object, on top of what that holds.
+/// Converts a record into a used domain object.
 inline void Receive(Records::RecordType const& type, Records::WireRecord const& record, Records::DomainObject& domain)
 {
     auto const result = type.convertToDomain(record, domain, Records::Form::Checked);
@@ -61,14 +61,14 @@ inline std::unique_ptr<Records::WireRecord> Sent(Records::RecordType const& type
     return record;
 }
 
-/// The numbers of a full record with which most of it travels: a video standard with its rates, clips with results that
-/// succeeded.
+/// The numbers that fill a full record so that most of its fields are written: a video standard with matching rates,
+/// and clips in results that succeeded.
 inline std::vector<std::int16_t> FullNumbers(std::string_view const name)
 {
     static std::map<std::string_view, std::vector<std::int16_t>> const others{
-        {"Sequence", {2, 1, 3}},         // a rate that is no fraction
-        {"OperationStatus", {3, 2, 1}},  // a failure, which has a result
-        {"PlayerDataOverrides", {2, 1}}, // numbers that its enumerations have
+        {"Sequence", {2, 1, 3}},         // a rate that is not a fraction
+        {"OperationStatus", {3, 2, 1}},  // a failure, since only that has a result
+        {"PlayerDataOverrides", {2, 1}}, // only known numbers of its enumerations
     };
     auto const other = others.find(name);
     return other == others.end() ? std::vector<std::int16_t>{1, 2, 3} : other->second;

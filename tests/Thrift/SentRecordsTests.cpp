@@ -1,6 +1,6 @@
-// What is written of each record that converts to the wire is the text sent-records.txt beside this file: from a new domain
-// object, from a full one, from one of numbers that need all their bytes, where such a record converts, and from one that
-// was received from as few fields as it takes, and from some that are built by hand.
+// Compares the written form of each record that converts to the wire with sent-records.txt in this folder. The domain
+// objects are new, full, wide (with numbers that need all their bytes, if such a record converts), bare (received from
+// as few fields as possible), and for some records built by hand.
 
 #include "tests/Thrift/BuiltRecords.h"
 #include "tests/Thrift/Samples.h"
@@ -24,7 +24,7 @@ namespace
 
 using namespace Records;
 
-/// What is written of a type's two domain objects, by the heading of the block.
+/// The written records by the headings of their blocks.
 using Blocks = std::map<std::string, View>;
 
 constexpr std::size_t LineWidth = 120;
@@ -36,7 +36,7 @@ bool IsEmpty(View const& view)
                                            : view.text == "0" || view.text == "false" || view.text == "\"\"";
 }
 
-/// A value with its parts in one line.
+/// Returns a value with its parts in one line.
 std::string Inline(View const& view)
 {
     if (view.kind == View::Kind::Record && IsEmpty(view)) return view.text + ", empty";
@@ -93,7 +93,8 @@ bool Converts(RecordType const& type, WireRecord const& record)
     return type.convertToDomain(record, *domain, Form::Checked).success;
 }
 
-/// What is received from the fields of a full record with these ids, or null where they do not convert.
+/// Returns the domain object that is received from the fields of a full record with these ids, or null if they do not
+/// convert.
 std::unique_ptr<DomainObject> ReceivedFrom(RecordType const& type, std::set<std::int16_t> const& ids)
 {
     auto record = type.make();
@@ -110,7 +111,8 @@ std::unique_ptr<DomainObject> ReceivedFrom(RecordType const& type, std::set<std:
     return Converts(type, *record) ? Received(type, *record) : nullptr;
 }
 
-/// What is received from the fields without which a full record does not convert, and from one more if that takes one.
+/// Returns the domain object that is received from the fields without which a full record does not convert, and from
+/// one more field if the conversion needs one.
 std::unique_ptr<DomainObject> BareDomain(RecordType const& type)
 {
     auto filler = RecordFiller::Convertible(FullNumbers(type.name));
@@ -132,7 +134,7 @@ std::unique_ptr<DomainObject> BareDomain(RecordType const& type)
     return domain;
 }
 
-/// What is written of the domain object that `make` makes. Identifiers that differ each time are not shown.
+/// Returns the record that is written from the result of `make`, with generated identifiers hidden.
 View SentOf(RecordType const& type, auto const& make)
 {
     auto view = Sent(type, *make())->Fields();
@@ -145,7 +147,7 @@ View SentOf(RecordType const& type, auto const& make)
     return view;
 }
 
-TEST(SentRecords, AreAsRecorded)
+TEST(SentRecords, MatchTheRecordedFile)
 {
     Blocks blocks;
     for (auto const& type : RecordTypes())

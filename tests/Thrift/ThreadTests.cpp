@@ -29,7 +29,7 @@ struct Input
     std::unique_ptr<WireRecord> record;
 };
 
-/// Some values of each record that converts both ways. Nothing is converted yet.
+/// Returns some values of each record that converts in both directions. Converts nothing yet.
 std::vector<Input> Inputs()
 {
     std::vector<Input> inputs;
@@ -45,7 +45,7 @@ std::vector<Input> Inputs()
     return inputs;
 }
 
-/// What became of the input: the message of a failure, or the bytes that came back and whether they mean the same.
+/// Returns the message of a failure, or the bytes after the round trip and whether they have the same meaning.
 std::string Result(Input const& input)
 {
     auto const trip = input.type->throughDomain(*input.record);
@@ -54,7 +54,7 @@ std::string Result(Input const& input)
     return (same ? "came back as " : "came back changed as ") + Encode(*trip.record, Protocol::Binary);
 }
 
-/// The results from `first` on and then of those before, in the order of the inputs.
+/// Converts the inputs from `first` on, then those before it. Returns the results in the order of the inputs.
 std::vector<std::string> Results(std::vector<Input> const& inputs, std::size_t const first)
 {
     std::vector<std::string> results(inputs.size());
@@ -66,7 +66,7 @@ std::vector<std::string> Results(std::vector<Input> const& inputs, std::size_t c
     return results;
 }
 
-TEST(Threads, ManyMayConvertAtOnceFromTheFirstConversionOn)
+TEST(Threads, ConvertConcurrentlyFromTheFirstConversionOn)
 {
     constexpr std::size_t Count = 8;
     constexpr int Rounds = 20;
@@ -80,7 +80,7 @@ TEST(Threads, ManyMayConvertAtOnceFromTheFirstConversionOn)
             threads.emplace_back(
                 [&, thread]
                 {
-                    // Half of them begin with the same record, the others each with one of their own.
+                    // Half of the threads start with the same record, and each of the others with a different one.
                     auto const first = thread % 2 == 0 ? 0 : thread * inputs.size() / Count;
                     start.arrive_and_wait();
                     results[thread] = Results(inputs, first);

@@ -17,8 +17,8 @@
 namespace Talvo::Tests
 {
 
-/// The protocols that a record is sent through. JSON loses NUL bytes when it is read, so what goes through all three has
-/// none inside its texts.
+/// The protocols of the round trips. Thrift loses NUL bytes when it reads JSON, so records for all three have none in
+/// their texts.
 inline std::array<std::shared_ptr<apache::thrift::protocol::TProtocolFactory>, 3> const& Protocols()
 {
     using namespace apache::thrift::protocol;
@@ -36,7 +36,7 @@ std::string Written(TRecord const& record, apache::thrift::protocol::TProtocolFa
     return buffer->getBufferAsString();
 }
 
-// The same of a record whose type is known by its name only.
+// Returns the bytes of a record whose type is known only at run time.
 inline std::string WrittenBytes(Records::WireRecord const& record,
                                 apache::thrift::protocol::TProtocolFactory& protocols)
 {
@@ -63,7 +63,7 @@ TRecord Read(std::string_view const bytes, apache::thrift::protocol::TProtocolFa
     return record;
 }
 
-/// The fields of a record, each as the bytes of a record that holds nothing else (binary protocol).
+/// Returns each field of a record as the bytes of a record with only that field, in the binary protocol.
 template<typename TRecord>
 std::vector<std::string> FieldByField(TRecord const& record)
 {
