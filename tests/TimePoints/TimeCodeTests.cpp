@@ -241,7 +241,7 @@ void EveryFrameThereAndBack(int rate, bool dropFrame, int expected)
                     WriteTimeCode(timeCode, written);
                     ASSERT_TRUE(timeCode.Sample() == midnight + frames && written == text) << written << ", " << text;
 
-                    // Negative counts mirror positive ones. Checked where a second starts, after dropped frames, and ends.
+                    // Negative counts mirror positive ones. Only the first frames and the last of a second are checked.
                     if (builder.sample > rate / 15 && builder.sample < rate - 1) continue;
                     negative.DateTimeToSample(1900, 1, 1, 0, 0, 0, -frames);
                     TimeCodeBreakdown const mirror{negative};
