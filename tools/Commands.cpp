@@ -13,6 +13,7 @@
 #include <limits>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <utility>
 
@@ -33,31 +34,12 @@ std::string_view Directions(RecordType const& type)
     return "-";
 }
 
-/// Calls `read`; a failure of that names the file.
-template<typename TRead>
-auto Naming(Source const& source, TRead const& read)
+/// `name` is what notes call the record.
+std::unique_ptr<WireRecord> ReadRecord(Message const& message, std::string const& name)
 {
-    try
-    {
-        return read();
-    }
-    catch (Failure const& failure)
-    {
-        throw Failure(InputName(source.path) + ": " + failure.what());
-    }
-}
-
-Message Load(Source const& source, RecordType const& type)
-{
-    auto bytes = ReadFile(source.path, source.limits.bytes);
-    return Naming(source, [&] { return Message(std::move(bytes), source.protocol, type, source.limits); });
-}
-
-std::unique_ptr<WireRecord> ReadRecord(Source const& source, Message const& message)
-{
-    auto decoded = Naming(source, [&] { return Decode(message); });
+    auto decoded = Decode(message);
     if (decoded.skippedFields > 0)
-        Report("note: " + InputName(source.path) + " holds " + std::to_string(decoded.skippedFields) +
+        Report("note: " + name + " holds " + std::to_string(decoded.skippedFields) +
                " fields that the record does not have; they were skipped");
     return std::move(decoded.record);
 }
@@ -99,11 +81,11 @@ struct Journey
 };
 
 /// Of the record, the domain object and the record that comes back, two are in memory at once and no more.
-Journey Travel(Source const& source, Message const& message)
+Journey Travel(Message const& message, std::string const& name)
 {
     auto const& type = message.Type();
     Journey journey;
-    auto record = ReadRecord(source, message);
+    auto record = ReadRecord(message, name);
     auto domain = type.makeDomain(*record);
     journey.toDomain = type.convertToDomain(*record, *domain, Records::Form::Checked);
     record.reset();
@@ -178,6 +160,13 @@ void PrintAsText(Journey const& journey, Style const& style)
               << tally.added << " added\n";
 }
 
+/// The start of an object whose first member is the path of a value.
+void PrintJsonPath(std::span<Step const> const path)
+{
+    std::cout << R"({"path":)";
+    PrintJson(std::cout, PathText(path));
+}
+
 void PrintResult(ConversionResult const& result)
 {
     std::cout << R"({"success":)" << (result.success ? "true" : "false") << R"(,"message":)";
@@ -203,8 +192,7 @@ void PrintAsJson(RecordType const& type, Journey const& journey)
         [&](Place const& place)
         {
             changes.Next();
-            std::cout << R"({"path":)";
-            PrintJson(std::cout, PathText(place.path));
+            PrintJsonPath(place.path);
             std::cout << R"(,"before":)";
             PrintJsonValue(std::cout, place.before);
             std::cout << R"(,"after":)";
@@ -213,6 +201,56 @@ void PrintAsJson(RecordType const& type, Journey const& journey)
         });
     changes.End();
     std::cout << "}\n";
+}
+
+void PrintAsText(RecordType const& type, WireRecord const& record, Style const& style)
+{
+    std::cout << Painted(std::string(type.name), Colour::Bold, style) << '\n';
+    record.VisitValues(
+        [&](Place const& place)
+        {
+            std::cout << "  " << Painted(PathText(place.path), Colour::Cyan, style) << " = ";
+            PrintValue(std::cout, *place.before);
+            std::cout << '\n';
+        });
+}
+
+void PrintAsJson(RecordType const& type, WireRecord const& record)
+{
+    std::cout << R"({"record": ")" << type.name << "\",\n\"values\": ";
+    JsonArray values;
+    record.VisitValues(
+        [&](Place const& place)
+        {
+            values.Next();
+            PrintJsonPath(place.path);
+            std::cout << R"(,"value":)";
+            PrintJsonValue(std::cout, place.before);
+            std::cout << '}';
+        });
+    values.End();
+    std::cout << "}\n";
+}
+
+/// Notes what the record loses in the protocol in which `bytes` have it: Thrift's JSON reader drops zero bytes.
+void NoteLosses(Message const& message, std::string_view const bytes, Protocol const protocol, std::string const& name)
+{
+    auto anySize = message.Bounds();
+    anySize.bytes = std::numeric_limits<std::int32_t>::max();
+    Message const back(bytes, protocol, message.Type(), anySize);
+    if (std::ranges::equal(back.Bytes(), message.Bytes())) return;
+
+    std::size_t lost = 0;
+    std::string first;
+    Decode(message).record->VisitValues(*Decode(back).record, FieldSet::Read,
+                                        [&](Place const& place)
+                                        {
+                                            if (place.before == place.after || lost++ > 0) return;
+                                            first = PathText(place.path);
+                                        });
+    if (lost > 0)
+        Report("note: " + name + ": " + std::string(Name(protocol)) + " does not keep this record; " +
+               std::to_string(lost) + " of its values read back different, such as " + first);
 }
 
 } // namespace
@@ -241,34 +279,15 @@ void List(Style const& style)
 void Print(Source const& source, Style const& style)
 {
     auto const& type = FindRecordType(source.record);
-    auto const record = ReadRecord(source, Load(source, type));
-    if (!style.json)
-    {
-        std::cout << Painted(std::string(type.name), Colour::Bold, style) << '\n';
-        record->VisitValues(
-            [&](Place const& place)
-            {
-                std::cout << "  " << Painted(PathText(place.path), Colour::Cyan, style) << " = ";
-                PrintValue(std::cout, *place.before);
-                std::cout << '\n';
-            });
-        return;
-    }
-
-    std::cout << R"({"record": ")" << type.name << "\",\n\"values\": ";
-    JsonArray values;
-    record->VisitValues(
-        [&](Place const& place)
-        {
-            values.Next();
-            std::cout << R"({"path":)";
-            PrintJson(std::cout, PathText(place.path));
-            std::cout << R"(,"value":)";
-            PrintJsonValue(std::cout, place.before);
-            std::cout << '}';
-        });
-    values.End();
-    std::cout << "}\n";
+    ForEachRecord(source, type,
+                  [&](Message const& message, std::string const& name)
+                  {
+                      auto const record = ReadRecord(message, name);
+                      if (style.json)
+                          PrintAsJson(type, *record);
+                      else
+                          PrintAsText(type, *record, style);
+                  });
 }
 
 ExitStatus Convert(Source source, Target const& target, Style const& style)
@@ -281,43 +300,39 @@ ExitStatus Convert(Source source, Target const& target, Style const& style)
     // The domain object takes about as much as the record.
     source.limits.memory /= 2;
     source.limits.memoryPerByte /= 2;
-    auto const journey = Travel(source, Load(source, type));
-    if (style.json)
-        PrintAsJson(type, journey);
-    else
-        PrintAsText(journey, style);
-    ReportFailures(type, journey);
-    if (journey.after == nullptr) return ExitStatus::ConversionFailed;
-
-    if (!target.path.empty()) WriteFile(target.path, Encode(*journey.after, target.protocol));
-    return ExitStatus::Done;
+    auto status = ExitStatus::Done;
+    std::string written;
+    ForEachRecord(source, type,
+                  [&](Message const& message, std::string const& name)
+                  {
+                      auto const journey = Travel(message, name);
+                      if (style.json)
+                          PrintAsJson(type, journey);
+                      else
+                          PrintAsText(journey, style);
+                      ReportFailures(type, journey);
+                      if (journey.after == nullptr)
+                          status = ExitStatus::ConversionFailed;
+                      else if (!target.path.empty())
+                          written += Encode(*journey.after, target.protocol);
+                  });
+    if (status == ExitStatus::Done && !target.path.empty()) WriteFile(target.path, written);
+    return status;
 }
 
 void Transcode(Source const& source, Target const& target)
 {
     auto const& type = FindRecordType(source.record);
-    auto const message = Load(source, type);
-    Naming(source, [&] { return Decode(message); });
-    auto bytes = Naming(source, [&] { return Transcode(message, target.protocol); });
-    WriteFile(target.path, bytes);
-
-    // Thrift's JSON reader drops zero bytes, so not every record comes back from it.
-    auto anySize = source.limits;
-    anySize.bytes = std::numeric_limits<std::int32_t>::max();
-    Message const back(std::move(bytes), target.protocol, type, anySize);
-    if (std::ranges::equal(back.Bytes(), message.Bytes())) return;
-
-    std::size_t lost = 0;
-    std::string first;
-    Decode(message).record->VisitValues(*Decode(back).record, FieldSet::Read,
-                                        [&](Place const& place)
-                                        {
-                                            if (place.before == place.after || lost++ > 0) return;
-                                            first = PathText(place.path);
-                                        });
-    if (lost > 0)
-        Report("note: " + std::string(Name(target.protocol)) + " does not keep this record; " + std::to_string(lost) +
-               " of its values read back different, such as " + first);
+    std::string written;
+    ForEachRecord(source, type,
+                  [&](Message const& message, std::string const& name)
+                  {
+                      Decode(message);
+                      auto bytes = Transcode(message, target.protocol);
+                      NoteLosses(message, bytes, target.protocol, name);
+                      written = written.empty() ? std::move(bytes) : std::move(written) + bytes;
+                  });
+    WriteFile(target.path, written);
 }
 
 } // namespace Talvo::Tools

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/Protocols.h"
+#include "tools/Capture.h"
 #include "tools/Style.h"
 
 #include <string>
@@ -16,16 +16,7 @@ enum class ExitStatus
     BadInput = 2
 };
 
-/// A record in a file.
-struct Source
-{
-    std::string record; ///< Name of its type.
-    std::string path;   ///< "-" for standard input.
-    Protocol protocol;
-    Limits limits;
-};
-
-/// Where a record is written to.
+/// Where records are written to, one after the other without frame and header.
 struct Target
 {
     std::string path; ///< "-" for standard output; empty for nowhere.
@@ -38,14 +29,14 @@ struct Target
 /// Prints every record's name, namespace and directions.
 void List(Style const& style);
 
-/// Prints one line for each value of a record.
+/// Prints one line for each value of the records.
 void Print(Source const& source, Style const& style);
 
-/// Converts a record to the domain and back, prints what each conversion said and every value that came back different,
-/// and writes the record that came back. To the domain it converts with TryTo().
+/// Converts records to the domain and back, prints what each conversion said and every value that came back different, and
+/// writes the records that came back, if all did. To the domain it converts with TryTo().
 ExitStatus Convert(Source source, Target const& target, Style const& style);
 
-/// Writes a record in another protocol. Notes on standard error where that protocol can't carry it unchanged.
+/// Writes records in another protocol. Notes on standard error where that protocol can't carry it unchanged.
 void Transcode(Source const& source, Target const& target);
 
 } // namespace Talvo::Tools

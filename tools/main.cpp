@@ -27,11 +27,17 @@ struct Arguments
     std::string protocol = "binary";
     std::string toProtocol;
     std::string output;
+    std::string encoding = "bytes";
+    bool framed = false;
+    bool all = false;
     Limits limits;
     bool json = false;
     std::string colour = "auto";
 
-    Source From() const { return {record, file, ParseProtocol(protocol), limits}; }
+    Source From() const
+    {
+        return {record, file, ParseProtocol(protocol), limits, ParseEncoding(encoding), framed, all};
+    }
     Target To() const { return {output, ParseProtocol(toProtocol.empty() ? protocol : toProtocol)}; }
     Style Printed() const { return {json, !json && HasColour(colour)}; }
 };
@@ -56,6 +62,12 @@ void AddRecord(CLI::App& command, Arguments& arguments)
         ->type_name("");
     command.add_option("-p,--protocol", arguments.protocol, "Its protocol: binary (default), compact or json")
         ->type_name("PROTOCOL");
+    command
+        .add_option("--encoding", arguments.encoding, "How the file writes its bytes: bytes (default), hex or base64")
+        ->type_name("ENCODING");
+    command.add_flag("--framed", arguments.framed,
+                     "Each record is in a frame; without this, frames and message headers are found");
+    command.add_flag("--all", arguments.all, "The file holds one or more records, one after the other");
     command.add_option("--max-bytes", arguments.limits.bytes, "The largest file that is read")
         ->type_name("N")
         ->capture_default_str()

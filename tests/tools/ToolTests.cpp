@@ -26,41 +26,6 @@ using testing::MatchesRegex;
 using testing::Not;
 using namespace std::string_literals;
 
-using Arguments = std::vector<std::string>;
-
-std::string SamplePath(std::string const& file)
-{
-    return TALVO_SAMPLES "/" + file;
-}
-std::string Sample(std::string const& file)
-{
-    return Read(SamplePath(file));
-}
-
-/// One line of the tool's own, with that text in it.
-auto OneLine(std::string const& text)
-{
-    return AllOf(MatchesRegex("talvo-wire: [^\n]+\n"), HasSubstr(text));
-}
-
-void ExpectRefused(Outcome const& outcome, std::string const& text = {})
-{
-    EXPECT_EQ(outcome.status, 2);
-    EXPECT_THAT(outcome.output, IsEmpty());
-    EXPECT_THAT(outcome.errors, OneLine(text));
-}
-
-/// The record in another protocol, as the tool writes it.
-std::string Transcoded(std::string const& record, std::string const& bytes, std::string const& from,
-                       std::string const& to)
-{
-    auto const outcome = RunTool({"transcode", record, "-p", from, "--to", to, "-o", "-"}, bytes);
-    EXPECT_EQ(outcome.status, 0) << record << ' ' << from << ' ' << to << ' ' << outcome.errors;
-    return outcome.output;
-}
-
-std::string const Protocols[] = {"binary", "compact", "json"};
-
 /// The directions of each record, by its name.
 std::map<std::string, std::string> Listed()
 {
@@ -542,14 +507,6 @@ TEST(Tool, ReadsOrRefusesChangedJson) // the other protocols are the fuzzer's
         SCOPED_TRACE(testing::PrintToString(changed));
         ReadOrRefuse("AnglesGroup", "json", changed, false);
     }
-}
-
-/// A number of four bytes, the largest first.
-std::string Number(std::size_t const number)
-{
-    std::string bytes;
-    for (auto const shift : {24U, 16U, 8U, 0U}) bytes += static_cast<char>(number >> shift & 0xFFU);
-    return bytes;
 }
 
 std::string Repeated(std::string const& bytes, std::size_t const count)
