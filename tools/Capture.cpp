@@ -92,6 +92,22 @@ Walk FindRecords(Bytes const& source, bool const framed)
     return best;
 }
 
+/// Adds what a record of that type has in these bytes, if they are one.
+bool Adds(Guess& guess, std::string_view const record, Limits const& limits)
+{
+    try
+    {
+        auto const decoded = Decode(Message(record, guess.protocol, *guess.type, limits));
+        decoded.record->VisitValues([&](Place const&) { ++guess.values; });
+        guess.skippedFields += decoded.skippedFields;
+        return true;
+    }
+    catch (Failure const&)
+    {
+        return false;
+    }
+}
+
 /// Whether they are one record of that type, of which some fields are there.
 bool Holds(Bytes const& source, RecordType const& type)
 {
@@ -125,8 +141,8 @@ std::string Beginning(std::string_view const bytes)
            " are there";
 }
 
-/// What else the bytes may be, and how they can be read; empty if that is unknown.
-std::string Appearance(Bytes source, RecordType const& type)
+/// What else the bytes may be, such as a `type` in another protocol, and how they can be read; empty if that is unknown.
+std::string Appearance(Bytes source, RecordType const* const type)
 {
     auto const given = source.protocol;
     if (!std::exchange(source.all, true))
@@ -138,8 +154,8 @@ std::string Appearance(Bytes source, RecordType const& type)
     for (auto const protocol : AllProtocols)
     {
         source.protocol = protocol;
-        if (protocol != given && Holds(source, type))
-            return "a " + std::string(type.name) + " in the " + std::string(Name(protocol)) + " protocol";
+        if (protocol != given && type != nullptr && Holds(source, *type))
+            return "a " + std::string(type->name) + " in the " + std::string(Name(protocol)) + " protocol";
     }
     if (auto const text = TextKind(source.bytes); !text.empty()) return std::string(text);
     return Beginning(source.bytes);
@@ -151,7 +167,7 @@ Failure NoRecords(Bytes const& source, RecordType const& type, Walk const& walk)
     auto reason = walk.problem;
     if (source.all && walk.count > 0)
         reason += ", at byte " + std::to_string(walk.size) + " after " + std::to_string(walk.count) + " records";
-    if (auto const appearance = Appearance(source, type); !appearance.empty())
+    if (auto const appearance = Appearance(source, &type); !appearance.empty())
         reason += "; it looks like " + appearance;
     return Refusal(type, source.protocol, reason);
 }
@@ -185,33 +201,72 @@ auto Naming(std::string const& name, TUse const& use)
     }
 }
 
-} // namespace
-
-void ForEachRecord(Source const& source, RecordType const& type, RecordUse const& use)
+std::string ReadBytes(Source const& source)
 {
-    auto const name = InputName(source.path);
     auto text = ReadFile(source.path, source.limits.bytes);
-    auto const bytes = Naming(name,
-                              [&]
-                              {
-                                  if (text.size() > source.limits.bytes)
-                                      throw Refusal(type, source.protocol,
-                                                    "it has more than the " + std::to_string(source.limits.bytes) +
-                                                        " bytes of --max-bytes");
-                                  return DecodeText(std::move(text), source.encoding);
-                              });
+    return Naming(InputName(source.path),
+                  [&]
+                  {
+                      if (text.size() > source.limits.bytes)
+                          throw Failure("has more than the " + std::to_string(source.limits.bytes) +
+                                        " bytes of --max-bytes");
+                      return DecodeText(std::move(text), source.encoding);
+                  });
+}
 
-    Bytes rest{bytes, source.protocol, source.limits, source.all};
-    auto const walk = FindRecords(rest, source.framed);
-    if (!walk.problem.empty()) Naming(name, [&]() { throw NoRecords(rest, type, walk); });
+/// Calls use(record, name) for each record of the bytes, where `walk` found them.
+void ForEachPiece(Source const& source, Bytes rest, Walk const& walk, auto const& use)
+{
+    auto const file = InputName(source.path);
     for (std::size_t index = 0; index < walk.count; ++index)
     {
         auto const piece = Take(rest, walk.layout);
         rest.bytes = piece.rest;
         if (index == 0) NoteLayout(source, walk, piece);
-        auto const recordName = source.all ? name + ", record " + std::to_string(index) : name;
-        Naming(recordName, [&] { use(Message(piece.record, source.protocol, type, source.limits), recordName); });
+        auto const name = source.all ? file + ", record " + std::to_string(index) : file;
+        Naming(name, [&] { use(piece.record, name); });
     }
+}
+
+} // namespace
+
+void ForEachRecord(Source const& source, RecordType const& type, RecordUse const& use)
+{
+    auto const text = ReadBytes(source);
+    Bytes const bytes{text, source.protocol, source.limits, source.all};
+    auto const walk = FindRecords(bytes, source.framed);
+    if (!walk.problem.empty()) Naming(InputName(source.path), [&]() { throw NoRecords(bytes, type, walk); });
+    ForEachPiece(source, bytes, walk,
+                 [&](std::string_view const record, std::string const& name)
+                 { use(Message(record, source.protocol, type, source.limits), name); });
+}
+
+std::vector<Guess> GuessRecords(Source const& source, std::span<Protocol const> const protocols)
+{
+    auto const text = ReadBytes(source);
+    std::vector<Guess> guesses;
+    for (auto const protocol : protocols)
+    {
+        Bytes const bytes{text, protocol, source.limits, source.all};
+        auto const walk = FindRecords(bytes, source.framed);
+        if (!walk.problem.empty()) continue;
+        std::vector<Guess> fitting;
+        for (auto const& type : RecordTypes()) fitting.push_back({&type, protocol, 0, 0});
+        ForEachPiece(source, bytes, walk,
+                     [&](std::string_view const record, std::string const&)
+                     { std::erase_if(fitting, [&](Guess& guess) { return !Adds(guess, record, source.limits); }); });
+        guesses.insert(guesses.end(), fitting.begin(), fitting.end());
+    }
+    if (guesses.empty())
+    {
+        auto const appearance = Appearance({text, protocols.front(), source.limits, source.all}, nullptr);
+        throw Failure(InputName(source.path) + ": no record fits its bytes" +
+                      (appearance.empty() ? "" : "; it looks like " + appearance));
+    }
+    std::ranges::stable_sort(
+        guesses, [](Guess const& left, Guess const& right)
+        { return std::pair(left.skippedFields, right.values) < std::pair(right.skippedFields, left.values); });
+    return guesses;
 }
 
 } // namespace Talvo::Tools

@@ -276,6 +276,37 @@ void List(Style const& style)
     std::cout << '\n';
 }
 
+void GuessTypes(Source const& source, std::span<Protocol const> const protocols, Style const& style)
+{
+    auto const guesses = GuessRecords(source, protocols);
+    if (!style.json)
+    {
+        Table table(style);
+        auto const cells = [](Guess const& guess) -> Table::Cells
+        {
+            return {std::string(guess.type->name), std::string(Name(guess.protocol)), std::to_string(guess.values),
+                    std::to_string(guess.skippedFields)};
+        };
+        Table::Cells const titles{"record", "protocol", "values", "skipped fields"};
+        table.Measure(titles);
+        for (auto const& guess : guesses) table.Measure(cells(guess));
+        table.Print(titles, Colour::Bold);
+        for (auto const& guess : guesses)
+            table.Print(cells(guess), guess.skippedFields == 0 ? Colour::Green : Colour::None);
+        return;
+    }
+
+    JsonArray types;
+    for (auto const& guess : guesses)
+    {
+        types.Next();
+        std::cout << R"({"record":")" << guess.type->name << R"(","protocol":")" << Name(guess.protocol)
+                  << R"(","values":)" << guess.values << R"(,"skippedFields":)" << guess.skippedFields << '}';
+    }
+    types.End();
+    std::cout << '\n';
+}
+
 void Print(Source const& source, Style const& style)
 {
     auto const& type = FindRecordType(source.record);

@@ -3,6 +3,7 @@
 #include "tools/Capture.h"
 #include "tools/Style.h"
 
+#include <span>
 #include <string>
 
 namespace Talvo::Tools
@@ -28,6 +29,9 @@ struct Target
 
 /// Prints every record's name, namespace and directions.
 void List(Style const& style);
+
+/// Prints the types of records that may be in a file, the likeliest first, in one of `protocols`.
+void GuessTypes(Source const& source, std::span<Protocol const> protocols, Style const& style);
 
 /// Prints one line for each value of the records.
 void Print(Source const& source, Style const& style);

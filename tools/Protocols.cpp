@@ -316,7 +316,9 @@ Decoded Decode(Message const& message)
     decoded.skippedFields = reader.SkippedFields();
     bool isEmpty = true;
     if (decoded.skippedFields > 0) decoded.record->VisitValues([&](auto const&) { isEmpty = false; });
-    if (decoded.skippedFields > 0 && isEmpty) throw Refusal(type, protocol, "it holds none of that record's fields");
+    if (decoded.skippedFields > 0 && isEmpty)
+        throw Refusal(type, protocol,
+                      "it holds none of that record's fields; talvo-wire guess names the records that fit");
     return decoded;
 }
 

@@ -4,11 +4,14 @@
 
 #include <CLI/CLI.hpp>
 
+#include <array>
+#include <cstdint>
 #include <cstdlib>
 #include <exception>
 #include <iostream>
 #include <limits>
 #include <new>
+#include <span>
 #include <string>
 #include <tuple>
 
@@ -52,16 +55,12 @@ CLI::App* AddCommand(CLI::App& app, char const* name, char const* description, s
     return command;
 }
 
-void AddRecord(CLI::App& command, Arguments& arguments)
+void AddFile(CLI::App& command, Arguments& arguments, char const* const protocol)
 {
     static constexpr int MaxLimit = std::numeric_limits<std::int32_t>::max();
-    command.add_option("RECORD", arguments.record, "Name of the record, as list shows it")
-        ->required()
-        ->type_name("NAME");
     command.add_option("FILE", arguments.file, "File that holds the record; - or nothing for standard input")
         ->type_name("");
-    command.add_option("-p,--protocol", arguments.protocol, "Its protocol: binary (default), compact or json")
-        ->type_name("PROTOCOL");
+    command.add_option("-p,--protocol", arguments.protocol, protocol)->type_name("PROTOCOL");
     command
         .add_option("--encoding", arguments.encoding, "How the file writes its bytes: bytes (default), hex or base64")
         ->type_name("ENCODING");
@@ -76,6 +75,14 @@ void AddRecord(CLI::App& command, Arguments& arguments)
         ->type_name("N")
         ->capture_default_str()
         ->check(CLI::Range(1, MaxLimit).description(""));
+}
+
+void AddRecord(CLI::App& command, Arguments& arguments)
+{
+    command.add_option("RECORD", arguments.record, "Name of the record, as list shows it")
+        ->required()
+        ->type_name("NAME");
+    AddFile(command, arguments, "Its protocol: binary (default), compact or json");
 }
 
 void AddJson(CLI::App& command, Arguments& arguments)
@@ -117,6 +124,13 @@ ExitStatus Run(int argc, char** argv)
                                   "  talvo-wire list --json");
     AddJson(*list, arguments);
 
+    auto* const guess = AddCommand(app, "guess", "Name the records that fit the bytes of a file, best first",
+                                   "  talvo-wire guess train.compact\n"
+                                   "  talvo-wire guess --json --protocol binary < guid.binary");
+    AddFile(*guess, arguments, "Its protocol; all of them are tried if not given");
+    AddJson(*guess, arguments);
+    AddColour(*guess, arguments);
+
     auto* const print = AddCommand(app, "print", "Read a record and print it",
                                    "  talvo-wire print Clip clip-utf16-name.binary\n"
                                    "  talvo-wire print Train --protocol compact --json < train.compact");
@@ -148,6 +162,13 @@ ExitStatus Run(int argc, char** argv)
         app.parse(argc, argv);
         if (*list)
             List(arguments.Printed());
+        else if (*guess)
+        {
+            std::array const given{ParseProtocol(arguments.protocol)};
+            bool const isGiven = guess->count("--protocol") > 0;
+            GuessTypes(arguments.From(), isGiven ? std::span<Protocol const>(given) : AllProtocols,
+                       arguments.Printed());
+        }
         else if (*print)
             Print(arguments.From(), arguments.Printed());
         else if (*convert)

@@ -1,7 +1,10 @@
 #include "tests/tools/Tool.h"
 
+#include <nlohmann/json.hpp>
+
 #include <string>
 #include <tuple>
+#include <utility>
 
 namespace
 {
@@ -161,6 +164,55 @@ TEST(Capture, SaysWhatAFileLooksLike)
     for (auto const& [protocol, bytes, appearance] : rows)
         ExpectRefused(RunTool({"print", "Train", "-p", protocol}, bytes), appearance);
     EXPECT_THAT(RunTool({"print", "Train"}, train + "\xff").errors, Not(HasSubstr("looks like")));
+}
+
+TEST(Capture, GuessesWhichRecordAFileHolds)
+{
+    auto const train = Sample("train.binary");
+    auto const first = [](std::string const& output)
+    {
+        auto const start = output.find('\n') + 1;
+        return output.substr(start, output.find('\n', start) - start);
+    };
+    // The samples whose fields no other record has with the same types.
+    for (auto const* name : {"Clip clip-two-essences", "Train train", "PlayerState player-state",
+                             "Tag tag-unknown-keys", "AnglesGroup angles-group", "Playlist playlist"})
+        for (std::string const protocol : {"binary", "compact"})
+        {
+            auto const record = std::string(name, std::string(name).find(' '));
+            auto const file = std::string(name).substr(record.size() + 1) + '.' + protocol;
+            auto const best = first(RunTool({"guess", SamplePath(file)}).output);
+            EXPECT_THAT(best, AllOf(testing::StartsWith(record + ' '), HasSubstr(' ' + protocol + ' '),
+                                    testing::EndsWith("  0")));
+        }
+
+    // Records that skip nothing come before those that skip something, whose values are more.
+    auto const outcome = RunTool({"guess", "--json"}, "\x0b\0\1\0\0\0\1X\2\0\2\1\x08\0\x63\0\0\0\1\0"s);
+    auto const guesses = nlohmann::json::parse(outcome.output);
+    ASSERT_GT(guesses.size(), 2U);
+    for (std::size_t i = 1; i < guesses.size(); ++i)
+    {
+        auto const rank = [&](std::size_t const index)
+        { return std::pair(guesses[index]["skippedFields"].get<int>(), -guesses[index]["values"].get<int>()); };
+        EXPECT_LE(rank(i - 1), rank(i));
+    }
+    EXPECT_EQ(guesses[0]["record"], "AsciiOrUtf16String");
+    EXPECT_EQ(guesses[0]["values"], 2);
+    EXPECT_EQ(guesses[0]["skippedFields"], 1);
+    EXPECT_THAT(guesses, testing::Contains(nlohmann::json{
+                             {"record", "Guid"}, {"protocol", "binary"}, {"values", 1}, {"skippedFields", 2}}));
+
+    // What is around the records counts for nothing, and a record has to fit all of them.
+    auto const several = RunTool({"guess", "--all"}, Framed(Strict + train) + Framed(Strict + train));
+    EXPECT_THAT(first(several.output), testing::MatchesRegex("Train +binary +[0-9]+ +0"));
+    EXPECT_THAT(several.errors, OneLine("2 records in frames, after message headers"));
+    auto const mixed = RunTool({"guess", "--all"}, train + Guid('A'));
+    EXPECT_THAT(mixed.output, Not(HasSubstr("\nGuid ")));
+
+    ExpectRefused(RunTool({"guess", "-p", "compact", SamplePath("train.binary")}), "no record fits its bytes");
+    ExpectRefused(RunTool({"guess"}, "Hello\n"), "standard input: no record fits its bytes; it looks like text");
+    ExpectRefused(RunTool({"guess"}, train + train), "it looks like 2 records; --all reads them");
+    ExpectRefused(RunTool({"guess"}), "no record fits its bytes");
 }
 
 } // namespace

@@ -287,7 +287,7 @@ TEST(Tool, HelpEndsWithExamplesThatRunAsTheyStand)
 {
     auto const folder = TemporaryPath("samples");
     std::filesystem::copy(TALVO_SAMPLES, folder);
-    for (auto const* command : {"list", "print", "convert", "transcode"})
+    for (auto const* command : {"list", "guess", "print", "convert", "transcode"})
     {
         auto const help = RunTool({command, "--help"});
         EXPECT_EQ(help.status, 0);
