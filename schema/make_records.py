@@ -14,7 +14,7 @@ The Thrift compiler does most of the work. This step finishes what it leaves ope
 
 and one header for all of them, which is never installed:
 
-  RecordFields.h       visits all records, and the fields of a record with their flags
+  RecordFields.h       visits all records, and the fields of a record with their flags; names enumerators
 
 An output file is rewritten only when its text changes. Whatever is not as expected ends the step with one line on
 stderr and exit code 1, so that no half-finished record is ever compiled.
@@ -227,10 +227,17 @@ extern const {schema.name}Constants g_{schema.name}_constants;
 
 
 def fields_header(schemas):
-    """A view of all records for internal use: their fields with flags, and their names."""
-    includes, views, records = [], [], []
+    """A view of all records for internal use: their fields with flags, and their names, and those of enumerators."""
+    includes, names, views, records = [], [], [], []
     for schema in schemas.values():
         includes.append(f'#include "generated/{schema.name}_types.h"\n')
+        for enum in schema.enums:
+            names.append(f"""\
+inline char const* EnumeratorName(::{schema.namespace}::{enum}::type const value)
+{{
+    return EnumeratorName(::{schema.namespace}::_{enum}_VALUES_TO_NAMES, value);
+}}
+""")
         for record, fields in schema.records.items():
             visits = []
             for field in fields:
@@ -261,6 +268,7 @@ void VisitFields(std::type_identity<::{schema.namespace}::{record}>, [[maybe_unu
 #define TALVO_RECORD_FIELDS_H
 
 {''.join(includes)}
+#include <map>
 #include <type_traits>
 
 namespace Talvo::Records {{
@@ -272,6 +280,13 @@ enum class Requirement
     Optional ///< Written where its flag is set.
 }};
 
+// The name of the enumerator with that number, or null.
+inline char const* EnumeratorName(std::map<int, char const*> const& names, int const value)
+{{
+    auto const found = names.find(value);
+    return found == names.end() ? nullptr : found->second;
+}}
+{chr(10).join(names)}
 // Calls visit(id, name, requirement, member, isSet) for each field, in the order of the schema: a pointer to the field, and
 // a function that gives the flag of a record's field, for a required one true.
 

@@ -1,7 +1,10 @@
 #include "tools/Text.h"
 
+#include "tools/Utf16.h"
+
 #include <cstddef>
 #include <iostream>
+#include <sstream>
 #include <type_traits>
 #include <variant>
 
@@ -12,17 +15,52 @@ namespace
 {
 
 using Records::Empty;
+using Records::Enumerator;
 using Records::Key;
+using Records::WireText;
+
+void PrintText(std::ostream& output, WireText const& text)
+{
+    static constexpr std::size_t PieceSize = 4096;
+    static constexpr std::size_t IdentifierSize = 16;
+    output << '"';
+    for (std::size_t start = 0; start < text.bytes.size(); start += PieceSize)
+        output << Escaped(text.bytes.substr(start, PieceSize));
+    output << '"';
+    if (text.kind == WireText::Kind::Utf16)
+    {
+        output << " (UTF-16 \"";
+        PrintUtf16(output, text.bytes);
+        output << "\")";
+    }
+    else if (text.kind == WireText::Kind::Identifier && text.bytes.size() == IdentifierSize)
+        output << " (" << Hex(text.bytes) << ')';
+}
 
 std::string KeyText(Value const& key)
 {
     static constexpr std::size_t MaxSize = 64;
-    auto const* const text = std::get_if<std::string_view>(&key);
-    if (text == nullptr || text->size() <= MaxSize) return ValueText(key);
-    return '"' + Escaped(text->substr(0, MaxSize)) + "...\" (" + std::to_string(text->size()) + " bytes)";
+    if (auto const* const enumerator = std::get_if<Enumerator>(&key)) return std::to_string(enumerator->number);
+    auto const* const text = std::get_if<WireText>(&key);
+    if (text == nullptr) return ValueText(key);
+    auto const& bytes = text->bytes;
+    auto const start = '"' + Escaped(bytes.substr(0, MaxSize));
+    return bytes.size() <= MaxSize ? start + '"' : start + "...\" (" + std::to_string(bytes.size()) + " bytes)";
 }
 
 } // namespace
+
+std::string Hex(std::string_view const bytes)
+{
+    static constexpr std::string_view Digits = "0123456789abcdef";
+    std::string text;
+    for (char const byte : bytes)
+    {
+        auto const value = static_cast<unsigned char>(byte);
+        text += {Digits[value >> 4U], Digits[value & 0xFU]};
+    }
+    return text;
+}
 
 std::string PathText(std::span<Step const> const path)
 {
@@ -41,34 +79,31 @@ std::string PathText(std::span<Step const> const path)
 
 std::string ValueText(Value const& value)
 {
-    return std::visit(
-        []<typename T>(T const& held) -> std::string
-        {
-            if constexpr (std::is_same_v<T, bool>)
-                return held ? "true" : "false";
-            else if constexpr (std::is_same_v<T, std::string_view>)
-                return '"' + Escaped(held) + '"';
-            else if constexpr (std::is_same_v<T, Empty>)
-                return held == Empty::Record ? "(no fields)" : held == Empty::List ? "[]" : "{}";
-            else
-                return std::to_string(held);
-        },
-        value);
+    std::ostringstream text;
+    PrintValue(text, value);
+    return text.str();
 }
 
 void PrintValue(std::ostream& output, Value const& value)
 {
-    static constexpr std::size_t PieceSize = 4096;
-    auto const* const text = std::get_if<std::string_view>(&value);
-    if (text == nullptr)
-    {
-        output << ValueText(value);
-        return;
-    }
-    output << '"';
-    for (std::size_t start = 0; start < text->size(); start += PieceSize)
-        output << Escaped(text->substr(start, PieceSize));
-    output << '"';
+    std::visit(
+        [&]<typename T>(T const& held)
+        {
+            if constexpr (std::is_same_v<T, bool>)
+                output << (held ? "true" : "false");
+            else if constexpr (std::is_same_v<T, Enumerator>)
+            {
+                output << held.number;
+                if (held.name != nullptr) output << " (" << held.name << ')';
+            }
+            else if constexpr (std::is_same_v<T, WireText>)
+                PrintText(output, held);
+            else if constexpr (std::is_same_v<T, Empty>)
+                output << (held == Empty::Record ? "(no fields)" : held == Empty::List ? "[]" : "{}");
+            else
+                output << held;
+        },
+        value);
 }
 
 void Report(std::string_view const message)

@@ -16,11 +16,15 @@ using Records::Place;
 using Records::Step;
 using Records::Value;
 
+/// Two digits a byte.
+std::string Hex(std::string_view bytes);
+
 /// A path such as `clips[3].clip.name`. The entries of a map stand under their keys, `players["A"].speed`. A key that is
 /// a text of more than 64 bytes ends there, `players["A..." (70 bytes)].speed`: every value of its entry repeats it.
 std::string PathText(std::span<Step const> path);
 
-/// A value as text: texts are escaped and stand in quotes.
+/// A value as text: texts are escaped and stand in quotes. Beside numbers of enumerations stand their names, beside UTF-16
+/// its characters, and beside identifiers of sixteen bytes these in hex.
 std::string ValueText(Value const& value);
 
 /// The same, printed piece by piece: the text of a value may be large.

@@ -99,10 +99,14 @@ TEST(Tool, PrintsWhatTheFileHoldsAndNothingElse)
     std::pair<std::string, std::string> const lines[] = {
         {"LoadClipsCommandParams load-clips-command.binary",
          R"(  playersParameters["\x00\xff\x80TALVO-PEER-\x00 "].inBoundary.specializedLoadBoundary.absoluteLoadBoundary.timepoint = -1)"},
-        {"AnglesGroup angles-group.binary", R"(  angles[3].clipId.value = "\x00\xff\x80TALVO-PEER-\x00\x02")"},
-        {"PlayCommandParams play-command.binary", R"(  players[1].value = "\x00\xff\x80TALVO-PEER-\x00\x16")"},
+        {"AnglesGroup angles-group.binary",
+         R"(  angles[3].clipId.value = "\x00\xff\x80TALVO-PEER-\x00\x02" (00ff8054414c564f2d504545522d0002))"},
+        {"PlayCommandParams play-command.binary",
+         R"(  players[1].value = "\x00\xff\x80TALVO-PEER-\x00\x16" (00ff8054414c564f2d504545522d0016))"},
         {"Train train.binary", R"(  recordingRanges[1].outBoundTimecode = "2024-06-15T18:00:00:00@50")"},
         {"Clip clip-two-essences.binary", "  isDual = true"},
+        {"Clip clip-unknown-numbers.binary", "  camera = -1"},
+        {"AnglesGroup angles-group.binary", "  angles[3].preferencialCamera = 1 (Primary)"},
         {"Clip clip-nothing-counts.binary", "  keywords = []"},
     };
     for (auto const& [arguments, line] : lines)
@@ -122,6 +126,39 @@ TEST(Tool, PrintsWhatTheFileHoldsAndNothingElse)
     auto const quoted = RunTool({"print", "Guid", "-p", "json"}, R"({"1":{"str":"a\"b\\x00"}})"
                                                                  "\n");
     EXPECT_EQ(quoted.output, "Guid\n  value = \"a\\\"b\\\\x00\"\n");
+}
+
+TEST(Tool, PrintsUtf16BesideItsFlagAndNothingThatATerminalObeys)
+{
+    auto const utf8 = [](std::u8string_view const text) { return std::string(text.begin(), text.end()); };
+    // Code units, what they are in a locale with UTF-8, and in one without.
+    std::tuple<std::u16string, std::string, std::string> const rows[] = {
+        {u"Gr\u00fc\u00df \u6771", utf8(u8"Gr\u00fc\u00df \u6771"), R"(Gr\u00fc\u00df \u6771)"},
+        {u"\U0001f3ac!", utf8(u8"\U0001f3ac!"), R"(\u{1f3ac}!)"},
+        {u"\"\\", R"(\"\\)", R"(\"\\)"},
+        {u"a\0b\0\0"s, R"(a\u0000b)", R"(a\u0000b)"},
+        {u"\x1b[m\x9b\u202e\ufeff\uffff\ue000", R"(\u001b[m\u009b\u202e\ufeff\uffff\ue000)", ""},
+        {u"\U000e0041\U0010ffff", R"(\u{e0041}\u{10ffff})", ""},
+        {{0xD83C, u'x', 0xDFAC, 0xD83C}, R"(\ud83cx\udfac\ud83c)", ""},
+        {u"", "", ""},
+    };
+    auto const file = TemporaryPath("utf16");
+    auto const print = [&](std::string const& locale)
+    { return RunShell("LC_ALL=" + locale + " talvo-wire print AsciiOrUtf16String " + file).output; };
+    auto const record = [](std::string const& bytes, char const flag)
+    { return "\x0b\0\1"s + Number(bytes.size()) + bytes + "\2\0\2"s + flag + '\0'; };
+    for (auto const& [units, inUtf8, inAscii] : rows)
+    {
+        std::string bytes;
+        for (auto const unit : units) bytes += {static_cast<char>(unit & 0xFF), static_cast<char>(unit >> 8)};
+        Write(file, record(bytes, 1));
+        EXPECT_THAT(print("C.UTF-8"), HasSubstr(" (UTF-16 \"" + inUtf8 + "\")\n"));
+        EXPECT_THAT(print("C"), HasSubstr(" (UTF-16 \"" + (inAscii.empty() ? inUtf8 : inAscii) + "\")\n"));
+        Write(file, record(bytes, 0));
+        EXPECT_THAT(print("C.UTF-8"), Not(HasSubstr("UTF-16"))) << "its flag says no";
+    }
+    Write(file, record("A\0\x1b"s, 1));
+    EXPECT_THAT(print("C.UTF-8"), HasSubstr(R"("A\x00\x1b" (UTF-16 "A\x1b"))"));
 }
 
 TEST(Tool, ConvertTellsWhatWasKeptChangedGoneAndAdded)
