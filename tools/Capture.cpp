@@ -187,20 +187,6 @@ void NoteLayout(Source const& source, Walk const& walk, Piece const& first)
            (source.all ? std::to_string(walk.count) + " records" : std::string("the record")) + around);
 }
 
-/// Calls `use`; a failure of that names the file or record.
-template<typename TUse>
-auto Naming(std::string const& name, TUse const& use)
-{
-    try
-    {
-        return use();
-    }
-    catch (Failure const& failure)
-    {
-        throw Failure(name + ": " + failure.what());
-    }
-}
-
 std::string ReadBytes(Source const& source)
 {
     auto text = ReadFile(source.path, source.limits.bytes);

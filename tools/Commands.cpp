@@ -1,6 +1,7 @@
 #include "tools/Commands.h"
 
 #include "tools/Changes.h"
+#include "tools/Encoder.h"
 #include "tools/Failure.h"
 #include "tools/Files.h"
 #include "tools/Json.h"
@@ -14,8 +15,12 @@
 #include <memory>
 #include <optional>
 #include <span>
+#include <sstream>
 #include <string>
+#include <string_view>
 #include <utility>
+#include <variant>
+#include <vector>
 
 namespace Talvo::Tools
 {
@@ -215,13 +220,33 @@ void PrintAsText(RecordType const& type, WireRecord const& record, Style const& 
         });
 }
 
+/// A key that a path has only the start of; else empty.
+std::string_view LongKey(Step const& step)
+{
+    auto const* const key = std::get_if<Records::Key>(&step);
+    auto const* const text = key == nullptr ? nullptr : std::get_if<Records::WireText>(&key->value);
+    return text == nullptr || text->bytes.size() <= MaxKeySize ? std::string_view() : text->bytes;
+}
+
 void PrintAsJson(RecordType const& type, WireRecord const& record)
 {
     std::cout << R"({"record": ")" << type.name << "\",\n\"values\": ";
     JsonArray values;
+    std::vector<char const*> wholeKeys; // of each step; where the key that was printed last begins
     record.VisitValues(
         [&](Place const& place)
         {
+            wholeKeys.resize(place.path.size());
+            for (std::size_t step = 0; step < place.path.size(); ++step)
+            {
+                auto const key = LongKey(place.path[step]);
+                if (std::exchange(wholeKeys[step], key.data()) == key.data() || key.empty()) continue;
+                values.Next();
+                PrintJsonPath(place.path.first(step + 1));
+                std::cout << R"(,"key":)";
+                PrintJson(std::cout, key);
+                std::cout << '}';
+            }
             values.Next();
             PrintJsonPath(place.path);
             std::cout << R"(,"value":)";
@@ -232,12 +257,17 @@ void PrintAsJson(RecordType const& type, WireRecord const& record)
     std::cout << "}\n";
 }
 
+/// The limits of what the tool itself has written.
+Limits AnySize(Limits limits)
+{
+    limits.bytes = std::numeric_limits<std::int32_t>::max();
+    return limits;
+}
+
 /// Notes what the record loses in the protocol in which `bytes` have it: Thrift's JSON reader drops zero bytes.
 void NoteLosses(Message const& message, std::string_view const bytes, Protocol const protocol, std::string const& name)
 {
-    auto anySize = message.Bounds();
-    anySize.bytes = std::numeric_limits<std::int32_t>::max();
-    Message const back(bytes, protocol, message.Type(), anySize);
+    Message const back(bytes, protocol, message.Type(), AnySize(message.Bounds()));
     if (std::ranges::equal(back.Bytes(), message.Bytes())) return;
 
     std::size_t lost = 0;
@@ -349,6 +379,32 @@ ExitStatus Convert(Source source, Target const& target, Style const& style)
                   });
     if (status == ExitStatus::Done && !target.path.empty()) WriteFile(target.path, written);
     return status;
+}
+
+void EncodeJson(Source const& source, Target const& target)
+{
+    auto const file = InputName(source.path);
+    auto text = ReadFile(source.path, source.limits.bytes);
+    if (text.size() > source.limits.bytes) throw Failure(file + ": has more bytes than --max-bytes allows");
+    if (text.empty()) throw Failure(file + ": holds no JSON: it is empty");
+
+    std::istringstream json(std::move(text));
+    std::string written;
+    for (std::size_t index = 0; !(json >> std::ws).eof(); ++index)
+    {
+        auto const name = index == 0 ? file : file + ", record " + std::to_string(index);
+        Naming(name,
+               [&]
+               {
+                   auto record = ReadJsonRecord(json);
+                   if (target.protocol != Protocol::Binary)
+                       record.bytes =
+                           Transcode(Message(record.bytes, Protocol::Binary, *record.type, AnySize(source.limits)),
+                                     target.protocol);
+                   written = written.empty() ? std::move(record.bytes) : std::move(written) + record.bytes;
+               });
+    }
+    WriteFile(target.path, written);
 }
 
 void Transcode(Source const& source, Target const& target)

@@ -40,6 +40,9 @@ void Print(Source const& source, Style const& style);
 /// writes the records that came back, if all did. To the domain it converts with TryTo().
 ExitStatus Convert(Source source, Target const& target, Style const& style);
 
+/// Writes the records of JSON that Print() has written. Of `source`, only the path and the largest size count.
+void EncodeJson(Source const& source, Target const& target);
+
 /// Writes records in another protocol. Notes on standard error where that protocol can't carry it unchanged.
 void Transcode(Source const& source, Target const& target);
 

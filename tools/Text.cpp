@@ -37,17 +37,6 @@ void PrintText(std::ostream& output, WireText const& text)
         output << " (" << Hex(text.bytes) << ')';
 }
 
-std::string KeyText(Value const& key)
-{
-    static constexpr std::size_t MaxSize = 64;
-    if (auto const* const enumerator = std::get_if<Enumerator>(&key)) return std::to_string(enumerator->number);
-    auto const* const text = std::get_if<WireText>(&key);
-    if (text == nullptr) return ValueText(key);
-    auto const& bytes = text->bytes;
-    auto const start = '"' + Escaped(bytes.substr(0, MaxSize));
-    return bytes.size() <= MaxSize ? start + '"' : start + "...\" (" + std::to_string(bytes.size()) + " bytes)";
-}
-
 } // namespace
 
 std::string Hex(std::string_view const bytes)
@@ -60,6 +49,42 @@ std::string Hex(std::string_view const bytes)
         text += {Digits[value >> 4U], Digits[value & 0xFU]};
     }
     return text;
+}
+
+std::optional<std::string> Unescaped(std::string_view const text)
+{
+    static constexpr std::string_view Digits = "0123456789abcdef";
+    std::string bytes;
+    for (std::size_t i = 0; i < text.size(); ++i)
+    {
+        if (text[i] != '\\')
+        {
+            bytes += text[i];
+            continue;
+        }
+        if (++i == text.size()) return std::nullopt;
+        if (text[i] == '"' || text[i] == '\\')
+        {
+            bytes += text[i];
+            continue;
+        }
+        if (text[i] != 'x' || text.size() - i < 3) return std::nullopt;
+        auto const high = Digits.find(text[++i]);
+        auto const low = Digits.find(text[++i]);
+        if (high == std::string_view::npos || low == std::string_view::npos) return std::nullopt;
+        bytes += static_cast<char>(high << 4U | low);
+    }
+    return bytes;
+}
+
+std::string KeyText(Value const& key)
+{
+    if (auto const* const enumerator = std::get_if<Enumerator>(&key)) return std::to_string(enumerator->number);
+    auto const* const text = std::get_if<WireText>(&key);
+    if (text == nullptr) return ValueText(key);
+    auto const& bytes = text->bytes;
+    auto const start = '"' + Escaped(bytes.substr(0, MaxKeySize));
+    return bytes.size() <= MaxKeySize ? start + '"' : start + "...\" (" + std::to_string(bytes.size()) + " bytes)";
 }
 
 std::string PathText(std::span<Step const> const path)

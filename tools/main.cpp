@@ -55,11 +55,22 @@ CLI::App* AddCommand(CLI::App& app, char const* name, char const* description, s
     return command;
 }
 
+void AddLimit(CLI::App& command, char const* const name, std::uint32_t& limit, char const* const description)
+{
+    command.add_option(name, limit, description)
+        ->type_name("N")
+        ->capture_default_str()
+        ->check(CLI::Range(1, std::numeric_limits<std::int32_t>::max()).description(""));
+}
+
+void AddFileName(CLI::App& command, Arguments& arguments)
+{
+    command.add_option("FILE", arguments.file, "File that is read; - or nothing for standard input")->type_name("");
+    AddLimit(command, "--max-bytes", arguments.limits.bytes, "The largest file that is read");
+}
+
 void AddFile(CLI::App& command, Arguments& arguments, char const* const protocol)
 {
-    static constexpr int MaxLimit = std::numeric_limits<std::int32_t>::max();
-    command.add_option("FILE", arguments.file, "File that holds the record; - or nothing for standard input")
-        ->type_name("");
     command.add_option("-p,--protocol", arguments.protocol, protocol)->type_name("PROTOCOL");
     command
         .add_option("--encoding", arguments.encoding, "How the file writes its bytes: bytes (default), hex or base64")
@@ -67,14 +78,8 @@ void AddFile(CLI::App& command, Arguments& arguments, char const* const protocol
     command.add_flag("--framed", arguments.framed,
                      "Each record is in a frame; without this, frames and message headers are found");
     command.add_flag("--all", arguments.all, "The file holds one or more records, one after the other");
-    command.add_option("--max-bytes", arguments.limits.bytes, "The largest file that is read")
-        ->type_name("N")
-        ->capture_default_str()
-        ->check(CLI::Range(1, MaxLimit).description(""));
-    command.add_option("--max-elements", arguments.limits.elements, "The longest list, set or map that is read")
-        ->type_name("N")
-        ->capture_default_str()
-        ->check(CLI::Range(1, MaxLimit).description(""));
+    AddFileName(command, arguments);
+    AddLimit(command, "--max-elements", arguments.limits.elements, "The longest list, set or map that is read");
 }
 
 void AddRecord(CLI::App& command, Arguments& arguments)
@@ -156,6 +161,13 @@ ExitStatus Run(int argc, char** argv)
     AddTarget(*transcode, arguments, "File to write; - for standard output", "Protocol to write");
     for (auto const* name : {"--protocol", "--to", "--output"}) transcode->get_option(name)->required();
 
+    auto* const encode = AddCommand(app, "encode", "Write the records of JSON that print --json has written",
+                                    "  talvo-wire print Clip clip-minimal.binary --json | talvo-wire encode -o -\n"
+                                    "  talvo-wire print Guid --json guid.binary | talvo-wire encode --to json -o -");
+    AddFileName(*encode, arguments);
+    AddTarget(*encode, arguments, "File to write; - for standard output", "Protocol to write; binary if not given");
+    encode->get_option("--output")->required();
+
     auto status = ExitStatus::Done;
     try
     {
@@ -176,6 +188,8 @@ ExitStatus Run(int argc, char** argv)
             if (arguments.output == "-") throw Failure("convert reports on standard output, so -o needs a file");
             status = Convert(arguments.From(), arguments.To(), arguments.Printed());
         }
+        else if (*encode)
+            EncodeJson(arguments.From(), arguments.To());
         else if (*transcode)
             Transcode(arguments.From(), arguments.To());
     }

@@ -324,21 +324,20 @@ TEST(Tool, HelpEndsWithExamplesThatRunAsTheyStand)
 {
     auto const folder = TemporaryPath("samples");
     std::filesystem::copy(TALVO_SAMPLES, folder);
-    for (auto const* command : {"list", "guess", "print", "convert", "transcode"})
+    for (auto const* command : {"list", "guess", "print", "convert", "transcode", "encode"})
     {
         auto const help = RunTool({command, "--help"});
         EXPECT_EQ(help.status, 0);
-        if (command != "list"s)
-        {
-            EXPECT_THAT(help.output, AllOf(HasSubstr("--max-bytes N=67108864"), HasSubstr("--max-elements N=100000")));
-        }
+        EXPECT_EQ(help.output.find("--max-bytes N=67108864") != std::string::npos, command != "list"s);
+        EXPECT_EQ(help.output.find("--max-elements N=100000") != std::string::npos,
+                  command != "list"s && command != "encode"s);
         std::istringstream lines(help.output.substr(help.output.find("\nExamples") + 1));
         std::string line;
         std::getline(lines, line);
         int count = 0;
         for (; std::getline(lines, line); ++count)
         {
-            EXPECT_THAT(line, testing::StartsWith("  talvo-wire "s + command));
+            EXPECT_THAT(line, HasSubstr(" talvo-wire "s + command));
             auto const outcome = RunShell("cd " + folder + "; " + line);
             EXPECT_EQ(outcome.status, 0) << line;
             EXPECT_THAT(outcome.output, Not(IsEmpty())) << line;
