@@ -131,6 +131,49 @@ void ReportFailures(RecordType const& type, Journey const& journey)
     if (journey.toWire) report("domain to wire", *journey.toWire);
 }
 
+/// The start of an object whose first member is the path of a value.
+void PrintJsonPath(std::span<Step const> const path)
+{
+    std::cout << R"({"path":)";
+    PrintJson(std::cout, PathText(path));
+}
+
+/// Prints a table of what `visitAll` visits; `why` gives its last column.
+void PrintChanges(Table::Cells const& titles, auto const& visitAll, std::string (*const why)(Place const&),
+                  Style const& style)
+{
+    auto const text = [](std::optional<Value> const& value) { return value ? ValueText(*value) : "-"; };
+    auto const cells = [&](Place const& place) -> Table::Cells {
+        return {PathText(place.path), text(place.before), text(place.after), why(place)};
+    };
+    Table table(style);
+    table.Measure(titles);
+    visitAll([&](Place const& place) { table.Measure(cells(place)); });
+    table.Print(titles, Colour::Bold);
+    visitAll(
+        [&](Place const& place) {
+            table.Print(cells(place), !place.after ? Colour::Red : !place.before ? Colour::Green : Colour::Yellow);
+        });
+}
+
+/// Prints them as a JSON array.
+void PrintJsonChanges(auto const& visitAll, std::string (*const why)(Place const&))
+{
+    JsonArray changes;
+    visitAll(
+        [&](Place const& place)
+        {
+            changes.Next();
+            PrintJsonPath(place.path);
+            std::cout << R"(,"before":)";
+            PrintJsonValue(std::cout, place.before);
+            std::cout << R"(,"after":)";
+            PrintJsonValue(std::cout, place.after);
+            std::cout << R"(,"why":")" << why(place) << "\"}";
+        });
+    changes.End();
+}
+
 void PrintAsText(Journey const& journey, Style const& style)
 {
     auto const print = [&](char const* const direction, ConversionResult const& result)
@@ -146,30 +189,10 @@ void PrintAsText(Journey const& journey, Style const& style)
 
     auto const tally = TallyOf(journey);
     if (tally.changed + tally.gone + tally.added > 0)
-    {
-        auto const text = [](std::optional<Value> const& value) { return value ? ValueText(*value) : "-"; };
-        auto const cells = [&](Place const& place) -> Table::Cells {
-            return {PathText(place.path), text(place.before), text(place.after), Why(place)};
-        };
-        Table::Cells const titles{"path", "before", "after", "why"};
-        Table table(style);
-        table.Measure(titles);
-        journey.VisitChanges([&](Place const& place) { table.Measure(cells(place)); });
-        table.Print(titles, Colour::Bold);
-        journey.VisitChanges(
-            [&](Place const& place) {
-                table.Print(cells(place), !place.after ? Colour::Red : !place.before ? Colour::Green : Colour::Yellow);
-            });
-    }
+        PrintChanges(
+            {"path", "before", "after", "why"}, [&](auto const& visit) { journey.VisitChanges(visit); }, &Why, style);
     std::cout << "values: " << tally.kept << " kept, " << tally.changed << " changed, " << tally.gone << " gone, "
               << tally.added << " added\n";
-}
-
-/// The start of an object whose first member is the path of a value.
-void PrintJsonPath(std::span<Step const> const path)
-{
-    std::cout << R"({"path":)";
-    PrintJson(std::cout, PathText(path));
 }
 
 void PrintResult(ConversionResult const& result)
@@ -192,19 +215,7 @@ void PrintAsJson(RecordType const& type, Journey const& journey)
     std::cout << ",\n\"values\": {\"kept\":" << tally.kept << ",\"changed\":" << tally.changed
               << ",\"gone\":" << tally.gone << ",\"added\":" << tally.added << "},\n\"changes\": ";
 
-    JsonArray changes;
-    journey.VisitChanges(
-        [&](Place const& place)
-        {
-            changes.Next();
-            PrintJsonPath(place.path);
-            std::cout << R"(,"before":)";
-            PrintJsonValue(std::cout, place.before);
-            std::cout << R"(,"after":)";
-            PrintJsonValue(std::cout, place.after);
-            std::cout << R"(,"why":")" << Why(place) << "\"}";
-        });
-    changes.End();
+    PrintJsonChanges([&](auto const& visit) { journey.VisitChanges(visit); }, &Why);
     std::cout << "}\n";
 }
 
@@ -218,6 +229,12 @@ void PrintAsText(RecordType const& type, WireRecord const& record, Style const& 
             PrintValue(std::cout, *place.before);
             std::cout << '\n';
         });
+}
+
+/// Which of two records has a value that differs.
+std::string Side(Place const& place)
+{
+    return !place.after ? "only in A" : !place.before ? "only in B" : "in both";
 }
 
 /// A key that a path has only the start of; else empty.
@@ -378,6 +395,41 @@ ExitStatus Convert(Source source, Target const& target, Style const& style)
                           written += Encode(*journey.after, target.protocol);
                   });
     if (status == ExitStatus::Done && !target.path.empty()) WriteFile(target.path, written);
+    return status;
+}
+
+ExitStatus Diff(Source source, std::string const& otherPath, Style const& style)
+{
+    auto const& type = FindRecordType(source.record);
+    source.limits.memory /= 2; // of each of the two
+    auto other = source;
+    other.path = otherPath;
+    auto status = ExitStatus::Done;
+    std::unique_ptr<WireRecord> left;
+    ForEachRecord(source, type,
+                  [&](Message const& message, std::string const& name) { left = ReadRecord(message, name); });
+    ForEachRecord(other, type,
+                  [&](Message const& message, std::string const& name)
+                  {
+                      auto const right = ReadRecord(message, name);
+                      auto const visitAll = [&](auto const& visit)
+                      {
+                          left->VisitValues(*right, FieldSet::Read,
+                                            [&](Place const& place)
+                                            {
+                                                if (place.before != place.after) visit(place);
+                                            });
+                      };
+                      visitAll([&](Place const&) { status = ExitStatus::Different; });
+                      if (style.json)
+                      {
+                          std::cout << R"({"record": ")" << type.name << "\",\n\"changes\": ";
+                          PrintJsonChanges(visitAll, &Side);
+                          std::cout << "}\n";
+                      }
+                      else if (status == ExitStatus::Different)
+                          PrintChanges({"path", "A", "B", "where"}, visitAll, &Side, style);
+                  });
     return status;
 }
 

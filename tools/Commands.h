@@ -14,6 +14,7 @@ enum class ExitStatus
 {
     Done = 0,
     ConversionFailed = 1,
+    Different = 1, ///< Of two records.
     BadInput = 2
 };
 
@@ -39,6 +40,9 @@ void Print(Source const& source, Style const& style);
 /// Converts records to the domain and back, prints what each conversion said and every value that came back different, and
 /// writes the records that came back, if all did. To the domain it converts with TryTo().
 ExitStatus Convert(Source source, Target const& target, Style const& style);
+
+/// Prints every value in which the record of another file differs, A being that of `source` and B the other one.
+ExitStatus Diff(Source source, std::string const& otherPath, Style const& style);
 
 /// Writes the records of JSON that Print() has written. Of `source`, only the path and the largest size count.
 void EncodeJson(Source const& source, Target const& target);

@@ -27,6 +27,7 @@ struct Arguments
 {
     std::string record;
     std::string file = "-";
+    std::string otherFile;
     std::string protocol = "binary";
     std::string toProtocol;
     std::string output;
@@ -45,8 +46,8 @@ struct Arguments
     Style Printed() const { return {json, !json && HasColour(colour)}; }
 };
 
-constexpr char ExitStatuses[] =
-    "Exit status: 0 done, 1 a conversion failed, 2 wrong usage or a file that holds no such record.";
+constexpr char ExitStatuses[] = "Exit status: 0 done, 1 a conversion failed or two records differ, 2 wrong usage or a "
+                                "file that holds no such record.";
 
 CLI::App* AddCommand(CLI::App& app, char const* name, char const* description, std::string const& examples)
 {
@@ -66,10 +67,16 @@ void AddLimit(CLI::App& command, char const* const name, std::uint32_t& limit, c
 void AddFileName(CLI::App& command, Arguments& arguments)
 {
     command.add_option("FILE", arguments.file, "File that is read; - or nothing for standard input")->type_name("");
+}
+
+void AddMaxBytes(CLI::App& command, Arguments& arguments)
+{
     AddLimit(command, "--max-bytes", arguments.limits.bytes, "The largest file that is read");
 }
 
-void AddFile(CLI::App& command, Arguments& arguments, char const* const protocol)
+/// How the bytes of a file are read.
+void AddReading(CLI::App& command, Arguments& arguments,
+                char const* const protocol = "Its protocol: binary (default), compact or json")
 {
     command.add_option("-p,--protocol", arguments.protocol, protocol)->type_name("PROTOCOL");
     command
@@ -77,17 +84,28 @@ void AddFile(CLI::App& command, Arguments& arguments, char const* const protocol
         ->type_name("ENCODING");
     command.add_flag("--framed", arguments.framed,
                      "Each record is in a frame; without this, frames and message headers are found");
-    command.add_flag("--all", arguments.all, "The file holds one or more records, one after the other");
-    AddFileName(command, arguments);
+    AddMaxBytes(command, arguments);
     AddLimit(command, "--max-elements", arguments.limits.elements, "The longest list, set or map that is read");
 }
 
-void AddRecord(CLI::App& command, Arguments& arguments)
+void AddAll(CLI::App& command, Arguments& arguments)
+{
+    command.add_flag("--all", arguments.all, "The file holds one or more records, one after the other");
+}
+
+void AddRecordName(CLI::App& command, Arguments& arguments)
 {
     command.add_option("RECORD", arguments.record, "Name of the record, as list shows it")
         ->required()
         ->type_name("NAME");
-    AddFile(command, arguments, "Its protocol: binary (default), compact or json");
+}
+
+void AddRecord(CLI::App& command, Arguments& arguments)
+{
+    AddRecordName(command, arguments);
+    AddFileName(command, arguments);
+    AddReading(command, arguments);
+    AddAll(command, arguments);
 }
 
 void AddJson(CLI::App& command, Arguments& arguments)
@@ -132,7 +150,9 @@ ExitStatus Run(int argc, char** argv)
     auto* const guess = AddCommand(app, "guess", "Name the records that fit the bytes of a file, best first",
                                    "  talvo-wire guess train.compact\n"
                                    "  talvo-wire guess --json --protocol binary < guid.binary");
-    AddFile(*guess, arguments, "Its protocol; all of them are tried if not given");
+    AddFileName(*guess, arguments);
+    AddReading(*guess, arguments, "Its protocol; all of them are tried if not given");
+    AddAll(*guess, arguments);
     AddJson(*guess, arguments);
     AddColour(*guess, arguments);
 
@@ -153,6 +173,16 @@ ExitStatus Run(int argc, char** argv)
     AddJson(*convert, arguments);
     AddColour(*convert, arguments);
 
+    auto* const diff = AddCommand(app, "diff", "Print the values in which two records differ",
+                                  "  talvo-wire diff Clip clip-minimal.binary clip-minimal.binary --json\n"
+                                  "  talvo-wire diff Train --protocol compact train.compact train.compact --json");
+    AddRecordName(*diff, arguments);
+    diff->add_option("A", arguments.file, "File of the one; - for standard input")->required()->type_name("FILE");
+    diff->add_option("B", arguments.otherFile, "File of the other")->required()->type_name("FILE");
+    AddReading(*diff, arguments);
+    AddJson(*diff, arguments);
+    AddColour(*diff, arguments);
+
     auto* const transcode =
         AddCommand(app, "transcode", "Write a record in another protocol",
                    "  talvo-wire transcode Clip clip-minimal.binary -p binary --to json -o -\n"
@@ -165,6 +195,7 @@ ExitStatus Run(int argc, char** argv)
                                     "  talvo-wire print Clip clip-minimal.binary --json | talvo-wire encode -o -\n"
                                     "  talvo-wire print Guid --json guid.binary | talvo-wire encode --to json -o -");
     AddFileName(*encode, arguments);
+    AddMaxBytes(*encode, arguments);
     AddTarget(*encode, arguments, "File to write; - for standard output", "Protocol to write; binary if not given");
     encode->get_option("--output")->required();
 
@@ -188,6 +219,8 @@ ExitStatus Run(int argc, char** argv)
             if (arguments.output == "-") throw Failure("convert reports on standard output, so -o needs a file");
             status = Convert(arguments.From(), arguments.To(), arguments.Printed());
         }
+        else if (*diff)
+            status = Diff(arguments.From(), arguments.otherFile, arguments.Printed());
         else if (*encode)
             EncodeJson(arguments.From(), arguments.To());
         else if (*transcode)

@@ -190,6 +190,36 @@ TEST(Tool, ConvertTellsWhatWasKeptChangedGoneAndAdded)
     EXPECT_FALSE(std::ifstream(none));
 }
 
+TEST(Tool, DiffPrintsWhereTwoRecordsDiffer)
+{
+    auto const minimal = SamplePath("clip-minimal.binary");
+    auto const same = RunTool({"diff", "Clip", minimal, minimal});
+    EXPECT_EQ(same.status, 0);
+    EXPECT_THAT(same.output, IsEmpty());
+
+    auto const one = TemporaryPath("one");
+    auto const two = TemporaryPath("two");
+    // An umId of "X", a camera, and user bits of 1; another camera, an empty text and user bits of 1 and 2.
+    Write(one, "\x0b\0\1\0\0\0\1X\x0f\0\x08\x06\0\0\0\1\0\1\x08\0\x15\0\0\0\1\0"s);
+    Write(two, "\x0b\0\1\0\0\0\1X\x0b\0\2\0\0\0\0\x0f\0\x08\x06\0\0\0\2\0\1\0\2\x08\0\x15\0\0\0\2\0"s);
+    auto const differ = RunTool({"diff", "Clip", one, two});
+    EXPECT_EQ(differ.status, 1);
+    EXPECT_EQ(differ.output, "path         A      B      where\n"
+                             "sourceUmId   -      \"\"     only in B\n"
+                             "userBits[1]  -      2      only in B\n"
+                             "camera       1 (A)  2 (B)  in both\n");
+    EXPECT_THAT(differ.errors, IsEmpty());
+    auto const back = RunTool({"diff", "Clip", two, one, "--json"});
+    EXPECT_EQ(back.status, 1);
+    EXPECT_THAT(
+        nlohmann::json::parse(back.output)["changes"],
+        Contains(nlohmann::json{{"path", "userBits[1]"}, {"before", 2}, {"after", nullptr}, {"why", "only in A"}}));
+
+    ExpectRefused(RunTool({"diff", "Clip", one}), "B is required");
+    ExpectRefused(RunTool({"diff", "Clip", one, SamplePath("none")}), "No such file");
+    ExpectRefused(RunTool({"diff", "Clip", one, SamplePath("guid.compact")}), "guid.compact: holds no Clip");
+}
+
 TEST(Tool, TellsWhyAValueChangedWhereTheTwoValuesShowIt)
 {
     struct Row
@@ -324,7 +354,7 @@ TEST(Tool, HelpEndsWithExamplesThatRunAsTheyStand)
 {
     auto const folder = TemporaryPath("samples");
     std::filesystem::copy(TALVO_SAMPLES, folder);
-    for (auto const* command : {"list", "guess", "print", "convert", "transcode", "encode"})
+    for (auto const* command : {"list", "guess", "print", "convert", "diff", "transcode", "encode"})
     {
         auto const help = RunTool({command, "--help"});
         EXPECT_EQ(help.status, 0);
