@@ -29,6 +29,10 @@ if(TARGET talvo-wire)
     install(TARGETS talvo-wire COMPONENT tool)
     install(FILES tools/talvo-wire.bash COMPONENT tool
         DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME talvo-wire)
+    install(FILES tools/talvo-wire.zsh COMPONENT tool
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/site-functions RENAME _talvo-wire)
+    install(FILES tools/talvo-wire.fish COMPONENT tool
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
 endif()
 
 install(EXPORT ${package} NAMESPACE Talvo:: DESTINATION ${packageFolder} FILE ${package}Targets.cmake)

@@ -3,6 +3,7 @@
 #include "Thrift/Wire/BinaryReader.h"
 #include "Thrift/Wire/BinaryWriter.h"
 #include "tools/Failure.h"
+#include "tools/Suggestion.h"
 
 #include <thrift/TConfiguration.h>
 #include <thrift/protocol/TBinaryProtocol.h>
@@ -17,6 +18,7 @@
 #include <limits>
 #include <new>
 #include <utility>
+#include <vector>
 
 namespace Talvo::Tools
 {
@@ -208,10 +210,13 @@ Piece TakeRecord(std::string_view const bytes, Thrift::TProtocol& protocol, bool
 RecordType const& FindRecordType(std::string_view const name)
 {
     auto const& types = RecordTypes();
-    auto const found = std::ranges::find(types, name, &RecordType::name);
-    if (found == types.end())
-        throw Failure("there is no record '" + std::string(name) + "'; talvo-wire list names them all");
-    return *found;
+    auto const found = std::ranges::find_if(types, [&](auto const& type) { return EqualButForCase(type.name, name); });
+    if (found != types.end()) return *found;
+    std::vector<std::string_view> names;
+    for (auto const& type : types) names.push_back(type.name);
+    auto const suggestion = Suggestion(name, names);
+    throw Failure("there is no record '" + std::string(name) + '\'' +
+                  (suggestion.empty() ? "; talvo-wire list names them all" : suggestion));
 }
 
 Protocol ParseProtocol(std::string_view name)

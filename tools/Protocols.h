@@ -23,7 +23,7 @@ using Records::RecordType;
 using Records::RecordTypes;
 using Records::WireRecord;
 
-/// The record type of that name. Throws Failure if there is none.
+/// The record type of that name, in which the case of letters does not matter. Throws Failure if there is none.
 RecordType const& FindRecordType(std::string_view name);
 
 enum class Protocol

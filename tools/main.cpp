@@ -1,9 +1,12 @@
 #include "tools/Commands.h"
+#include "tools/Completion.h"
 #include "tools/Failure.h"
+#include "tools/Suggestion.h"
 #include "tools/Text.h"
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstdlib>
@@ -13,7 +16,9 @@
 #include <new>
 #include <span>
 #include <string>
+#include <string_view>
 #include <tuple>
+#include <vector>
 
 #include <unistd.h>
 
@@ -135,6 +140,17 @@ void AddTarget(CLI::App& command, Arguments& arguments, char const* file, char c
     std::_Exit(static_cast<int>(ExitStatus::BadInput));
 }
 
+/// Throws Failure where `word` is neither a command nor an option.
+void ExpectCommand(CLI::App const& app, std::string const& word)
+{
+    auto const known = Completions(app, {""});
+    if (word.starts_with('-') || std::ranges::find(known, word) != known.end()) return;
+    std::vector<std::string_view> const names(known.begin(), known.end());
+    auto const suggestion = Suggestion(word, names);
+    throw Failure("there is no command '" + word + '\'' +
+                  (suggestion.empty() ? "; talvo-wire --help tells the usage" : suggestion));
+}
+
 ExitStatus Run(int argc, char** argv)
 {
     CLI::App app("Reads, prints and converts the wire records of the video server's object model.", "talvo-wire");
@@ -200,6 +216,13 @@ ExitStatus Run(int argc, char** argv)
     encode->get_option("--output")->required();
 
     auto status = ExitStatus::Done;
+    std::vector<std::string> const words(argv + std::min(argc, 1), argv + argc);
+    if (!words.empty() && words[0] == "complete") // for the shells
+    {
+        for (auto const& word : Completions(app, {words.begin() + 1, words.end()})) std::cout << word << '\n';
+        return status;
+    }
+    if (!words.empty()) ExpectCommand(app, words[0]);
     try
     {
         app.parse(argc, argv);

@@ -7,10 +7,12 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include <cctype>
 #include <filesystem>
 #include <fstream>
 #include <map>
 #include <random>
+#include <set>
 #include <sstream>
 #include <tuple>
 
@@ -188,6 +190,21 @@ TEST(Tool, ConvertTellsWhatWasKeptChangedGoneAndAdded)
     auto const none = TemporaryPath("none");
     EXPECT_EQ(RunTool({"convert", "Clip", SamplePath("clip-rate-mismatch.binary"), "-o", none}).status, 1);
     EXPECT_FALSE(std::ifstream(none));
+}
+
+TEST(Tool, TakesRecordNamesInAnyCase)
+{
+    auto const sample = SamplePath("guid.binary");
+    auto const expected = RunTool({"print", "Guid", sample}).output;
+    for (auto const* name : {"guid", "GUID", "gUiD"}) EXPECT_EQ(RunTool({"print", name, sample}).output, expected);
+
+    std::set<std::string> names;
+    for (auto const& type : Talvo::Records::RecordTypes())
+    {
+        std::string name(type.name);
+        for (auto& letter : name) letter = static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
+        EXPECT_TRUE(names.insert(name).second) << type.name << " is another record's name in another case";
+    }
 }
 
 TEST(Tool, DiffPrintsWhereTwoRecordsDiffer)
@@ -388,6 +405,11 @@ TEST(Tool, CompletesWordsInBash)
         {"convert AsciiOr", "", ""}, // has no converters
         {"convert Clip", "Clip", "ClipUpdateFinishedEventArgs"},
         {"convert Clip -p ''", "binary", "json"},
+        {"print Clip --encoding ''", "bytes", "base64"},
+        {"print --all Clip --framed --max-bytes 3 ''", "", ""},
+        {"print --all --framed --max-bytes 3 Cli", "Clip", "ClipUpdateFinishedEventArgs"},
+        {"diff Clip --", "--help", "--color"},
+        {"frobnicate ''", "", ""},
         {"transcode Clip --to c", "compact", "compact"},
         {"print Clip --color al", "always", "always"},
         {"transcode --", "--help", "--output"},
@@ -464,11 +486,16 @@ TEST(Tool, RefusesWrongUsage)
     auto const sample = SamplePath("guid.binary");
     std::pair<Arguments, std::string> const rows[] = {
         {{}, "subcommand"},
-        {{"frobnicate"}, "subcommand"},
+        {{"frobnicate"}, "there is no command 'frobnicate'; talvo-wire --help"},
+        {{"prnit", "Guid"}, "there is no command 'prnit'; did you mean 'print'?"},
+        {{"transcod"}, "did you mean 'transcode'?"},
         {{"print"}, "RECORD is required"},
         {{"print", "Guid", sample, "more"}, "not expected"},
-        {{"print", "Gwid", sample}, "there is no record 'Gwid'"},
-        {{"print", "guid", sample}, "there is no record 'guid'"},
+        {{"print", "Gwid", sample}, "there is no record 'Gwid'; did you mean 'Guid'?"},
+        {{"print", "trian", sample}, "there is no record 'trian'; did you mean 'Train'?"},
+        {{"print", "GetClipCommandReply", sample}, "did you mean 'GetClipsCommandReply'?"},
+        {{"print", "Frobnicated", sample}, "there is no record 'Frobnicated'; talvo-wire list"},
+        {{"print", std::string(100'000, 'C'), sample}, "CCC'; talvo-wire list"},
         {{"print", "Guid", sample, "-p", "xml"}, "there is no protocol 'xml'"},
         {{"print", "Guid", sample, "--color", "red"}, "--color: red not in {auto,always,never}"},
         {{"print", "Guid", sample, "--max-bytes", "0"}, "--max-bytes: Value 0 not in range 1 to 2147483647"},
