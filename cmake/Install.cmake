@@ -33,6 +33,10 @@ if(TARGET talvo-wire)
     install(TARGETS talvo-wire COMPONENT tool)
     install(FILES tools/talvo-wire.bash COMPONENT tool
         DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME talvo-wire)
+    set(TALVO_ZSH_COMPLETIONS ${CMAKE_INSTALL_DATADIR}/zsh/site-functions CACHE STRING "Folder of completions for zsh")
+    install(FILES tools/talvo-wire.zsh COMPONENT tool DESTINATION ${TALVO_ZSH_COMPLETIONS} RENAME _talvo-wire)
+    install(FILES tools/talvo-wire.fish COMPONENT tool
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
     install(FILES tools/talvo-wire.1 COMPONENT tool DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 endif()
 

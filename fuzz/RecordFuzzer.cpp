@@ -56,8 +56,8 @@ bool GetsNewIdentifier(RecordType const& type)
 /// Whether `value` is one of the numbers from 1 to `last`.
 bool IsKnown(Value const& value, std::int32_t const last)
 {
-    auto const* const number = std::get_if<std::int32_t>(&value);
-    return number != nullptr && 1 <= *number && *number <= last;
+    auto const* const enumerator = std::get_if<Talvo::Records::Enumerator>(&value);
+    return enumerator != nullptr && 1 <= enumerator->number && enumerator->number <= last;
 }
 
 /// Records that hold a state, a recording range or a sequence, whose pairs, time codes and rates are converted back
@@ -98,8 +98,8 @@ bool LosesOnTheWayBack(WireRecord const& record, RecordType const& type)
             auto const status = values.find(path.substr(0, essence) + "Essence.recordingStatus");
             return status == values.end() || !IsKnown(status->second, 4);
         }
-        auto const* const text = std::get_if<std::string_view>(&value);
-        return !path.ends_with("uid.value") && text != nullptr && text->find('\0') != std::string_view::npos;
+        auto const* const text = std::get_if<Talvo::Records::WireText>(&value);
+        return !path.ends_with("uid.value") && text != nullptr && text->bytes.find('\0') != std::string_view::npos;
     };
     return std::ranges::any_of(values, isLost);
 }

@@ -4,6 +4,7 @@
 #include "Thrift/Wire/BinaryReader.h"
 #include "records/All.h"
 #include "records/NewDomain.h"
+#include "records/ShapeOf.h"
 #include "records/ValueWalk.h"
 #include "records/ViewOf.h"
 
@@ -141,7 +142,8 @@ RecordType TypeOf(TPair, std::string_view const name, std::string_view const gro
                     nullptr,
                     nullptr,
                     nullptr,
-                    nullptr};
+                    nullptr,
+                    &ShapeOf<Wire>};
     type.make = []() -> std::unique_ptr<WireRecord> { return std::make_unique<HeldRecord<Wire>>(); };
     if constexpr (HasToWire || HasToDomain)
     {

@@ -2,6 +2,7 @@
 
 #include "Common/Serialization/ConversionResult.h"
 #include "records/RecordView.h"
+#include "records/Shape.h"
 #include "records/Values.h"
 
 #include <cstdint>
@@ -98,6 +99,7 @@ struct RecordType
     bool (*equal)(DomainObject const&, DomainObject const&);
     /// Converts a record into a newly built domain object, checked, and that into a newly built wire record.
     RoundTrip (*throughDomain)(WireRecord const&);
+    Shape const& (*shape)(); ///< Never null.
 };
 
 /// Every record, by namespace, those of data and outer ones first, and name.

@@ -40,7 +40,8 @@ public:
                         };
                         auto const* const fieldBefore = counts(before, FieldSet::Read) ? &(before->*member) : nullptr;
                         auto const* const fieldAfter = counts(after, fieldsAfter_) ? &(after->*member) : nullptr;
-                        if (fieldBefore != nullptr || fieldAfter != nullptr) Enter(name, fieldBefore, fieldAfter);
+                        if (fieldBefore != nullptr || fieldAfter != nullptr)
+                            Enter(name, fieldBefore, fieldAfter, KindOf(before), KindOf(after));
                     });
     }
 
@@ -63,13 +64,25 @@ private:
         value.begin();
     };
 
+    /// What the texts of a record are.
+    template<typename TRecord>
+    static WireText::Kind KindOf(TRecord const* const record)
+    {
+        if constexpr (std::is_same_v<TRecord, Corvane::Data::Generated::Guid>) return WireText::Kind::Identifier;
+        if constexpr (requires { record->isUtf16; })
+        {
+            if (record != nullptr && record->isUtf16) return WireText::Kind::Utf16;
+        }
+        return WireText::Kind::Bytes;
+    }
+
     template<typename T>
-    static Value ValueOf(T const& value)
+    static Value ValueOf(T const& value, WireText::Kind const kind)
     {
         if constexpr (std::is_enum_v<T>)
-            return static_cast<std::int32_t>(value);
+            return Enumerator{static_cast<std::int32_t>(value), EnumeratorName(value)};
         else if constexpr (std::is_same_v<T, std::string>)
-            return std::string_view(value);
+            return WireText{value, kind};
         else
             return value;
     }
@@ -78,12 +91,15 @@ private:
     static Key KeyOf(T const& key)
     {
         if constexpr (IsScalar<T>)
-            return {ValueOf(key)};
+            return {ValueOf(key, WireText::Kind::Bytes)};
         else
         {
-            Key only;
-            VisitFields(std::type_identity<T>(), [&](int, char const*, Requirement, auto const member, auto const&)
-                        { only = {ValueOf(key.*member)}; });
+            Key only{Empty::Record};
+            VisitFields(std::type_identity<T>(),
+                        [&](int, char const*, Requirement, auto const member, auto const isSet)
+                        {
+                            if (isSet(key)) only = {ValueOf(key.*member, KindOf(&key))};
+                        });
             return only;
         }
     }
@@ -116,12 +132,13 @@ private:
     }
 
     template<typename T>
-    void Enter(Step const& step, T const* const before, T const* const after)
+    void Enter(Step const& step, T const* const before, T const* const after, WireText::Kind const kindBefore,
+               WireText::Kind const kindAfter)
     {
         path_.push_back(step);
         if constexpr (IsScalar<T>)
-            Visit(before == nullptr ? std::nullopt : std::optional(ValueOf(*before)),
-                  after == nullptr ? std::nullopt : std::optional(ValueOf(*after)), false);
+            Visit(before == nullptr ? std::nullopt : std::optional(ValueOf(*before, kindBefore)),
+                  after == nullptr ? std::nullopt : std::optional(ValueOf(*after, kindAfter)), false);
         else
         {
             bool const inBoth = before != nullptr && after != nullptr;
@@ -166,7 +183,7 @@ private:
             if (maybeCut && index == after.size()) cutTo_ = after.size();
             auto const* const elementBefore = left == before.end() ? nullptr : &*left++;
             auto const* const elementAfter = right == after.end() ? nullptr : &*right++;
-            Enter(index, elementBefore, elementAfter);
+            Enter(index, elementBefore, elementAfter, WireText::Kind::Bytes, WireText::Kind::Bytes);
         }
         if (maybeCut) cutTo_.reset();
     }
@@ -182,7 +199,7 @@ private:
             auto const isLeft = left != before.end() && (right == after.end() || !isLess(right->first, left->first));
             auto const isRight = right != after.end() && (left == before.end() || !isLess(left->first, right->first));
             Enter(KeyOf(isLeft ? left->first : right->first), isLeft ? &left->second : nullptr,
-                  isRight ? &right->second : nullptr);
+                  isRight ? &right->second : nullptr, WireText::Kind::Bytes, WireText::Kind::Bytes);
             if (isLeft) ++left;
             if (isRight) ++right;
         }

@@ -20,8 +20,33 @@ enum class Empty
     Set
 };
 
-/// A value as on the wire: enumerations are numbers, texts are bytes, which the record keeps.
-using Value = std::variant<bool, std::int16_t, std::int32_t, std::int64_t, std::string_view, Empty>;
+/// A number of an enumeration.
+struct Enumerator
+{
+    std::int32_t number;
+    char const* name; ///< Null where the enumeration has none for it.
+
+    bool operator==(Enumerator const& other) const { return number == other.number; }
+};
+
+/// A text as on the wire: its bytes, which the record keeps.
+struct WireText
+{
+    enum class Kind
+    {
+        Bytes,
+        Utf16, ///< Beside it stands a flag that says so.
+        Identifier
+    };
+
+    std::string_view bytes;
+    Kind kind;
+
+    bool operator==(WireText const& other) const { return bytes == other.bytes; }
+};
+
+/// A value as on the wire.
+using Value = std::variant<bool, std::int16_t, std::int32_t, std::int64_t, Enumerator, WireText, Empty>;
 
 /// The key of a map's entry. A record of one value stands as that value.
 struct Key

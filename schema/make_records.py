@@ -16,7 +16,7 @@ The Thrift compiler does most of the work. This step completes its output for ev
 
 It also writes one header for all of them, which is not installed:
 
-  RecordFields.h       visits all records, and the fields of a record with their flags
+  RecordFields.h       visits all records, and the fields of a record with their flags; names enumerators
 
 An output file is rewritten only when its text changes. If anything is not as expected, the step ends with one line on
 stderr and exit code 1, so that no incomplete record is compiled.
@@ -251,10 +251,17 @@ extern const {schema.name}Constants g_{schema.name}_constants;
 
 
 def fields_header(schemas):
-    """A header for internal use that visits all records: their fields with flags, and their names."""
-    includes, views, records = [], [], []
+    """A header for internal use that visits all records: their fields with flags, and their names, and names enumerators."""
+    includes, names, views, records = [], [], [], []
     for schema in schemas.values():
         includes.append(f'#include "generated/{schema.name}_types.h"\n')
+        for enum in schema.enums:
+            names.append(f"""\
+inline char const* EnumeratorName(::{schema.namespace}::{enum}::type const value)
+{{
+    return EnumeratorName(::{schema.namespace}::_{enum}_VALUES_TO_NAMES, value);
+}}
+""")
         for record, fields in schema.records.items():
             visits = []
             for field in fields:
@@ -285,6 +292,7 @@ void VisitFields(std::type_identity<::{schema.namespace}::{record}>, [[maybe_unu
 #define TALVO_RECORD_FIELDS_H
 
 {''.join(includes)}
+#include <map>
 #include <type_traits>
 
 namespace Talvo::Records {{
@@ -296,6 +304,13 @@ enum class Requirement
     Optional ///< Written if its flag is set.
 }};
 
+// The name of the enumerator with that number, or null.
+inline char const* EnumeratorName(std::map<int, char const*> const& names, int const value)
+{{
+    auto const found = names.find(value);
+    return found == names.end() ? nullptr : found->second;
+}}
+{chr(10).join(names)}
 // Calls visit(id, name, requirement, member, isSet) for each field, in the order of the schema. `member` is a pointer to
 // the field, and `isSet` a function that returns the flag of a record's field, which is true for a required one.
 

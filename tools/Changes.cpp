@@ -50,6 +50,16 @@ requires std::is_integral_v<T> std::string Why(T const before, T const after)
     return Changed;
 }
 
+std::string Why(Records::Enumerator const before, Records::Enumerator const after)
+{
+    return Why(before.number, after.number);
+}
+
+std::string Why(Records::WireText const& before, Records::WireText const& after)
+{
+    return Why(before.bytes, after.bytes);
+}
+
 std::string Why(bool, bool)
 {
     return Changed;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <stdexcept>
+#include <string>
 
 namespace Talvo::Tools
 {
@@ -12,5 +13,19 @@ class Failure : public std::runtime_error
 public:
     using std::runtime_error::runtime_error;
 };
+
+/// Calls `use`; a Failure of that gets the name of a file or record before its text.
+template<typename TUse>
+auto Naming(std::string const& name, TUse const& use)
+{
+    try
+    {
+        return use();
+    }
+    catch (Failure const& failure)
+    {
+        throw Failure(name + ": " + failure.what());
+    }
+}
 
 } // namespace Talvo::Tools

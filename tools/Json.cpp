@@ -46,8 +46,10 @@ void PrintJsonValue(std::ostream& output, std::optional<Records::Value> const& v
             using Records::Empty;
             if constexpr (std::is_same_v<T, bool>)
                 output << (held ? "true" : "false");
-            else if constexpr (std::is_same_v<T, std::string_view>)
-                PrintJson(output, held);
+            else if constexpr (std::is_same_v<T, Records::WireText>)
+                PrintJson(output, held.bytes);
+            else if constexpr (std::is_same_v<T, Records::Enumerator>)
+                output << held.number;
             else if constexpr (std::is_same_v<T, Empty>)
                 output << (held == Empty::List || held == Empty::Set ? "[]" : "{}");
             else

@@ -3,6 +3,7 @@
 #include "Thrift/Wire/BinaryReader.h"
 #include "Thrift/Wire/BinaryWriter.h"
 #include "tools/Failure.h"
+#include "tools/Suggestion.h"
 
 #include <thrift/TConfiguration.h>
 #include <thrift/protocol/TBinaryProtocol.h>
@@ -17,6 +18,7 @@
 #include <limits>
 #include <new>
 #include <utility>
+#include <vector>
 
 namespace Talvo::Tools
 {
@@ -32,6 +34,8 @@ using apache::thrift::transport::TTransportException;
 
 constexpr std::array<std::pair<std::string_view, Protocol>, 3> Protocols{
     {{"binary", Protocol::Binary}, {"compact", Protocol::Compact}, {"json", Protocol::Json}}};
+
+constexpr std::string_view Blanks = " \t\r\n";
 
 /// `limit`, in bytes and in elements, bounds what is read; 0 is no limit.
 std::shared_ptr<Thrift::TProtocol> MakeProtocol(Protocol protocol, std::shared_ptr<TTransport> transport,
@@ -105,27 +109,21 @@ std::string Reason(TTransportException const& error)
     return error.getType() == TTransportException::END_OF_FILE ? "it ends in the middle of the record" : error.what();
 }
 
-Failure Refusal(RecordType const& type, Protocol const protocol, std::string const& reason)
-{
-    return Failure("holds no " + std::string(type.name) + " in the " + std::string(Name(protocol)) +
-                   " protocol: " + reason);
-}
-
-/// Reads, and throws what goes wrong as Failure.
+/// Reads, and throws the reason of what goes wrong as Failure.
 template<typename TRead>
-void ReadOrRefuse(RecordType const& type, Protocol const protocol, TRead const& read)
+auto ReadOrFail(TRead const& read)
 {
     try
     {
-        read();
+        return read();
     }
     catch (Thrift::TProtocolException const& error)
     {
-        throw Refusal(type, protocol, Reason(error));
+        throw Failure(Reason(error));
     }
     catch (TTransportException const& error)
     {
-        throw Refusal(type, protocol, Reason(error));
+        throw Failure(Reason(error));
     }
     catch (std::bad_alloc const&)
     {
@@ -133,7 +131,21 @@ void ReadOrRefuse(RecordType const& type, Protocol const protocol, TRead const& 
     }
     catch (std::exception const& error)
     {
-        throw Refusal(type, protocol, error.what());
+        throw Failure(error.what());
+    }
+}
+
+/// The same, and says what the bytes do not hold.
+template<typename TRead>
+void ReadOrRefuse(RecordType const& type, Protocol const protocol, TRead const& read)
+{
+    try
+    {
+        ReadOrFail(read);
+    }
+    catch (Failure const& failure)
+    {
+        throw Refusal(type, protocol, failure.what());
     }
 }
 
@@ -142,18 +154,55 @@ void ExpectEnd(RecordType const& type, Protocol const protocol, std::size_t cons
     if (bytesLeft > 0) throw Refusal(type, protocol, std::to_string(bytesLeft) + " more bytes follow the record");
 }
 
+std::span<std::uint8_t const> SpanOf(std::string_view const bytes)
+{
+    return {reinterpret_cast<std::uint8_t const*>(bytes.data()), bytes.size()};
+}
+
 /// What a message holds is bounded by its own bytes, but for the elements and the memory of a record.
+constexpr auto Any = std::numeric_limits<std::uint32_t>::max();
+
 Wire::BinaryReader ReaderOf(Message const& message)
 {
-    static constexpr auto Any = std::numeric_limits<std::uint32_t>::max();
     auto const elements = message.Bounds().elements;
     return Wire::BinaryReader(message.Bytes(), {Any, Any, elements, elements, MaxDepth, message.Memory(), 0});
 }
 
-/// A text editor's line end after JSON is no second record.
-bool OnlyBlanks(std::string_view rest)
+/// Bytes in memory as a transport, which does not believe a size beyond them.
+std::shared_ptr<TMemoryBuffer> BufferOf(std::string_view const bytes)
 {
-    return rest.find_first_not_of(" \t\r\n") == std::string_view::npos;
+    auto const limit = static_cast<std::int32_t>(bytes.size());
+    auto const configuration = std::make_shared<apache::thrift::TConfiguration>(limit, limit, MaxDepth);
+    auto* const start = const_cast<std::uint8_t*>(SpanOf(bytes).data()); // which it only reads
+    return std::make_shared<TMemoryBuffer>(start, static_cast<std::uint32_t>(bytes.size()), TMemoryBuffer::OBSERVE,
+                                           configuration);
+}
+
+std::string ReadHeader(Thrift::TProtocol& protocol)
+{
+    static constexpr std::array Types{"call", "reply", "exception", "one-way call"};
+    std::string name;
+    Thrift::TMessageType type{};
+    std::int32_t sequence = 0;
+    protocol.readMessageBegin(name, type, sequence);
+    if (type < Thrift::T_CALL || type > Thrift::T_ONEWAY) throw Failure("its message is of no known type");
+    return std::string("the ") + Types[static_cast<std::size_t>(type - Thrift::T_CALL)] + " '" + name + "', number " +
+           std::to_string(sequence);
+}
+
+/// `left` gives how many of the bytes were not read yet, `skip` passes a record.
+Piece TakeRecord(std::string_view const bytes, Thrift::TProtocol& protocol, bool const hasHeader, auto const& left,
+                 auto const& skip)
+{
+    Piece piece;
+    if (hasHeader) piece.header = ReadHeader(protocol);
+    auto const start = bytes.size() - left();
+    skip();
+    auto const end = bytes.size() - left();
+    if (hasHeader) protocol.readMessageEnd();
+    piece.record = bytes.substr(start, end - start);
+    piece.rest = bytes.substr(bytes.size() - left());
+    return piece;
 }
 
 } // namespace
@@ -161,10 +210,13 @@ bool OnlyBlanks(std::string_view rest)
 RecordType const& FindRecordType(std::string_view const name)
 {
     auto const& types = RecordTypes();
-    auto const found = std::ranges::find(types, name, &RecordType::name);
-    if (found == types.end())
-        throw Failure("there is no record '" + std::string(name) + "'; talvo-wire list names them all");
-    return *found;
+    auto const found = std::ranges::find_if(types, [&](auto const& type) { return EqualButForCase(type.name, name); });
+    if (found != types.end()) return *found;
+    std::vector<std::string_view> names;
+    for (auto const& type : types) names.push_back(type.name);
+    auto const suggestion = Suggestion(name, names);
+    throw Failure("there is no record '" + std::string(name) + '\'' +
+                  (suggestion.empty() ? "; talvo-wire list names them all" : suggestion));
 }
 
 Protocol ParseProtocol(std::string_view name)
@@ -179,7 +231,55 @@ std::string_view Name(Protocol protocol)
     return Protocols.at(static_cast<std::size_t>(protocol)).first;
 }
 
-Message::Message(std::string bytes, Protocol const protocol, RecordType const& type, Limits const& limits)
+Failure Refusal(RecordType const& type, Protocol const protocol, std::string const& reason)
+{
+    return Failure("holds no " + std::string(type.name) + " in the " + std::string(Name(protocol)) +
+                   " protocol: " + reason);
+}
+
+Piece TakeRecord(std::string_view const bytes, Protocol const protocol, Limits const& limits, bool const hasHeader)
+{
+    if (bytes.empty()) throw Failure("it is empty");
+    return ReadOrFail(
+        [&]
+        {
+            if (protocol == Protocol::Binary)
+            {
+                Wire::BinaryReader reader(SpanOf(bytes), {Any, Any, limits.elements, limits.elements, MaxDepth});
+                return TakeRecord(
+                    bytes, reader, hasHeader, [&] { return reader.Rest().size(); },
+                    [&] { reader.skip(Thrift::T_STRUCT); });
+            }
+            auto const buffer = BufferOf(bytes);
+            auto const reader = MakeProtocol(protocol, buffer, static_cast<std::int32_t>(bytes.size()));
+            auto piece = TakeRecord(
+                bytes, *reader, hasHeader, [&] { return std::size_t{buffer->available_read()}; },
+                [&] { BytesAsTexts(reader).skip(Thrift::T_STRUCT); });
+            if (protocol == Protocol::Json)
+                piece.rest.remove_prefix(std::min(piece.rest.find_first_not_of(Blanks), piece.rest.size()));
+            return piece;
+        });
+}
+
+std::string_view TakeFrame(std::string_view& bytes)
+{
+    return ReadOrFail(
+        [&]
+        {
+            auto rest = SpanOf(bytes);
+            auto const frame = Wire::TakeFrame(rest, {.message = Any});
+            auto const taken = bytes.substr(bytes.size() - rest.size() - frame.size(), frame.size());
+            bytes.remove_prefix(bytes.size() - rest.size());
+            return taken;
+        });
+}
+
+bool IsEnd(std::string_view const rest, Protocol const protocol)
+{
+    return rest.empty() || (protocol == Protocol::Json && rest.find_first_not_of(Blanks) == std::string_view::npos);
+}
+
+Message::Message(std::string_view const bytes, Protocol const protocol, RecordType const& type, Limits const& limits)
     : protocol_(protocol)
     , type_(type)
     , limits_(limits)
@@ -190,26 +290,23 @@ Message::Message(std::string bytes, Protocol const protocol, RecordType const& t
         throw Refusal(type, protocol, "it has more than the " + std::to_string(limits.bytes) + " bytes of --max-bytes");
     if (protocol == Protocol::Binary)
     {
-        bytes_ = std::move(bytes);
+        bytes_ = bytes;
         return;
     }
 
-    auto const size = static_cast<std::uint32_t>(bytes.size());
-    auto const limit = static_cast<std::int32_t>(size);
-    auto const configuration = std::make_shared<apache::thrift::TConfiguration>(limit, limit, MaxDepth);
-    auto const buffer = std::make_shared<TMemoryBuffer>(reinterpret_cast<std::uint8_t*>(bytes.data()), size,
-                                                        TMemoryBuffer::OBSERVE, configuration);
+    auto const buffer = BufferOf(bytes);
     copy_ = std::make_shared<Wire::BinaryWriter>();
-    ReadOrRefuse(type, protocol, [&] { Copy(MakeProtocol(protocol, buffer, limit), copy_); });
+    ReadOrRefuse(type, protocol,
+                 [&] { Copy(MakeProtocol(protocol, buffer, static_cast<std::int32_t>(bytes.size())), copy_); });
 
-    auto const rest = std::string_view(bytes).substr(size - buffer->available_read());
-    if (protocol != Protocol::Json || !OnlyBlanks(rest)) ExpectEnd(type, protocol, rest.size());
+    auto const rest = bytes.substr(bytes.size() - buffer->available_read());
+    if (!IsEnd(rest, protocol)) ExpectEnd(type, protocol, rest.size());
 }
 
 std::span<std::uint8_t const> Message::Bytes() const
 {
     if (copy_ != nullptr) return copy_->Bytes();
-    return {reinterpret_cast<std::uint8_t const*>(bytes_.data()), bytes_.size()};
+    return SpanOf(bytes_);
 }
 
 Decoded Decode(Message const& message)
@@ -224,7 +321,9 @@ Decoded Decode(Message const& message)
     decoded.skippedFields = reader.SkippedFields();
     bool isEmpty = true;
     if (decoded.skippedFields > 0) decoded.record->VisitValues([&](auto const&) { isEmpty = false; });
-    if (decoded.skippedFields > 0 && isEmpty) throw Refusal(type, protocol, "it holds none of that record's fields");
+    if (decoded.skippedFields > 0 && isEmpty)
+        throw Refusal(type, protocol,
+                      "it holds none of that record's fields; talvo-wire guess names the records that fit");
     return decoded;
 }
 

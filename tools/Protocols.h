@@ -1,7 +1,9 @@
 #pragma once
 
 #include "records/RecordType.h"
+#include "tools/Failure.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -21,7 +23,7 @@ using Records::RecordType;
 using Records::RecordTypes;
 using Records::WireRecord;
 
-/// The record type of that name. Throws Failure if there is none.
+/// The record type of that name, in which the case of letters does not matter. Throws Failure if there is none.
 RecordType const& FindRecordType(std::string_view name);
 
 enum class Protocol
@@ -30,6 +32,7 @@ enum class Protocol
     Compact,
     Json
 };
+inline constexpr std::array AllProtocols{Protocol::Binary, Protocol::Compact, Protocol::Json};
 
 /// What a file may be, and cost.
 struct Limits
@@ -51,12 +54,34 @@ Protocol ParseProtocol(std::string_view name);
 
 std::string_view Name(Protocol protocol);
 
+/// That bytes are no record of that type, and why.
+Failure Refusal(RecordType const& type, Protocol protocol, std::string const& reason);
+
+/// A record among other bytes.
+struct Piece
+{
+    std::string header; ///< Of the message before it, in words; empty where none was taken.
+    std::string_view record;
+    std::string_view rest; ///< What follows, without the blanks that may separate records in JSON.
+};
+
+/// Takes the first record from `bytes`, whatever its type is, and before it a message header if `hasHeader`. Throws Failure
+/// with the reason where there is none.
+Piece TakeRecord(std::string_view bytes, Protocol protocol, Limits const& limits, bool hasHeader);
+
+/// Takes a frame from the start of `bytes`, which become what follows it. Throws Failure where it is not there as a whole.
+std::string_view TakeFrame(std::string_view& bytes);
+
+/// Whether nothing follows but, in JSON, a text editor's line end.
+bool IsEnd(std::string_view rest, Protocol protocol);
+
 /// One record's bytes in the binary protocol, whichever they came in.
 class Message
 {
 public:
-    /// Throws Failure where `bytes` are empty, too many or, in another protocol than the binary one, no record alone.
-    Message(std::string bytes, Protocol protocol, RecordType const& type, Limits const& limits = {});
+    /// Throws Failure where `bytes`, which have to outlive it, are empty, too many or, in another protocol than the binary
+    /// one, no record alone.
+    Message(std::string_view bytes, Protocol protocol, RecordType const& type, Limits const& limits = {});
 
     std::span<std::uint8_t const> Bytes() const;
     Protocol CameIn() const { return protocol_; }
@@ -70,7 +95,7 @@ private:
     RecordType const& type_;
     Limits limits_;
     std::uint64_t memory_;
-    std::string bytes_; ///< In the binary protocol, as they came;
+    std::string_view bytes_; ///< In the binary protocol, as they came;
     std::shared_ptr<Corvane::Zelmar::Serialization::Thrift::Wire::BinaryWriter> copy_; ///< else null.
 };
 

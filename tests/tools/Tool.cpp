@@ -1,7 +1,5 @@
 #include "tests/tools/Tool.h"
 
-#include <gtest/gtest.h>
-
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -81,4 +79,36 @@ std::string Read(std::string const& path)
 void Write(std::string const& path, std::string const& bytes)
 {
     std::ofstream(path, std::ios::binary) << bytes;
+}
+
+std::string SamplePath(std::string const& file)
+{
+    return TALVO_SAMPLES "/" + file;
+}
+
+std::string Sample(std::string const& file)
+{
+    return Read(SamplePath(file));
+}
+
+std::string Transcoded(std::string const& record, std::string const& bytes, std::string const& from,
+                       std::string const& to)
+{
+    auto const outcome = RunTool({"transcode", record, "-p", from, "--to", to, "-o", "-"}, bytes);
+    EXPECT_EQ(outcome.status, 0) << record << ' ' << from << ' ' << to << ' ' << outcome.errors;
+    return outcome.output;
+}
+
+std::string Number(std::size_t const number)
+{
+    std::string bytes;
+    for (auto const shift : {24U, 16U, 8U, 0U}) bytes += static_cast<char>(number >> shift & 0xFFU);
+    return bytes;
+}
+
+void ExpectRefused(Outcome const& outcome, std::string const& text)
+{
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_THAT(outcome.output, testing::IsEmpty());
+    EXPECT_THAT(outcome.errors, OneLine(text));
 }

@@ -8,10 +8,12 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include <cctype>
 #include <filesystem>
 #include <fstream>
 #include <map>
 #include <random>
+#include <set>
 #include <sstream>
 #include <tuple>
 
@@ -26,41 +28,6 @@ using testing::IsEmpty;
 using testing::MatchesRegex;
 using testing::Not;
 using namespace std::string_literals;
-
-using Arguments = std::vector<std::string>;
-
-std::string SamplePath(std::string const& file)
-{
-    return TALVO_SAMPLES "/" + file;
-}
-std::string Sample(std::string const& file)
-{
-    return Read(SamplePath(file));
-}
-
-/// One line of the tool's own, with that text in it.
-auto OneLine(std::string const& text)
-{
-    return AllOf(MatchesRegex("talvo-wire: [^\n]+\n"), HasSubstr(text));
-}
-
-void ExpectRefused(Outcome const& outcome, std::string const& text = {})
-{
-    EXPECT_EQ(outcome.status, 2);
-    EXPECT_THAT(outcome.output, IsEmpty());
-    EXPECT_THAT(outcome.errors, OneLine(text));
-}
-
-/// The record in another protocol, as the tool writes it.
-std::string Transcoded(std::string const& record, std::string const& bytes, std::string const& from,
-                       std::string const& to)
-{
-    auto const outcome = RunTool({"transcode", record, "-p", from, "--to", to, "-o", "-"}, bytes);
-    EXPECT_EQ(outcome.status, 0) << record << ' ' << from << ' ' << to << ' ' << outcome.errors;
-    return outcome.output;
-}
-
-std::string const Protocols[] = {"binary", "compact", "json"};
 
 /// The directions of each record, by its name.
 std::map<std::string, std::string> Listed()
@@ -135,10 +102,14 @@ TEST(Tool, PrintsWhatTheFileHoldsAndNothingElse)
     std::pair<std::string, std::string> const lines[] = {
         {"LoadClipsCommandParams load-clips-command.binary",
          R"(  playersParameters["\x00\xff\x80TALVO-PEER-\x00 "].inBoundary.specializedLoadBoundary.absoluteLoadBoundary.timepoint = -1)"},
-        {"AnglesGroup angles-group.binary", R"(  angles[3].clipId.value = "\x00\xff\x80TALVO-PEER-\x00\x02")"},
-        {"PlayCommandParams play-command.binary", R"(  players[1].value = "\x00\xff\x80TALVO-PEER-\x00\x16")"},
+        {"AnglesGroup angles-group.binary",
+         R"(  angles[3].clipId.value = "\x00\xff\x80TALVO-PEER-\x00\x02" (00ff8054414c564f2d504545522d0002))"},
+        {"PlayCommandParams play-command.binary",
+         R"(  players[1].value = "\x00\xff\x80TALVO-PEER-\x00\x16" (00ff8054414c564f2d504545522d0016))"},
         {"Train train.binary", R"(  recordingRanges[1].outBoundTimecode = "2024-06-15T18:00:00:00@50")"},
         {"Clip clip-two-essences.binary", "  isDual = true"},
+        {"Clip clip-unknown-numbers.binary", "  camera = -1"},
+        {"AnglesGroup angles-group.binary", "  angles[3].preferencialCamera = 1 (Primary)"},
         {"Clip clip-nothing-counts.binary", "  keywords = []"},
     };
     for (auto const& [arguments, line] : lines)
@@ -158,6 +129,39 @@ TEST(Tool, PrintsWhatTheFileHoldsAndNothingElse)
     auto const quoted = RunTool({"print", "Guid", "-p", "json"}, R"({"1":{"str":"a\"b\\x00"}})"
                                                                  "\n");
     EXPECT_EQ(quoted.output, "Guid\n  value = \"a\\\"b\\\\x00\"\n");
+}
+
+TEST(Tool, PrintsUtf16BesideItsFlagAndNothingThatATerminalObeys)
+{
+    auto const utf8 = [](std::u8string_view const text) { return std::string(text.begin(), text.end()); };
+    // Code units, what they are in a locale with UTF-8, and in one without.
+    std::tuple<std::u16string, std::string, std::string> const rows[] = {
+        {u"Gr\u00fc\u00df \u6771", utf8(u8"Gr\u00fc\u00df \u6771"), R"(Gr\u00fc\u00df \u6771)"},
+        {u"\U0001f3ac!", utf8(u8"\U0001f3ac!"), R"(\u{1f3ac}!)"},
+        {u"\"\\", R"(\"\\)", R"(\"\\)"},
+        {u"a\0b\0\0"s, R"(a\u0000b)", R"(a\u0000b)"},
+        {u"\x1b[m\x9b\u202e\ufeff\uffff\ue000", R"(\u001b[m\u009b\u202e\ufeff\uffff\ue000)", ""},
+        {u"\U000e0041\U0010ffff", R"(\u{e0041}\u{10ffff})", ""},
+        {{0xD83C, u'x', 0xDFAC, 0xD83C}, R"(\ud83cx\udfac\ud83c)", ""},
+        {u"", "", ""},
+    };
+    auto const file = TemporaryPath("utf16");
+    auto const print = [&](std::string const& locale)
+    { return RunShell("LC_ALL=" + locale + " talvo-wire print AsciiOrUtf16String " + file).output; };
+    auto const record = [](std::string const& bytes, char const flag)
+    { return "\x0b\0\1"s + Number(bytes.size()) + bytes + "\2\0\2"s + flag + '\0'; };
+    for (auto const& [units, inUtf8, inAscii] : rows)
+    {
+        std::string bytes;
+        for (auto const unit : units) bytes += {static_cast<char>(unit & 0xFF), static_cast<char>(unit >> 8)};
+        Write(file, record(bytes, 1));
+        EXPECT_THAT(print("C.UTF-8"), HasSubstr(" (UTF-16 \"" + inUtf8 + "\")\n"));
+        EXPECT_THAT(print("C"), HasSubstr(" (UTF-16 \"" + (inAscii.empty() ? inUtf8 : inAscii) + "\")\n"));
+        Write(file, record(bytes, 0));
+        EXPECT_THAT(print("C.UTF-8"), Not(HasSubstr("UTF-16"))) << "its flag says no";
+    }
+    Write(file, record("A\0\x1b"s, 1));
+    EXPECT_THAT(print("C.UTF-8"), HasSubstr(R"("A\x00\x1b" (UTF-16 "A\x1b"))"));
 }
 
 TEST(Tool, ConvertTellsWhatWasKeptChangedGoneAndAdded)
@@ -187,6 +191,51 @@ TEST(Tool, ConvertTellsWhatWasKeptChangedGoneAndAdded)
     auto const none = TemporaryPath("none");
     EXPECT_EQ(RunTool({"convert", "Clip", SamplePath("clip-rate-mismatch.binary"), "-o", none}).status, 1);
     EXPECT_FALSE(std::ifstream(none));
+}
+
+TEST(Tool, TakesRecordNamesInAnyCase)
+{
+    auto const sample = SamplePath("guid.binary");
+    auto const expected = RunTool({"print", "Guid", sample}).output;
+    for (auto const* name : {"guid", "GUID", "gUiD"}) EXPECT_EQ(RunTool({"print", name, sample}).output, expected);
+
+    std::set<std::string> names;
+    for (auto const& type : Talvo::Records::RecordTypes())
+    {
+        std::string name(type.name);
+        for (auto& letter : name) letter = static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
+        EXPECT_TRUE(names.insert(name).second) << type.name << " is another record's name in another case";
+    }
+}
+
+TEST(Tool, DiffPrintsWhereTwoRecordsDiffer)
+{
+    auto const minimal = SamplePath("clip-minimal.binary");
+    auto const same = RunTool({"diff", "Clip", minimal, minimal});
+    EXPECT_EQ(same.status, 0);
+    EXPECT_THAT(same.output, IsEmpty());
+
+    auto const one = TemporaryPath("one");
+    auto const two = TemporaryPath("two");
+    // An umId of "X", a camera, and user bits of 1; another camera, an empty text and user bits of 1 and 2.
+    Write(one, "\x0b\0\1\0\0\0\1X\x0f\0\x08\x06\0\0\0\1\0\1\x08\0\x15\0\0\0\1\0"s);
+    Write(two, "\x0b\0\1\0\0\0\1X\x0b\0\2\0\0\0\0\x0f\0\x08\x06\0\0\0\2\0\1\0\2\x08\0\x15\0\0\0\2\0"s);
+    auto const differ = RunTool({"diff", "Clip", one, two});
+    EXPECT_EQ(differ.status, 1);
+    EXPECT_EQ(differ.output, "path         A      B      where\n"
+                             "sourceUmId   -      \"\"     only in B\n"
+                             "userBits[1]  -      2      only in B\n"
+                             "camera       1 (A)  2 (B)  in both\n");
+    EXPECT_THAT(differ.errors, IsEmpty());
+    auto const back = RunTool({"diff", "Clip", two, one, "--json"});
+    EXPECT_EQ(back.status, 1);
+    EXPECT_THAT(
+        nlohmann::json::parse(back.output)["changes"],
+        Contains(nlohmann::json{{"path", "userBits[1]"}, {"before", 2}, {"after", nullptr}, {"why", "only in A"}}));
+
+    ExpectRefused(RunTool({"diff", "Clip", one}), "B is required");
+    ExpectRefused(RunTool({"diff", "Clip", one, SamplePath("none")}), "No such file");
+    ExpectRefused(RunTool({"diff", "Clip", one, SamplePath("guid.compact")}), "guid.compact: holds no Clip");
 }
 
 TEST(Tool, TellsWhyAValueChangedWhereTheTwoValuesShowIt)
@@ -323,21 +372,20 @@ TEST(Tool, HelpEndsWithExamplesThatRunAsTheyStand)
 {
     auto const folder = TemporaryPath("samples");
     std::filesystem::copy(TALVO_SAMPLES, folder);
-    for (auto const* command : {"list", "print", "convert", "transcode"})
+    for (auto const* command : {"list", "guess", "print", "convert", "diff", "transcode", "encode"})
     {
         auto const help = RunTool({command, "--help"});
         EXPECT_EQ(help.status, 0);
-        if (command != "list"s)
-        {
-            EXPECT_THAT(help.output, AllOf(HasSubstr("--max-bytes N=67108864"), HasSubstr("--max-elements N=100000")));
-        }
+        EXPECT_EQ(help.output.find("--max-bytes N=67108864") != std::string::npos, command != "list"s);
+        EXPECT_EQ(help.output.find("--max-elements N=100000") != std::string::npos,
+                  command != "list"s && command != "encode"s);
         std::istringstream lines(help.output.substr(help.output.find("\nExamples") + 1));
         std::string line;
         std::getline(lines, line);
         int count = 0;
         for (; std::getline(lines, line); ++count)
         {
-            EXPECT_THAT(line, testing::StartsWith("  talvo-wire "s + command));
+            EXPECT_THAT(line, HasSubstr(" talvo-wire "s + command));
             auto const outcome = RunShell("cd " + folder + "; " + line);
             EXPECT_EQ(outcome.status, 0) << line;
             EXPECT_THAT(outcome.output, Not(IsEmpty())) << line;
@@ -368,6 +416,11 @@ TEST(Tool, CompletesWordsInBash)
         {"convert AsciiOr", "", ""}, // has no converters
         {"convert Clip", "Clip", "ClipUpdateFinishedEventArgs"},
         {"convert Clip -p ''", "binary", "json"},
+        {"print Clip --encoding ''", "bytes", "base64"},
+        {"print --all Clip --framed --max-bytes 3 ''", "", ""},
+        {"print --all --framed --max-bytes 3 Cli", "Clip", "ClipUpdateFinishedEventArgs"},
+        {"diff Clip --", "--help", "--color"},
+        {"frobnicate ''", "", ""},
         {"transcode Clip --to c", "compact", "compact"},
         {"print Clip --color al", "always", "always"},
         {"transcode --", "--help", "--output"},
@@ -444,11 +497,16 @@ TEST(Tool, RefusesWrongUsage)
     auto const sample = SamplePath("guid.binary");
     std::pair<Arguments, std::string> const rows[] = {
         {{}, "subcommand"},
-        {{"frobnicate"}, "subcommand"},
+        {{"frobnicate"}, "there is no command 'frobnicate'; talvo-wire --help"},
+        {{"prnit", "Guid"}, "there is no command 'prnit'; did you mean 'print'?"},
+        {{"transcod"}, "did you mean 'transcode'?"},
         {{"print"}, "RECORD is required"},
         {{"print", "Guid", sample, "more"}, "not expected"},
-        {{"print", "Gwid", sample}, "there is no record 'Gwid'"},
-        {{"print", "guid", sample}, "there is no record 'guid'"},
+        {{"print", "Gwid", sample}, "there is no record 'Gwid'; did you mean 'Guid'?"},
+        {{"print", "trian", sample}, "there is no record 'trian'; did you mean 'Train'?"},
+        {{"print", "GetClipCommandReply", sample}, "did you mean 'GetClipsCommandReply'?"},
+        {{"print", "Frobnicated", sample}, "there is no record 'Frobnicated'; talvo-wire list"},
+        {{"print", std::string(100'000, 'C'), sample}, "CCC'; talvo-wire list"},
         {{"print", "Guid", sample, "-p", "xml"}, "there is no protocol 'xml'"},
         {{"print", "Guid", sample, "--color", "red"}, "--color: red not in {auto,always,never}"},
         {{"print", "Guid", sample, "--max-bytes", "0"}, "--max-bytes: Value 0 not in range 1 to 2147483647"},
@@ -553,14 +611,6 @@ TEST(Tool, ReadsOrRefusesChangedJson) // the other protocols are the fuzzer's
         SCOPED_TRACE(testing::PrintToString(changed));
         ReadOrRefuse("AnglesGroup", "json", changed, false);
     }
-}
-
-/// A number of four bytes, the largest first.
-std::string Number(std::size_t const number)
-{
-    std::string bytes;
-    for (auto const shift : {24U, 16U, 8U, 0U}) bytes += static_cast<char>(number >> shift & 0xFFU);
-    return bytes;
 }
 
 std::string Repeated(std::string const& bytes, std::size_t const count)
