@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <limits>
 #include <new>
 #include <utility>
@@ -213,7 +214,7 @@ RecordType const& FindRecordType(std::string_view const name)
     auto const found = std::ranges::find_if(types, [&](auto const& type) { return EqualButForCase(type.name, name); });
     if (found != types.end()) return *found;
     std::vector<std::string_view> names;
-    for (auto const& type : types) names.push_back(type.name);
+    std::ranges::transform(types, std::back_inserter(names), &RecordType::name);
     auto const suggestion = Suggestion(name, names);
     throw Failure("there is no record '" + std::string(name) + '\'' +
                   (suggestion.empty() ? "; talvo-wire list names them all" : suggestion));

@@ -4,12 +4,12 @@
 
 #include <algorithm>
 #include <array>
+#include <clocale>
 #include <cstddef>
 #include <ostream>
 #include <utility>
 
 #include <langinfo.h>
-#include <locale.h>
 
 namespace Talvo::Tools
 {
