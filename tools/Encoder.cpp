@@ -44,29 +44,26 @@ public:
 
     bool start_object(std::size_t) override
     {
-        if (place_ == Place::Outside || place_ == Place::Values)
+        if (place_ == Place::Outside)
+            place_ = Place::Record;
+        else if (place_ == Place::Values)
         {
-            if (place_ == Place::Values)
-            {
-                path_.reset();
-                value_.reset();
-                key_.reset();
-            }
-            place_ = place_ == Place::Values ? Place::Element : Place::Record;
-            return true;
+            place_ = Place::Element;
+            path_.reset();
+            value_.reset();
+            key_.reset();
         }
-        return StartEmpty(EmptyJson::Object);
+        else
+            return StartEmpty(EmptyJson::Object);
+        return true;
     }
     bool start_array(std::size_t) override
     {
-        if (place_ == Place::Record && member_ == "values")
-        {
-            if (!writer_) return Refuse("'record' has to come before");
-            if (std::exchange(hasValues_, true)) return Refuse("it is there twice");
-            place_ = Place::Values;
-            return true;
-        }
-        return StartEmpty(EmptyJson::Array);
+        if (place_ != Place::Record || member_ != "values") return StartEmpty(EmptyJson::Array);
+        if (!writer_) return Refuse("'record' has to come before");
+        if (std::exchange(hasValues_, true)) return Refuse("it is there twice");
+        place_ = Place::Values;
+        return true;
     }
     bool key(string_t& name) override
     {
@@ -137,18 +134,19 @@ private:
 
     bool Scalar(JsonValue value)
     {
-        auto* const text = std::get_if<std::string>(&value);
         if (place_ == Place::Empty) return Refuse("only an empty object or array is a value");
+        if (place_ == Place::Outside || place_ == Place::Values) return Refuse("an object belongs here");
         if (place_ == Place::Element && member_ == "value")
+        {
             value_ = std::move(value);
-        else if (text == nullptr || (place_ != Place::Element && member_ != "record") || place_ == Place::Outside ||
-                 place_ == Place::Values)
-            return Refuse(place_ == Place::Outside || place_ == Place::Values ? "an object belongs here"
-                                                                              : "it is of another type");
-        else if (place_ == Place::Element)
-            (member_ == "path" ? path_ : key_) = std::move(*text);
-        else
+            return true;
+        }
+        auto* const text = std::get_if<std::string>(&value);
+        if (text == nullptr || member_ == "values") return Refuse("it is of another type");
+        if (member_ == "record")
             SetRecord(*text);
+        else
+            (member_ == "path" ? path_ : key_) = std::move(*text);
         return true;
     }
 
