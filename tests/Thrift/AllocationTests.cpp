@@ -129,7 +129,7 @@ TEST(Allocations, SuccessAllocatesNothing)
               0);
 }
 
-TEST(Allocations, CodecWithReusedObjectsAllocatesOnlyContainers)
+TEST(Allocations, CodecWithReusedObjectsAllocatesNothing)
 {
     namespace Wire = Corvane::Zelmar::Serialization::Thrift::Wire;
     auto const clip = FullClip();
@@ -146,8 +146,8 @@ TEST(Allocations, CodecWithReusedObjectsAllocatesOnlyContainers)
     encode();
     decode();
 
-    EXPECT_EQ(Allocations(encode), 2) << "keywords and userBits";
-    EXPECT_EQ(Allocations(decode), 2);
+    EXPECT_EQ(Allocations(encode), 0);
+    EXPECT_EQ(Allocations(decode), 0);
 }
 
 TEST(Allocations, RejectedMessageAllocatesLittleForTheSizesThatItClaims)

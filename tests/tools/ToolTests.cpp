@@ -409,7 +409,7 @@ TEST(Tool, CompletesWordsInBash)
 {
     // The words that were typed, the last one not to its end; the answer begins and ends with these.
     std::tuple<std::string, std::string, std::string> const rows[] = {
-        {"''", "list", "--help"},
+        {"''", "list", "--version"},
         {"tr", "transcode", "transcode"},
         {"print AsciiOr", "AsciiOrUtf16String", "AsciiOrUtf16String"},
         {"print --json -p compact Trai", "Train", "Train"},
