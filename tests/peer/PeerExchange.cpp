@@ -3,11 +3,11 @@
 // compact protocol.
 
 #include "tools/Protocols.h"
+#include "tools/Text.h"
 
 #include <cstddef>
 #include <iostream>
 #include <string>
-#include <string_view>
 
 namespace
 {
@@ -22,18 +22,6 @@ std::string FromHex(std::string const& digits)
     return bytes;
 }
 
-std::string ToHex(std::string const& bytes)
-{
-    static constexpr std::string_view Digits = "0123456789abcdef";
-    std::string digits;
-    for (char const byte : bytes)
-    {
-        auto const value = static_cast<unsigned char>(byte);
-        digits += {Digits[value >> 4U], Digits[value & 0xFU]};
-    }
-    return digits;
-}
-
 } // namespace
 
 int main()
@@ -44,7 +32,6 @@ int main()
     while (std::cin >> name >> protocolName >> digits)
     {
         auto const record = Decode(Message(FromHex(digits), ParseProtocol(protocolName), FindRecordType(name))).record;
-        std::cout << ToHex(Encode(*record, Protocol::Binary)) << ' ' << ToHex(Encode(*record, Protocol::Compact))
-                  << '\n';
+        std::cout << Hex(Encode(*record, Protocol::Binary)) << ' ' << Hex(Encode(*record, Protocol::Compact)) << '\n';
     }
 }
