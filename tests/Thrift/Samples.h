@@ -2,15 +2,13 @@
 
 #include "records/RecordFiller.h"
 #include "records/RecordType.h"
+#include "tests/Recorded.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <cstdlib>
-#include <fstream>
 #include <map>
 #include <memory>
-#include <sstream>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -18,16 +16,6 @@
 
 namespace Talvo::Tests
 {
-
-/// Compares a text with the recorded file. If TALVO_RENEW_RECORDED is set in the environment, writes the file first.
-inline void ExpectRecorded(std::string const& text, std::string const& name)
-{
-    auto const path = std::string(TALVO_RECORDED) + '/' + name;
-    if (std::getenv("TALVO_RENEW_RECORDED") != nullptr) std::ofstream(path) << text;
-    std::ostringstream recorded;
-    recorded << std::ifstream(path).rdbuf();
-    EXPECT_EQ(text, recorded.str());
-}
 
 /// Returns a record that is read from `filler`.
 inline std::unique_ptr<Records::WireRecord> Filled(Records::RecordType const& type, Records::RecordFiller filler)
