@@ -8,7 +8,6 @@ namespace
 {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 Clips::Guid const ClipA("clip a"), ClipB("clip b"), ClipC("clip c");
 
@@ -17,19 +16,6 @@ AnglesGroup NewGroup()
     Guid guid;
     guid = Data::Guid(reinterpret_cast<unsigned char const*>("group"), 5);
     return AnglesGroup(guid);
-}
-
-TEST(AnglesGroup, HasOnlyFreeSlotsWhenNew)
-{
-    AnglesGroup const group = NewGroup();
-    EXPECT_EQ(group.groupGuid.Bytes()[0], 'g');
-    EXPECT_THAT(group.angleSlots,
-                testing::Each(AnglesGroup::AngleSlot{true, Camera::NotSet, Clips::Guid(), PreferentialCamera::None}));
-    EXPECT_EQ(group.PrimaryAngle(), Angle::Empty());
-    EXPECT_EQ(group.SecondaryAngle(), Angle::Empty());
-    EXPECT_THAT(group.OtherAngles(), IsEmpty());
-    EXPECT_EQ(Angle::Empty(), (Angle{Camera::NotSet, Clips::Guid::Empty()}));
-    EXPECT_NE(Angle::Empty(), (Angle{Camera::A, Clips::Guid::Empty()}));
 }
 
 TEST(AnglesGroup, SortsItsAnglesByMarkAndCamera)

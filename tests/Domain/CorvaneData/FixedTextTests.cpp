@@ -13,8 +13,7 @@ namespace
 
 using namespace std::string_view_literals;
 
-/// Sets a used slot of `N` bytes that is followed by another object. Returns what the slot holds then, and whether that
-/// is the whole text.
+/// Sets a used slot of `N` bytes, and checks its contents, the result, and the object after the slot.
 template<std::size_t N>
 void ExpectStored(auto const text, std::string_view const stored, bool const isWhole)
 {

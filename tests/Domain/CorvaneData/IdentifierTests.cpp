@@ -1,12 +1,9 @@
 #include "Domain/CorvaneData/Channels/Guid.h"
-#include "Domain/CorvaneData/Clips/Enums.h"
 #include "Domain/CorvaneData/Clips/Groups/Guid.h"
 #include "Domain/CorvaneData/Clips/Guid.h"
 #include "Domain/CorvaneData/Clips/UmId.h"
 #include "Domain/CorvaneData/Guid.h"
-#include "Domain/CorvaneData/OperationStatus.h"
 #include "Domain/CorvaneData/Sequences/Guid.h"
-#include "Domain/CorvaneData/Servers/ServerId.h"
 
 #include <gmock/gmock.h>
 
@@ -155,20 +152,6 @@ TEST(UmId, HoldsEightCharactersAndDropsThePreviousText)
     EXPECT_STREQ(umId.GetUmId(), "xyz");
     umId.SetUmId("");
     EXPECT_EQ(umId, Clips::UmId());
-}
-
-TEST(DomainNumbers, DifferFromTheWireWhereRequired)
-{
-    EXPECT_EQ(OperationResult{2}, OperationResult::ResourceNotFound);
-    EXPECT_EQ(OperationResult{7}, OperationResult::TemporaryError);
-    EXPECT_EQ(OperationResult{8}, OperationResult::InvalidBound);
-    EXPECT_EQ(OperationResult{9}, OperationResult::NotSupported);
-    EXPECT_EQ(Clips::Essences::BlockSize{2}, Clips::Essences::BlockSize::MB2);
-    EXPECT_EQ(Clips::Essences::BlockSize{4}, Clips::Essences::BlockSize::MB8);
-    EXPECT_EQ(Clips::Essences::BlockSize{5}, Clips::Essences::BlockSize::MB16);
-
-    EXPECT_EQ(OperationStatus(), (OperationStatus{OperationStatus::Status::NotStarted, OperationResult::Unknown}));
-    EXPECT_EQ(Servers::ServerId::None().Value(), -1);
 }
 
 } // namespace
