@@ -4,8 +4,6 @@
 #include "TimePoints/TimeCodeBreakdown.h"
 #include "TimePoints/TimeCodeBuilder.h"
 #include "TimePoints/TimeCodeText.h"
-#include "TimePoints/TimePoint.h"
-#include "TimePoints/VideoRates.h"
 
 #include <gtest/gtest.h>
 
@@ -44,19 +42,6 @@ std::string Judge(TimeCodeBuilder const& builder)
     {
         return failure.what();
     }
-}
-
-TEST(TimePoints, NamedValues)
-{
-    EXPECT_EQ(static_cast<std::uint64_t>(TimePoint::Empty().position), 0x8000000000000001u);
-    EXPECT_EQ(TimePoint{}, TimePoint::Empty());
-    EXPECT_EQ(VideoRates::Rate11988(), (VideoRate{120000, 1001}));
-    EXPECT_EQ(VideoRates::Rate5994(), (VideoRate{60000, 1001}));
-    EXPECT_EQ(VideoRates::Rate4795(), (VideoRate{48000, 1001}));
-    EXPECT_EQ(VideoRates::Rate2997(), (VideoRate{30000, 1001}));
-    EXPECT_EQ(VideoRates::Rate2398(), (VideoRate{24000, 1001}));
-    EXPECT_EQ(CalendarTools::DayPerMonth(1900, 2), 28);
-    EXPECT_EQ(CalendarTools::DayPerMonth(2000, 0) + CalendarTools::DayPerMonth(2000, 13), 0);
 }
 
 TEST(TimeCode, EmptyHasTheFieldsOfTheOriginButEqualsNoBuiltTimeCode)

@@ -41,21 +41,15 @@ std::string CompareWithDefinition(std::string const& text)
     return expected;
 }
 
-TEST(TimeCodeText, FormatsEveryKind)
+TEST(TimeCodeText, UndatedTimeCodesCanNotBeParsedAgain)
 {
-    TalvoTimeCodeFormatter const formatter;
-    EXPECT_EQ(formatter.Format(TimeCode::Empty()), "1900-01-01T00:00:00:00@50");
-    TimeCodeBuilder builder{.year = 2000, .minute = 1, .sample = 2, .numerator = 30, .dropFrame = true};
-    EXPECT_EQ(formatter.Format(builder.Build()), "2000-01-01T00:01:00;02@30");
-
-    // The text of an undated time code can't be parsed again.
-    builder.dated = false;
-    auto const undated = formatter.Format(builder.Build());
+    TimeCodeBuilder builder{.minute = 1, .sample = 2, .numerator = 30, .dropFrame = true, .dated = false};
+    auto const undated = TalvoTimeCodeFormatter().Format(builder.Build());
     EXPECT_EQ(undated, "-1-0-1-0-1T00:01:00;02@30");
     EXPECT_THROW(TalvoTimeCodeParser{}.Parse(undated), std::invalid_argument);
     builder.numerator = 100;
     builder.dropFrame = false;
-    EXPECT_EQ(formatter.Format(builder.Build()), "-1-0-1-0-1T00:01:00:02@100");
+    EXPECT_EQ(TalvoTimeCodeFormatter().Format(builder.Build()), "-1-0-1-0-1T00:01:00:02@100");
 }
 
 TEST(TimeCodeText, ParsesEdgeCasesAsDefined)

@@ -2,11 +2,9 @@
 #include "records/RecordType.h"
 
 #include "generated/AnglesGroup_types.h"
-#include "generated/Clip_constants.h"
 #include "generated/Clip_types.h"
 #include "generated/DialCommandParams_types.h"
 #include "generated/GetClipsCommandReply_types.h"
-#include "generated/OperationResult_constants.h"
 #include "generated/OperationStatus_types.h"
 #include "tests/Thrift/WireBytes.h"
 
@@ -19,7 +17,6 @@
 #include <map>
 #include <sstream>
 #include <string>
-#include <type_traits>
 
 namespace Talvo::Tests
 {
@@ -122,16 +119,6 @@ TEST(Records, AcceptAnyEnumerationNumber)
         status.__set_result(static_cast<OperationResult::type>(number));
         EXPECT_EQ(Read<OperationStatus>(Written(status)).result, number);
     }
-}
-
-// A schema file without records has a constants object too.
-static_assert(std::is_empty_v<ClipConstants> && std::is_empty_v<OperationResultConstants>);
-
-TEST(Records, HaveAConstantsObjectForEachFile)
-{
-    void const* const ofClip = &Corvane::Zelmar::Serialization::Thrift::Data::Clips::Generated::g_Clip_constants;
-    void const* const ofResult = &g_OperationResult_constants;
-    EXPECT_NE(ofClip, ofResult);
 }
 
 TEST(Records, AreWrittenAndReadAlikeThroughAConcreteProtocol)
