@@ -191,6 +191,7 @@ TEST(TimeCode, CountsEveryDayOfTheCalendar)
                 ASSERT_TRUE(year > 2261 || TalvoTimeCodeParser{}.Parse(Text(timeCode)) == timeCode) << Text(timeCode);
             }
     EXPECT_EQ(days, 2 * 146097);
+    EXPECT_EQ(CalendarTools::DayPerMonth(2000, 0) + CalendarTools::DayPerMonth(2000, 13), 0);
 }
 
 std::string Digits(int number)

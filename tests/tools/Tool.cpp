@@ -81,14 +81,9 @@ void Write(std::string const& path, std::string const& bytes)
     std::ofstream(path, std::ios::binary) << bytes;
 }
 
-std::string SamplePath(std::string const& file)
-{
-    return TALVO_SAMPLES "/" + file;
-}
-
 std::string Sample(std::string const& file)
 {
-    return Read(SamplePath(file));
+    return Read(TALVO_SAMPLES "/" + file);
 }
 
 std::string Transcoded(std::string const& record, std::string const& bytes, std::string const& from,

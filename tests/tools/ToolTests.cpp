@@ -7,6 +7,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstddef>
 #include <filesystem>
 #include <random>
 #include <sstream>
@@ -211,7 +213,7 @@ TEST(Tool, ReportsThatMemoryRanOut)
 
 TEST(Tool, RejectsSizesBeyondTheFileWithoutAllocating)
 {
-    // In three megabytes, a list claims two million clips.
+    // A list that claims two million clips is in a file of three megabytes.
     auto const padding = std::string(3'000'000, 'x');
     std::tuple<std::string, std::string, std::string> const rows[] = {
         {"Train", "binary", "\x0f\0\x02\x0c\x7f\xff\xff\xff\0"s},
