@@ -258,32 +258,31 @@ public:
     {
     }
 
-    /// Returns the outcomes of all spoiled records, a line or more for each.
+    /// Describes the outcomes of all spoiled records, in a line or more for each.
     std::string Outcomes()
     {
         auto const make = PartsOf(type_, *full_);
         auto const view = full_->Fields();
         auto const ids = IdsOf(view);
-        if (auto const none = make({}); none != nullptr)
+        if (auto const record = make({}); record != nullptr)
         {
-            Add("no fields", *none);
-            auto const unflagged = make({});
-            for (auto const id : ids) unflagged->CopyValue(*full_, id);
-            if (Outcome(*unflagged) != Outcome(*none)) Add("no flags", *unflagged);
+            auto const none = Convert(*record);
+            Add("no fields", none);
+            for (auto const id : ids) record->CopyValue(*full_, id);
+            if (auto const unflagged = Convert(*record); unflagged != none) Add("no flags", unflagged);
         }
         for (std::size_t i = 0; i < view.parts.size(); ++i)
         {
             auto const& label = view.parts[i].label;
-            auto const others = Without(ids, std::stoi(label));
-            auto const absent = make(others);
-            if (absent == nullptr) continue; // a required field
+            auto const record = make(Without(ids, std::stoi(label)));
+            if (record == nullptr) continue; // a required field
             auto expected = read_;
-            expected.parts[i] = before_.parts[i];
-            std::string message;
-            if (After(*absent, message) != expected || !message.empty()) Add("without " + label, *absent);
-            auto const unflagged = make(others);
-            unflagged->CopyValue(*full_, std::stoi(label));
-            if (Outcome(*unflagged) != Outcome(*absent)) Add(label + " without its flag", *unflagged);
+            expected.view.parts[i] = before_.parts[i];
+            auto const absent = Convert(*record);
+            if (absent != expected) Add("without " + label, absent);
+            record->CopyValue(*full_, std::stoi(label));
+            if (auto const unflagged = Convert(*record); unflagged != absent)
+                Add(label + " without its flag", unflagged);
         }
         auto const allEmpty = FullRecord(type_);
         std::size_t index = 0;
@@ -295,23 +294,57 @@ public:
                        if (isOwn) allEmpty->Spoil(index, true);
                        ++index;
                    });
-        if (index > 1) Add("all records in it empty", *allEmpty);
+        if (index > 1) Add("all records in it empty", Convert(*allEmpty));
         AddTexts();
         return text_;
     }
 
 private:
-    void Add(std::string const& what, WireRecord const& record) { text_ += "  " + what + ": " + Outcome(record); }
+    /// What is written from a used domain object after a conversion, and the message of the conversion.
+    struct Outcome
+    {
+        View view;
+        std::string message;
+
+        bool operator==(Outcome const&) const = default;
+    };
+
+    Outcome Convert(WireRecord const& record) const
+    {
+        Outcome outcome;
+        outcome.view = Stable(
+            [&]
+            {
+                auto const domain = Received(type_, *used_);
+                outcome.message = type_.convertToDomain(record, *domain, Form::Constant).message;
+                return Sent(type_, *domain)->Fields();
+            });
+        return outcome;
+    }
+
+    /// Describes the message, and the domain object: what was there before, or what the full record leaves.
+    std::string Described(Outcome const& outcome) const
+    {
+        auto const kept = Changes(outcome.view, before_, read_.view, "as read");
+        auto const read = Changes(outcome.view, read_.view, before_, "as before");
+        return (outcome.message.empty() ? "" : '"' + outcome.message + "\", ") +
+               (kept.size() < read.size() ? "kept" + kept : "read" + read) + '\n';
+    }
+
+    void Add(std::string const& what, Outcome const& outcome) { text_ += "  " + what + ": " + Described(outcome); }
 
     void AddNested(std::string const& path, std::size_t const index)
     {
-        auto const emptied = FullRecord(type_);
-        emptied->Spoil(index, true);
-        auto const unflagged = FullRecord(type_);
-        unflagged->Spoil(index, false);
-        auto const isSame = Outcome(*emptied) == Outcome(*unflagged);
-        Add(path + (isSame ? " empty or without flags" : " empty"), *emptied);
-        if (!isSame) Add(path + " without flags", *unflagged);
+        auto const spoiled = [&](bool const isEmptied)
+        {
+            auto const record = FullRecord(type_);
+            record->Spoil(index, isEmptied);
+            return Convert(*record);
+        };
+        auto const emptied = spoiled(true);
+        auto const unflagged = spoiled(false);
+        Add(path + (emptied == unflagged ? " empty or without flags" : " empty"), emptied);
+        if (emptied != unflagged) Add(path + " without flags", unflagged);
     }
 
     /// Adds the records with a malformed time code, with a day that does not exist, and with a time code of another
@@ -335,43 +368,18 @@ private:
                 auto const domain = type_.makeDomain(*record);
                 auto const message = type_.convertToDomain(*record, *domain, Form::Checked).message;
                 if (spoiledPath.empty() || message.find(": ") != std::string::npos) continue;
-                auto const outcome = Outcome(*record);
-                auto const isRead = outcome == "read\n" || outcome.find('"' + text.substr(0, 4)) != std::string::npos;
-                if (!message.empty() || !isRead) Add(spoiledPath + " \"" + text + '"', *record);
+                auto const outcome = Convert(*record);
+                auto const isRead =
+                    outcome == read_ || Text(outcome.view).find('"' + text.substr(0, 4)) != std::string::npos;
+                if (!message.empty() || !isRead) Add(spoiledPath + " \"" + text + '"', outcome);
             }
-    }
-
-    View After(WireRecord const& record, std::string& message) const
-    {
-        return Stable(
-            [&]
-            {
-                auto const domain = Received(type_, *used_);
-                message = type_.convertToDomain(record, *domain, Form::Constant).message;
-                return Sent(type_, *domain)->Fields();
-            });
-    }
-
-    /// Returns the message, and what is in the domain object: what was there before, or what the full record leaves.
-    std::string Outcome(WireRecord const& record) const
-    {
-        std::string message;
-        auto const after = After(record, message);
-        auto const kept = Changes(after, before_, read_, "as read");
-        auto const read = Changes(after, read_, before_, "as before");
-        return (message.empty() ? "" : '"' + message + "\", ") +
-               (kept.size() < read.size() ? "kept" + kept : "read" + read) + '\n';
     }
 
     RecordType const& type_;
     std::unique_ptr<WireRecord> full_ = FullRecord(type_);
     std::unique_ptr<WireRecord> used_ = UsedRecord(type_);
     View before_ = SentOf(type_, [this] { return Received(type_, *used_); });
-    View read_ = [this]
-    {
-        std::string message;
-        return After(*full_, message);
-    }();
+    Outcome read_ = Convert(*full_);
     std::string text_;
 };
 
