@@ -284,17 +284,19 @@ public:
             if (auto const unflagged = Convert(*record); unflagged != absent)
                 Add(label + " without its flag", unflagged);
         }
-        auto const allEmpty = FullRecord(type_);
         std::size_t index = 0;
+        std::vector<std::size_t> own;
         ForEachOwn(view,
                    [&](std::string const& path, View const& value, bool const isOwn)
                    {
                        if (value.kind != View::Kind::Record) return;
                        if (isOwn) AddNested(path, index);
-                       if (isOwn) allEmpty->Spoil(index, true);
+                       if (isOwn) own.push_back(index);
                        ++index;
                    });
-        if (index > 1) Add("all records in it empty", Convert(*allEmpty));
+        auto const allEmpty = FullRecord(type_);
+        for (auto last = own.rbegin(); last != own.rend(); ++last) allEmpty->Spoil(*last, true); // keeps those before
+        if (own.size() > 1) Add("all records in it empty", Convert(*allEmpty));
         AddTexts();
         return text_;
     }
