@@ -182,7 +182,7 @@ def failure_items(texts):
     title = "Fails with:"
     if texts[0].endswith(":"):
         title, texts = f"Fails, {texts[0]}", texts[1:]
-    return f"- {title}\n" + "".join(f"  - {text}\n" for text in texts)
+    return f"- {title}\n" + "".join(f"    - {text}\n" for text in texts)
 
 
 def converter_section(title, banner):
@@ -192,20 +192,25 @@ def converter_section(title, banner):
     return text + (f"- Ends the process: {capitalised(banner.ends_process)}\n" if banner.ends_process else "")
 
 
+def link(record):
+    """To the heading of the record on this page."""
+    return f"[{record}](#{record.lower()})"
+
+
 def linked(field, all_records):
-    text = field.type.replace("<", "\\<")
+    text = field.type.replace("<", "&lt;")
     for name in set(field.records) & set(all_records):
-        text = re.sub(rf"\b{name}\b", f"[{name}](#{name})", text)
+        text = re.sub(rf"\b{name}\b", link(name), text)
     return text
 
 
 def record_section(record, all_records, own):
-    text = f'\n<a name="{record.name}"></a>\n### {record.name}\n\nWire header `generated/{record.name}.h`'
+    text = f"\n### {record.name}\n\nWire header `generated/{record.name}.h`"
     if own:
         header = domain_header(own[0].domain)
         text += f", domain `{own[0].domain}` in [{header}](../{header})"
     else:
-        users = [f"[{user.name}](#{user.name})" for user in all_records.values()
+        users = [link(user.name) for user in all_records.values()
                  if any(record.name in field.records for field in user.fields)]
         text += ", no converter of its own; nested in " + ", ".join(users) if users else ", no converter"
     text += ".\n\n| Id | Field | Type | Requiredness |\n|---|---|---|---|\n"
