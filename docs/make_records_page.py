@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
-"""make_records_page.py: writes docs/records.md, the page of all records, from the schema files as the Thrift compiler
-reads them and from the banners of the converters' headers.
+"""make_records_page.py [--tags]: writes docs/records.md, the page of all records, from the schema files as the Thrift
+compiler reads them and from the banners of the converters' headers. With --tags, prints the sections of the page as a tag
+file of doxygen instead.
 
 A banner is the comment of a converter's class. Its paragraphs that begin with "Failure" or "Ends the process" become the
 items of that name, all others remarks on the conversion. The banner of a converter without failures says that it can't
@@ -237,5 +238,16 @@ def page():
     return text + "\n" + "".join(f"[{banner.converter}]: ../{banner.header}\n" for banner in all_banners)
 
 
+def tags():
+    """The tag file of doxygen with which each use of a record in the API reference links to its section."""
+    return "<tagfile>\n" + "".join(
+        f'<compound kind="struct"><name>{record.namespace}::{record.name}</name>'
+        f"<filename>records.html#{record.name.lower()}</filename></compound>\n"
+        for record in records().values()) + "</tagfile>"
+
+
 if __name__ == "__main__":
-    PAGE.write_text(page())
+    if sys.argv[1:] == ["--tags"]:
+        print(tags())
+    else:
+        PAGE.write_text(page())
