@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
-"""make_records_page.py: writes docs/records.md, the page of all records, from the schema files as the Thrift compiler
-reads them and from the banners of the converters' headers.
+"""make_records_page.py [--tags]: writes docs/records.md, the page of all records, from the schema files as the Thrift
+compiler reads them and from the banners of the converters' headers. With --tags, prints the sections of the page as a tag
+file of doxygen instead.
 
 A banner is the comment of a converter's class. Its paragraphs that begin with "Failure" or "Ends the process" become the
 items of that name, all others remarks on the conversion. The banner of a converter without failures says that it can't
@@ -182,7 +183,7 @@ def failure_items(texts):
     title = "Fails with:"
     if texts[0].endswith(":"):
         title, texts = f"Fails, {texts[0]}", texts[1:]
-    return f"- {title}\n" + "".join(f"  - {text}\n" for text in texts)
+    return f"- {title}\n" + "".join(f"    - {text}\n" for text in texts)
 
 
 def converter_section(title, banner):
@@ -192,20 +193,25 @@ def converter_section(title, banner):
     return text + (f"- Ends the process: {capitalised(banner.ends_process)}\n" if banner.ends_process else "")
 
 
+def link(record):
+    """To the heading of the record on this page."""
+    return f"[{record}](#{record.lower()})"
+
+
 def linked(field, all_records):
-    text = field.type.replace("<", "\\<")
+    text = field.type.replace("<", "&lt;")
     for name in set(field.records) & set(all_records):
-        text = re.sub(rf"\b{name}\b", f"[{name}](#{name})", text)
+        text = re.sub(rf"\b{name}\b", link(name), text)
     return text
 
 
 def record_section(record, all_records, own):
-    text = f'\n<a name="{record.name}"></a>\n### {record.name}\n\nWire header `generated/{record.name}.h`'
+    text = f"\n### {record.name}\n\nWire header `generated/{record.name}.h`"
     if own:
         header = domain_header(own[0].domain)
         text += f", domain `{own[0].domain}` in [{header}](../{header})"
     else:
-        users = [f"[{user.name}](#{user.name})" for user in all_records.values()
+        users = [link(user.name) for user in all_records.values()
                  if any(record.name in field.records for field in user.fields)]
         text += ", no converter of its own; nested in " + ", ".join(users) if users else ", no converter"
     text += ".\n\n| Id | Field | Type | Requiredness |\n|---|---|---|---|\n"
@@ -232,5 +238,16 @@ def page():
     return text + "\n" + "".join(f"[{banner.converter}]: ../{banner.header}\n" for banner in all_banners)
 
 
+def tags():
+    """The tag file of doxygen with which each use of a record in the API reference links to its section."""
+    return "<tagfile>\n" + "".join(
+        f'<compound kind="struct"><name>{record.namespace}::{record.name}</name>'
+        f"<filename>records.html#{record.name.lower()}</filename></compound>\n"
+        for record in records().values()) + "</tagfile>"
+
+
 if __name__ == "__main__":
-    PAGE.write_text(page())
+    if sys.argv[1:] == ["--tags"]:
+        print(tags())
+    else:
+        PAGE.write_text(page())

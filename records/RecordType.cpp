@@ -22,6 +22,24 @@ namespace
 using Common::Serialization::ConversionResult;
 using Corvane::Zelmar::Serialization::Thrift::TryTo;
 
+/// Calls `use` for each record inside `value` that can be changed.
+template<typename T>
+void ForEachNested(T& value, auto const& use)
+{
+    auto const visit = [&use](auto& inner)
+    {
+        if constexpr (requires { NameOf(inner); }) use(inner);
+        ForEachNested(inner, use);
+    };
+    if constexpr (requires { NameOf(value); })
+        VisitFields(std::type_identity<T>(),
+                    [&](int, char const*, Requirement, auto const member, auto) { visit(value.*member); });
+    else if constexpr (requires { typename T::mapped_type; })
+        for (auto& entry : value) visit(entry.second);
+    else if constexpr (requires { value.emplace_back(); } && !std::is_same_v<T, std::string>)
+        for (auto&& element : value) visit(element);
+}
+
 template<typename TWire>
 class HeldRecord final : public WireRecord
 {
@@ -36,9 +54,26 @@ public:
     void Write(apache::thrift::protocol::TProtocol& protocol) const override { record.write(&protocol); }
 
     View Fields() const override { return ViewOf(record); }
-    void ClearFlags() override
+    void CopyValue(WireRecord const& other, int const id) override
     {
-        if constexpr (requires { record.__isset; }) record.__isset = {};
+        auto const& from = static_cast<HeldRecord const&>(other).record;
+        VisitFields(std::type_identity<TWire>(),
+                    [&](int const fieldId, char const*, Requirement, auto const member, auto)
+                    {
+                        if (fieldId == id) record.*member = from.*member;
+                    });
+    }
+    void Spoil(std::size_t nested, bool const isEmptied) override
+    {
+        ForEachNested(record,
+                      [&](auto& other)
+                      {
+                          if (nested-- != 0) return;
+                          if (isEmptied)
+                              other = {};
+                          else if constexpr (requires { other.__isset; })
+                              other.__isset = {};
+                      });
     }
 
     bool operator==(WireRecord const& other) const override

@@ -5,6 +5,7 @@
 #include "records/Shape.h"
 #include "records/Values.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -38,8 +39,11 @@ public:
 
     /// All fields with their flags.
     virtual View Fields() const = 0;
-    /// Clears the flags of its own fields, whose values stay.
-    virtual void ClearFlags() = 0;
+    /// Copies the value of one field from a record of the same type, and not its flag.
+    virtual void CopyValue(WireRecord const& other, int id) = 0;
+    /// Clears the flags of one nested record, or empties it. They count in the order of Fields(), from 0 on, without
+    /// those in keys and sets.
+    virtual void Spoil(std::size_t nested, bool isEmptied) = 0;
     /// Visits the values that were read into this record, in the order of the schema.
     void VisitValues(ValueVisit const& visit) const { VisitValues(nullptr, FieldSet::Read, visit); }
     /// The same, and beside them those of `after`, a record of the same type.

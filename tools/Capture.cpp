@@ -2,6 +2,7 @@
 
 #include "tools/Failure.h"
 #include "tools/Files.h"
+#include "tools/Progress.h"
 #include "tools/Text.h"
 
 #include <algorithm>
@@ -222,9 +223,13 @@ void ForEachRecord(Source const& source, RecordType const& type, RecordUse const
     Bytes const bytes{text, source.protocol, source.limits, source.all};
     auto const walk = FindRecords(bytes, source.framed);
     if (!walk.problem.empty()) Naming(InputName(source.path), [&]() { throw NoRecords(bytes, type, walk); });
+    Progress progress(text.size());
     ForEachPiece(source, bytes, walk,
                  [&](std::string_view const record, std::string const& name)
-                 { use(Message(record, source.protocol, type, source.limits), name); });
+                 {
+                     use(Message(record, source.protocol, type, source.limits), name);
+                     progress.Add(record.size());
+                 });
 }
 
 std::vector<Guess> GuessRecords(Source const& source, std::span<Protocol const> const protocols)

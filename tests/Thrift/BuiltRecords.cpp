@@ -127,9 +127,36 @@ std::map<std::string, Records::View> BuiltRecords()
     RecordingRangesChangedEventArgs ranges;
     ranges.isInBoundMoving = true;
     add(RecordingRangesChangedEventArgsToThriftConverter(), ranges);
-    ClipCommandEventArgs command(0, RequestSource::Unknown, 0, 0, {}, 0);
-    FullBlock().Fill(command);
-    add(ClipCommandEventArgsToThriftConverter(), command);
+    auto const first = Named("FIRST");
+    auto const second = Named("SECOND");
+    auto const addEvent = [&add]<typename TToWire>(TToWire const& converter, auto const&... details)
+    { add(converter, SomeEvent<Records::SourceOf<TToWire>>(details...)); };
+    constexpr auto Copy = ClipCreationEventArgs::CreationType::Copy;
+    constexpr auto PushGbe = ClipCreationEventArgs::NetworkType::PushGbe;
+    constexpr auto NotFound = Corvane::Data::OperationResult::ResourceNotFound;
+    constexpr short Internal = -7;
+    constexpr unsigned int Serial = 0xFFFFFFFC;
+    constexpr unsigned char Byte = 0xFE;
+    addEvent(ClipCommandEventArgsToThriftConverter());
+    addEvent(ClipCreationStartedEventArgsToThriftConverter(), first, second, Copy, PushGbe);
+    addEvent(ClipCreationFinishedEventArgsToThriftConverter(), first, second, Copy, PushGbe);
+    addEvent(ClipCreationFailedEventArgsToThriftConverter(), NotFound, Internal, first, second, Copy, PushGbe);
+    addEvent(ClipUpdateFinishedEventArgsToThriftConverter(), true, first, second);
+    addEvent(ClipUpdateFailedEventArgsToThriftConverter(), NotFound, Internal, first, second);
+    addEvent(MassClipUpdateFinishedEventArgsToThriftConverter(), Serial);
+    addEvent(MassClipUpdateFailedEventArgsToThriftConverter(), NotFound, Internal, Serial);
+    addEvent(ClipDeletionFinishedEventArgsToThriftConverter(), first, Byte, Byte);
+    addEvent(ClipDeletionFailedEventArgsToThriftConverter(), NotFound, Internal, first, Byte, Byte, Byte, true, false);
+    addEvent(MassClipDeletionFinishedEventArgsToThriftConverter(), Serial);
+    addEvent(MassClipDeletionFailedEventArgsToThriftConverter(), NotFound, Internal, Serial);
+    addEvent(ClipMoveStartedEventArgsToThriftConverter(), first, second);
+    addEvent(ClipMoveFinishedEventArgsToThriftConverter(), first, second);
+    addEvent(ClipMoveFailedEventArgsToThriftConverter(), NotFound, Internal, first, second);
+    AnglesGroupCreationFailedEventArgs groupFailed(
+        -5, Id('c'), Corvane::Data::Clips::Groups::AnglesGroup(Id<Corvane::Data::Clips::Groups::Guid>('g')));
+    groupFailed.result = NotFound;
+    groupFailed.internalResult = Internal;
+    add(AnglesGroupCreationFailedEventArgsToThriftConverter(), groupFailed);
     return built;
 }
 

@@ -28,52 +28,9 @@ namespace
 using namespace Records;
 using apache::thrift::protocol::TProtocolException;
 
-/// The fields of a record by their ids, each as the bytes of the binary protocol.
-using FieldBytes = std::map<int, std::string>;
-
-FieldBytes FieldsOf(WireRecord const& record)
-{
-    struct Writable
-    {
-        WireRecord const& record;
-        void write(apache::thrift::protocol::TProtocol* const protocol) const { record.Write(*protocol); }
-    };
-    FieldBytes fields;
-    for (auto& field : FieldByField(Writable{record}))
-    {
-        field.pop_back();
-        fields[static_cast<unsigned char>(field[2])] = field; // after the type
-    }
-    return fields;
-}
-
 int IdOf(Part const& part)
 {
     return std::stoi(part.label);
-}
-
-/// Makes a record of the fields with these ids. Returns null if a required field is missing.
-using Maker = std::function<std::unique_ptr<WireRecord>(std::set<int> const&)>;
-
-/// Makes records of the fields of `whole`.
-Maker PartsOf(RecordType const& type, WireRecord const& whole)
-{
-    return [&type, fields = FieldsOf(whole)](std::set<int> const& ids) -> std::unique_ptr<WireRecord>
-    {
-        std::string bytes;
-        for (auto const& [id, field] : fields)
-            if (ids.contains(id)) bytes += field;
-        auto record = type.make();
-        try
-        {
-            ReadBytes(bytes + '\0', *Protocols()[0], *record);
-            return record;
-        }
-        catch (TProtocolException const&)
-        {
-            return nullptr;
-        }
-    };
 }
 
 /// Makes records of the fields of a full record whose nested records lack their third field. PartsOf() would not do,
@@ -93,19 +50,6 @@ Maker WithGaps(RecordType const& type)
             return nullptr;
         }
     };
-}
-
-/// Returns a record that converts, with other values than the full record where possible.
-std::unique_ptr<WireRecord> UsedRecord(RecordType const& type)
-{
-    for (auto const& numbers : {std::vector<std::int16_t>{2, 3, 1}, {3, 1, 2}})
-    {
-        auto record = Filled(type, RecordFiller::OtherConvertible(numbers));
-        auto const domain = type.makeDomain(*record);
-        if (type.convertToDomain(*record, *domain, Form::Checked).success) return record;
-    }
-    ADD_FAILURE() << type.name << ": no used record converts";
-    return nullptr;
 }
 
 /// A record that converts in both directions, and its variants for the tests.
@@ -607,102 +551,6 @@ TEST(Duty, BothFormsLeaveTheSameInAUsedDestination)
         Compare(found, std::string(type.name), movable->Fields(), constant->Fields());
     }
     ExpectOnly(found, {{"a new identifier each time", {"LiveCommandParams changes 1 commandGuid"}}});
-}
-
-TEST(Duty, ValueWithoutItsFlagIsIgnored)
-{
-    Found found;
-    for (auto const& subject : Subjects())
-    {
-        auto const& type = subject.type;
-        auto const absent = subject.full(subject.required);
-        auto const unflagged = FullRecord(type);
-        unflagged->ClearFlags();
-        auto const [expected, message] = Patched(subject, *absent, Form::Checked);
-        auto const [actual, sameMessage] = Patched(subject, *unflagged, Form::Checked);
-        EXPECT_EQ(message, sameMessage) << type.name;
-        Compare(found, std::string(type.name), actual, expected);
-    }
-    ExpectOnly(found,
-               {{"the identifier of a command is always read",
-                 {"ChainCommandParams changes 1 commandGuid",
-                  "CreateAnglesGroupCommandParams changes 1 commandGuid",
-                  "CreateClipsCommandParams changes 1 commandGuid",
-                  "CreatePlaylistsCommandParams changes 1 commandGuid",
-                  "DeleteClipsCommandParams changes 1 commandGuid",
-                  "DeletePlaylistsCommandParams changes 1 commandGuid",
-                  "DialCommandParams changes 1 commandGuid",
-                  "GetAnglesGroupsCommandParams changes 1 commandGuid",
-                  "GetChannelsCommandParams changes 1 commandGuid",
-                  "GetClipsCommandParams changes 1 commandGuid",
-                  "GetPlaylistsCommandParams changes 1 commandGuid",
-                  "GetServersCommandParams changes 1 commandGuid",
-                  "GetTrainsCommandParams changes 1 commandGuid",
-                  "GoIdleCommandParams changes 1 commandGuid",
-                  "LiveCommandParams changes 1 commandGuid",
-                  "LoadClipsCommandParams changes 1 commandGuid",
-                  "LoadSequencesCommandParams changes 1 commandGuid",
-                  "PingCommandParams changes 1 commandGuid",
-                  "SetLoadBoundariesCommandParams changes 1 commandGuid",
-                  "StartRecordingCommandParams changes 1 commandGuid",
-                  "StepCommandParams changes 1 commandGuid",
-                  "StopRecordingCommandParams changes 1 commandGuid",
-                  "SyncCommandParams changes 1 commandGuid",
-                  "UpdateClipsCommandParams changes 1 commandGuid",
-                  "UpdatePlaylistsCommandParams changes 1 commandGuid"}},
-                {"is read regardless of its flag",
-                 {"CreateAnglesGroupCommandParams changes 2 groupKviIndex",
-                  "CreateAnglesGroupCommandParams changes 3 creationParams", "DialCommandParams changes 3 velocity",
-                  "GetChannelsCommandReply changes 1 guid", "GetChannelsCommandReply changes 2 players",
-                  "GetChannelsCommandReply changes 3 recorders", "GetTrainsCommandReply changes 2 dbRevision",
-                  "GoIdleCommandParams changes 3 setBlackScreen", "PlayCommandParams changes 1 commandId",
-                  "RecordingRangesChangedEventArgs changes 3 isInBoundMoving", "StepCommandParams changes 3 fieldCount",
-                  "UnknownCommandReply changes 1 commandType"}}});
-}
-
-TEST(Duty, RejectedRecordWithoutFieldsChangesNothing)
-{
-    Found found;
-    for (auto const& subject : Subjects())
-        if (auto const record = subject.full({}); record != nullptr)
-        {
-            auto const [after, message] = Patched(subject, *record, Form::Constant);
-            if (!message.empty())
-                Compare(found, std::string(subject.type.name), after, Through(subject.type, {subject.used.get()}));
-        }
-    ExpectOnly(found, {{"the destination is replaced before the record is rejected",
-                        {"GetAnglesGroupsCommandReply changes 1 guid",
-                         "GetAnglesGroupsCommandReply changes 2 revision",
-                         "GetAnglesGroupsCommandReply changes 3 groups",
-                         "GetClipsCommandReply changes 1 guid",
-                         "GetClipsCommandReply changes 2 revision",
-                         "GetClipsCommandReply changes 3 clips",
-                         "GetPlaylistsCommandReply changes 1 guid",
-                         "GetPlaylistsCommandReply changes 2 revision",
-                         "GetPlaylistsCommandReply changes 3 playlists",
-                         "GetServersCommandReply changes 1 guid",
-                         "GetServersCommandReply changes 2 servers",
-                         "GetTrainsCommandReply changes 1 guid",
-                         "GetTrainsCommandReply changes 2 dbRevision",
-                         "GetTrainsCommandReply changes 3 trains",
-                         "RecordingRangesChangedEventArgs changes 1 recorderId",
-                         "RecordingRangesChangedEventArgs changes 2 recordingRanges",
-                         "RecordingRangesChangedEventArgs changes 4 isOutBoundMoving",
-                         "ServerInfo changes 1 serverId",
-                         "ServerInfo changes 2 userNumber",
-                         "ServerInfo changes 3 corvaneVersion",
-                         "ServerInfo changes 4 serverChassis",
-                         "ServerInfo changes 5 hardwareRevision",
-                         "ServerInfo changes 6 hostName",
-                         "ServerInfo changes 7 kronoIpAddress",
-                         "ServerInfo changes 8 gbeIpAddresses",
-                         "Train changes 1 trainData",
-                         "Train changes 2 recordingRanges",
-                         "Train changes 4 isOutMoving",
-                         "Train changes 5 lastKnownTimeCode"}},
-                       {"event flags that are absent are 0",
-                        {"PlayerStateChangedEventArgs changes 3 eventFlags",
-                         "RecorderStateChangedEventArgs changes 3 eventFlags"}}});
 }
 
 TEST(Duty, ValuesRoundTripThroughTheBytesOfEachProtocol)

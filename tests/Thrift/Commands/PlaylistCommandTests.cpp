@@ -16,36 +16,13 @@ using Corvane::Data::OperationStatus;
 using Corvane::Data::Sequences::Playlist;
 using WireStatusOf = Corvane::Data::Generated::OperationStatusStatus;
 
-using Create = Converters<CreatePlaylistsCommandParamsToThriftConverter, ThriftToCreatePlaylistsCommandParamsConverter>;
-using Update = Converters<UpdatePlaylistsCommandParamsToThriftConverter, ThriftToUpdatePlaylistsCommandParamsConverter>;
 using Item = Converters<PlaylistResultsItemToThriftConverter, ThriftToPlaylistResultsItemConverter>;
-using Reply = Converters<PlaylistCommandReplyToThriftConverter, ThriftToPlaylistCommandReplyConverter>;
 
 Playlist NamedPlaylist(char const* const umId)
 {
     auto playlist = FullPlaylist();
     playlist.umId = SomeUmId(umId);
     return playlist;
-}
-
-TEST(PlaylistParamsConversion, ReadsListsRegardlessOfTheFailuresOfPlaylists)
-{
-    CreatePlaylistsCommandParams creation;
-    creation.commandGuid = Id('c');
-    creation.playlists = {FullPlaylist(), Playlist()};
-    auto wireCreation = Create::Sent(creation);
-    wireCreation.playlists[0] = {}; // its conversion fails
-    creation.playlists[0] = Playlist();
-    EXPECT_EQ(Create::Received(wireCreation), creation);
-
-    UpdatePlaylistsCommandParams update;
-    update.commandGuid = Id('c');
-    update.params = {{NamedPlaylist("OLD"), NamedPlaylist("NEW")}, {Playlist(), FullPlaylist()}};
-    auto wireUpdate = Update::Sent(update);
-    wireUpdate.params[0].__isset = {}; // the flags inside an entry are ignored
-    wireUpdate.params[1].newPlaylist = {};
-    update.params[1].newPlaylist = Playlist();
-    EXPECT_EQ(Update::Received(wireUpdate), update);
 }
 
 TEST(PlaylistResultsItemConversion, WritesThePlaylistRegardlessOfTheStatus)
@@ -90,26 +67,6 @@ TEST(PlaylistResultsItemConversion, KeepsTheReceivedPlaylistRegardlessOfTheStatu
     wire.playlist = {};
     EXPECT_EQ(Shown(Item::Received(wire, SomeItem<PlaylistResultsItem>(Succeeded))),
               Shown(SomeItem<PlaylistResultsItem>(StartOfAnItem, Playlist::Empty())));
-}
-
-PlaylistCommandReply FullReply(char const id)
-{
-    PlaylistCommandReply reply(Id(id), 3);
-    reply.results[0] = SomeItem<PlaylistResultsItem>(Succeeded, FullPlaylist());
-    reply.results[1] = SomeItem<PlaylistResultsItem>(Refused, NamedPlaylist("FAILED"));
-    reply.results[2] = SomeItem<PlaylistResultsItem>(Waiting);
-    return reply;
-}
-
-TEST(PlaylistCommandReplyConversion, KeepsAnEmptyItemAsFailed)
-{
-    auto wire = Reply::Sent(FullReply('c'));
-    wire.results[0] = {};
-    wire.results[1].__isset.operationStatus = false;
-    auto expected = FullReply('c');
-    expected.results[0] = SomeItem<PlaylistResultsItem>(StartOfAnItem);
-    expected.results[1] = SomeItem<PlaylistResultsItem>(StartOfAnItem, NamedPlaylist("FAILED"));
-    EXPECT_EQ(Shown(Reply::Received(wire, FullReply('h'))), Shown(expected));
 }
 
 } // namespace

@@ -138,23 +138,6 @@ TEST(PlayConversion, SpeedIsWrittenWithoutZerosAndReadWithoutAZeroDenominator)
     expectReceived(false, true, 4, 3, 0, 1);
 }
 
-TEST(BoundaryConversion, RejectedBoundariesAreIgnored)
-{
-    SyncCommandParams sync;
-    sync.inBoundary = Absolute;
-    sync.outBoundary = Relative;
-    auto wireSync = Sync::Sent(sync);
-    wireSync.inBoundary = wireSync.outBoundary = {};
-    EXPECT_EQ(Sync::Received(wireSync, sync), sync);
-
-    ChainCommandParams chain;
-    chain.inBoundary = Absolute;
-    chain.outBoundary = Relative;
-    auto wireChain = Chain::Sent(chain);
-    wireChain.inBoundary = wireChain.outBoundary = {};
-    EXPECT_EQ(Chain::Received(wireChain, chain), chain);
-}
-
 TEST(LiveConversion, WithoutPlayersANewIdentifierIsGenerated)
 {
     LiveCommandParams full;
@@ -173,46 +156,6 @@ TEST(LiveConversion, WithoutPlayersANewIdentifierIsGenerated)
 }
 
 // These tests clear flags inside the parameters, which values read from bytes would set.
-
-TEST(LoadClipsConversion, OnlyTheTimePointNeedsItsFlag)
-{
-    LoadClipsCommandParams full;
-    full.playersParameters = {{A, {Id<ClipGuid>('x'), {-3}, Absolute, Relative}},
-                              {B, {Id<ClipGuid>('y'), TimePoint::Empty(), Relative, Boundary()}}};
-    auto wire = LoadClips::Sent(full);
-    auto& param = wire.playersParameters[WireId(std::string(16, 'a'))];
-    param.__isset = {};
-    param.outBoundary = {}; // rejected, and replaced by a new one
-    full.playersParameters.at(A) = {Id<ClipGuid>('x'), TimePoint::Empty(), Absolute, Boundary()};
-    EXPECT_EQ(LoadClips::Received(wire), full);
-}
-
-TEST(LoadSequencesConversion, AllButTheSequenceNeedTheirFlags)
-{
-    LoadSequencesCommandParams full;
-    full.playersParameters = {{A, {Id<SequenceGuid>('x'), 0x100000001, true}}, {B, {Id<SequenceGuid>('y'), -2, false}}};
-    auto wire = LoadSequences::Sent(full);
-    auto& isset = wire.playersParameters[WireId(std::string(16, 'a'))].__isset;
-    auto& param = full.playersParameters.at(A);
-    isset.durationFromBeginning = false;
-    param.durationFromBeginning = 0;
-    EXPECT_EQ(LoadSequences::Received(wire), full);
-    isset.isForDiffusion = false;
-    param.isForDiffusion = false;
-    EXPECT_EQ(LoadSequences::Received(wire), full);
-}
-
-TEST(SetLoadBoundariesConversion, BoundariesNeedNoFlags)
-{
-    SetLoadBoundariesCommandParams full;
-    full.playersParameters = {{A, {Absolute, Relative}}, {B, {Boundary(), Absolute}}};
-    auto wire = SetBoundaries::Sent(full);
-    auto& param = wire.playersParameters[WireId(std::string(16, 'a'))];
-    param.__isset = {};
-    param.outBoundary = {}; // rejected, and replaced by a new one
-    full.playersParameters.at(A).outBoundary = Boundary();
-    EXPECT_EQ(SetBoundaries::Received(wire), full);
-}
 
 } // namespace
 } // namespace Talvo::Tests

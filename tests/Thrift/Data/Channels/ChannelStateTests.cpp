@@ -51,25 +51,6 @@ PlayerState Bare(PlayerState state)
     return state;
 }
 
-TEST(PlayerClipOnAirConversion, ClipReplacesTheDestinationAndABadClipKeepsIt)
-{
-    Generated::PlayerClipOnAir wire;
-    wire.__isset.clipOnAir = true;
-    wire.__set_curTimePointOnAir(99);
-    auto clip = FullClipOnAir();
-    EXPECT_EQ(OnAir::Told(wire, clip), "Clip is empty");
-    EXPECT_EQ(clip, FullClipOnAir());
-
-    wire.clipOnAir.kviIndex = 5;
-    wire.clipOnAir.__isset.kviIndex = true;
-    PlayerClipOnAir expected = FullClipOnAir();
-    expected.clipOnAir = {};
-    expected.clipOnAir.kviIndex = 5;
-    expected.curTimePointOnAir = {99};
-    EXPECT_EQ(OnAir::Told(wire, clip), "");
-    EXPECT_EQ(clip, expected);
-}
-
 TEST(PlayerStateConversion, SpeedIsWrittenOnlyAsAPair)
 {
     auto state = Bare(FullPlayerState()); // one half of each speed is 0
@@ -133,23 +114,6 @@ TEST(PlayerStateConversion, InfoOnAirOverwritesRegardlessOfItsFlags)
     EXPECT_EQ(Player::Received(wire, FullPlayerState()), expected);
 }
 
-TEST(PlayerStateConversion, RejectedBoundaryIsReplacedByANewOne)
-{
-    Generated::PlayerState wire;
-    wire.__isset.inBoundary = wire.__isset.outBoundary = true;
-    wire.inBoundary.__isset.type = wire.inBoundary.__isset.specializedLoadBoundary = true; // without its member
-    auto expected = FullPlayerState();
-    expected.inBoundary = expected.outBoundary = Boundary();
-    auto state = FullPlayerState();
-    EXPECT_EQ(Player::Told(wire, state), "PlayerState is empty");
-    EXPECT_EQ(state, expected);
-
-    wire.__isset.globalLoopMode = true; // a field that counts, with an unknown number
-    wire.globalLoopMode = static_cast<Generated::PlayingLoopMode::type>(4);
-    expected.globalLoopMode = PlayingLoopMode::Unknown;
-    EXPECT_EQ(Player::Received(wire, FullPlayerState()), expected);
-}
-
 TEST(PlayerStateConversion, BadClipStopsTheConversion)
 {
     auto wire = Player::Sent(FullPlayerState());
@@ -204,53 +168,6 @@ TEST(RecorderStateConversion, RemainingIsAtMostTotal)
         expected.remainingCapacity = row.remainingAfter;
         expected.totalCapacity = row.totalAfter;
         EXPECT_EQ(Recorder::Received(wire, state), expected) << row.rule;
-    }
-}
-
-TEST(RecorderStateConversion, TrainReplacesTheDestinationAndABadTrainKeepsIt)
-{
-    Generated::RecorderState wire;
-    auto state = FullRecorderState();
-    EXPECT_EQ(Recorder::Told(wire, state), "RecorderState is empty");
-    EXPECT_EQ(state, FullRecorderState());
-
-    wire.channelIndex = 5;
-    wire.__isset.channelIndex = wire.__isset.recorderTrain = true;
-    auto expected = FullRecorderState();
-    expected.channelIndex = 5;
-    EXPECT_EQ(Recorder::Told(wire, state), "Clip is empty");
-    EXPECT_EQ(state, expected);
-
-    wire.__isset.channelIndex = false;
-    wire.recorderTrain.kviIndex = 5;
-    wire.recorderTrain.__isset.kviIndex = true;
-    expected.recorderTrain = {};
-    expected.recorderTrain.kviIndex = 5;
-    EXPECT_EQ(Recorder::Told(wire, state), "");
-    EXPECT_EQ(state, expected);
-}
-
-TEST(ChannelStateConversion, BadTimeCodesAreSkippedButCountAsFields)
-{
-    for (auto const* const bad : {"", "noon", "2023-02-29T00:00:00:00@50", "00:00:00:00@99999999999"})
-    {
-        auto const expectSkipped = [bad]<typename TConverters>(TConverters, auto const& state, auto const... set)
-        {
-            for (auto const setOne : {set...})
-            {
-                typename TConverters::Wire wire;
-                (wire.*setOne)(bad);
-                EXPECT_EQ(TConverters::Received(wire, state), state) << bad;
-            }
-        };
-        using WirePlayer = Generated::PlayerState;
-        expectSkipped(Player(), FullPlayerState(), &WirePlayer::__set_todPgmInTimecodeOnAir,
-                      &WirePlayer::__set_todPgmShortInTimecodeOnAir, &WirePlayer::__set_todPgmShortOutTimecodeOnAir,
-                      &WirePlayer::__set_todPgmOutTimecodeOnAir, &WirePlayer::__set_userPgmInTimecodeOnAir,
-                      &WirePlayer::__set_userPgmShortInTimecodeOnAir, &WirePlayer::__set_userPgmShortOutTimecodeOnAir,
-                      &WirePlayer::__set_userPgmOutTimecodeOnAir);
-        expectSkipped(Recorder(), FullRecorderState(), &Generated::RecorderState::__set_lastTodTimecode,
-                      &Generated::RecorderState::__set_lastUserTimecode);
     }
 }
 

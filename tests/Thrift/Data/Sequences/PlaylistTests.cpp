@@ -40,53 +40,11 @@ Element UpToTags(std::vector<Tag> tags)
     return element;
 }
 
-TEST(ElementConversion, FlagsInsideTheSpeedAreIgnored)
-{
-    Generated::Element wire;
-    wire.speed.numerator = 3;
-    wire.speed.denominator = 0;
-    wire.__isset.speed = true;
-    EXPECT_EQ(OfElement::Received(wire, FullElement()).speed, (Speed{3, 0}));
-}
-
-TEST(ElementConversion, SequenceIdIsReplaced)
-{
-    Generated::Element wire;
-    wire.id = 5;
-    wire.position = 6;
-    wire.__isset.id = wire.__isset.sequenceId = wire.__isset.position = true;
-    Element element = FullElement();
-    EXPECT_EQ(OfElement::Told(wire, element), "SequenceId is empty");
-    Element expected = FullElement();
-    expected.id = 5;
-    EXPECT_EQ(element, expected);
-
-    wire.sequenceId.location = 7;
-    wire.sequenceId.__isset.location = true;
-    EXPECT_EQ(OfElement::Received(wire, element).sequenceId, SequenceId(ServerId::None(), 7));
-}
-
 TEST(ElementConversion, TypeOfATagIsReadRegardlessOfItsFlag)
 {
     auto wire = OfElement::Sent(FullElement());
     wire.tags[1].__isset.commandType = false;
     EXPECT_THAT(OfElement::Received(wire).tags, ElementsAre(FullTag(), Tag(Tag::CommandType::GpiOut)));
-}
-
-TEST(ElementConversion, BadTagStopsTheConversion)
-{
-    for (auto const* const told : {"Tag is empty", "TagProperty is empty"})
-    {
-        auto wire = OfElement::Sent(FullElement());
-        wire.tags.insert(wire.tags.begin() + 1, wire.tags[0]);
-        if (told == std::string("Tag is empty"))
-            wire.tags[1].__isset = {};
-        else
-            wire.tags[1].properties.begin()->second.__isset = {};
-        Element element;
-        EXPECT_EQ(OfElement::Told(wire, element), told);
-        EXPECT_EQ(element, UpToTags({FullTag()}));
-    }
 }
 
 TEST(ElementConversion, AppendedTagsGrowTheListsGeometrically)
@@ -150,34 +108,6 @@ TEST(TrackConversion, WritesEitherElementsOrTheirNumber)
     EXPECT_EQ(wire.numberOfElements, 7);
     expectSent({0, {FullElement()}}, false, 3);
     EXPECT_EQ(wire.elements[1], wire.elements[2]);
-}
-
-TEST(TrackConversion, ReadingAppendsElementsOrSetsTheNumber)
-{
-    Generated::AudioVideoTrack wire;
-    wire.elements = {OfAudioVideoElement::Sent(FullElement())};
-    wire.numberOfElements = 5;
-    AudioVideoTrack const held{9, {AudioVideoElement()}};
-    auto const expectRead = [&](AudioVideoTrack const& expected)
-    { EXPECT_EQ(OfTrack::Received(wire, held), expected); };
-    expectRead(held); // neither flag is set
-    wire.__isset.numberOfElements = true;
-    expectRead({5, {}});
-    wire.__isset.elements = true;
-    expectRead({9, {AudioVideoElement(), FullElement()}});
-    wire.elements.clear();
-    expectRead(held);
-}
-
-TEST(TrackConversion, BadElementStopsTheConversion)
-{
-    Generated::AudioVideoTrack wire;
-    wire.elements = {OfAudioVideoElement::Sent(FullElement()), Generated::AudioVideoElement(),
-                     OfAudioVideoElement::Sent(FullElement())};
-    wire.__isset.elements = true;
-    AudioVideoTrack track{9, {AudioVideoElement()}};
-    EXPECT_EQ(OfTrack::Told(wire, track), "AudioVideoElement is empty");
-    EXPECT_EQ(track, (AudioVideoTrack{9, {AudioVideoElement(), FullElement()}}));
 }
 
 TEST(PlaylistConversion, FailuresOfThePartsAreDropped)

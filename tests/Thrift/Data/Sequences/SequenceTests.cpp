@@ -126,16 +126,6 @@ TEST(SequenceConversion, MalformedTimeCodeStopsTheConversion)
     EXPECT_EQ(sequence, expected);
 }
 
-TEST(SequenceConversion, ArchiveStatusAloneIsNotEmpty)
-{
-    Generated::Sequence wire;
-    wire.archiveStatus = static_cast<WireArchiveStatus::type>(99);
-    wire.__isset.archiveStatus = true;
-    auto expected = FullSequence();
-    expected.archiveStatus = Corvane::Data::Clips::ArchiveStatus::NoStore;
-    EXPECT_EQ(OfSequence::Received(wire, FullSequence()), expected);
-}
-
 TEST(SequenceConversion, TextsAreTruncatedAndFilledWithZeros)
 {
     using namespace std::string_literals;

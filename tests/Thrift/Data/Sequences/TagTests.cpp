@@ -79,18 +79,6 @@ TEST(TagConversion, CommandTypeResetsTheTagBeforeTheOtherFieldsAreSet)
     }
 }
 
-TEST(TagConversion, BadPropertyStopsTheConversion)
-{
-    auto wire = OfTag::Sent(FullTag());
-    wire.properties[Generated::TagPropertyKey::Levels].__isset.value = false;
-    Tag tag(Tag::CommandType::Custom);
-    EXPECT_EQ(OfTag::Told(wire, tag), "TagProperty is empty");
-    auto expected = FullTag(); // the properties before the bad one, in the order of the keys
-    expected.properties.erase(TagProperty::Key::Levels);
-    expected.properties.erase(TagProperty::Key::TriggerType);
-    EXPECT_EQ(tag, expected);
-}
-
 TEST(TagConversion, ExistingKeysKeepTheirValues)
 {
     Generated::Tag wire;

@@ -110,22 +110,6 @@ TEST(ServerInfoConversion, NeedsTwoAddressesOrNone)
         expected.isLocal = false;
         EXPECT_EQ(Received(wire, "Invalid GBE IP address count."), expected) << count;
     }
-
-    Generated::ServerInfo wire;
-    wire.__isset.gbeIpAddresses = true;
-    EXPECT_EQ(Received(wire, "ServerInfo is empty"), ServerInfo());
-    wire.__isset.isLocal = wire.isLocal = true;
-    ServerInfo expected;
-    expected.isLocal = true;
-    EXPECT_EQ(Received(wire), expected);
-    wire.__isset.isLocal = false;
-    wire.gbeIpAddresses = {1, 2};
-    expected.isLocal = false;
-    expected.gbeIpAddressPair = {{{0, 0, 0, 1}, {0, 0, 0, 2}}};
-    expected.hasNoGbeAddresses = false;
-    EXPECT_EQ(Received(wire), expected); // the addresses alone are sufficient
-    wire.__isset.gbeIpAddresses = false; // the flag decides
-    EXPECT_EQ(Received(wire, "ServerInfo is empty"), ServerInfo());
 }
 
 } // namespace
