@@ -224,7 +224,7 @@ export const samples = [
     { name: 'playlist-count-only', record: 'Playlist',
         value: { audioVideoTrack: { numberOfElements: 250 },
             sequence: { ...playlistHeader, playRateNumerator: 25000n } },
-        shows: 'the light form of a listing; its bad play rate is not reported, and what stands behind it is lost' },
+        shows: 'the light form of a listing; its bad play rate is not reported, and the fields after it are lost' },
     { name: 'tag-unknown-keys', record: 'Tag',
         value: { ...tag, properties: [...tag.properties, [18, { dataType: 'Integer', value: [18] }],
             [-1, { dataType: 'Integer', value: [-1] }]] },
