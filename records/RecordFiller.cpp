@@ -161,7 +161,7 @@ std::uint32_t RecordFiller::readMapEnd()
 
 std::uint32_t RecordFiller::readBool(bool& value)
 {
-    value = !isZero_ && (numbers_.empty() || (open_.back().booleans++ % 2 == 0) != isOther_);
+    value = !isZero_ && (numbers_.empty() || isOther_ || open_.back().booleans++ % 2 == 0);
     return 0;
 }
 

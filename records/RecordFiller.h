@@ -36,7 +36,7 @@ public:
     static RecordFiller Convertible(
         std::vector<std::int16_t> numbers, Filter offered = [](std::int16_t) { return true; });
 
-    /// The same with other texts, and with yes for no.
+    /// The same with other texts, and with yes only.
     static RecordFiller OtherConvertible(std::vector<std::int16_t> numbers);
 
     /// The same with negative numbers that need all their bytes, no two of a record alike.

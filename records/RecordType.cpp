@@ -6,11 +6,11 @@
 #include "records/NewDomain.h"
 #include "records/ShapeOf.h"
 #include "records/ValueWalk.h"
-#include "records/ViewOf.h"
 
 #include <concepts>
 #include <stdexcept>
 #include <type_traits>
+#include <typeinfo>
 #include <utility>
 
 namespace Talvo::Records
@@ -21,24 +21,6 @@ namespace
 
 using Common::Serialization::ConversionResult;
 using Corvane::Zelmar::Serialization::Thrift::TryTo;
-
-/// Calls `use` for each record inside `value` that can be changed.
-template<typename T>
-void ForEachNested(T& value, auto const& use)
-{
-    auto const visit = [&use](auto& inner)
-    {
-        if constexpr (requires { NameOf(inner); }) use(inner);
-        ForEachNested(inner, use);
-    };
-    if constexpr (requires { NameOf(value); })
-        VisitFields(std::type_identity<T>(),
-                    [&](int, char const*, Requirement, auto const member, auto) { visit(value.*member); });
-    else if constexpr (requires { typename T::mapped_type; })
-        for (auto& entry : value) visit(entry.second);
-    else if constexpr (requires { value.emplace_back(); } && !std::is_same_v<T, std::string>)
-        for (auto&& element : value) visit(element);
-}
 
 template<typename TWire>
 class HeldRecord final : public WireRecord
@@ -53,29 +35,6 @@ public:
     void Read(Corvane::Zelmar::Serialization::Thrift::Wire::BinaryReader& reader) override { record.read(&reader); }
     void Write(apache::thrift::protocol::TProtocol& protocol) const override { record.write(&protocol); }
 
-    View Fields() const override { return ViewOf(record); }
-    void CopyValue(WireRecord const& other, int const id) override
-    {
-        auto const& from = static_cast<HeldRecord const&>(other).record;
-        VisitFields(std::type_identity<TWire>(),
-                    [&](int const fieldId, char const*, Requirement, auto const member, auto)
-                    {
-                        if (fieldId == id) record.*member = from.*member;
-                    });
-    }
-    void Spoil(std::size_t nested, bool const isEmptied) override
-    {
-        ForEachNested(record,
-                      [&](auto& other)
-                      {
-                          if (nested-- != 0) return;
-                          if (isEmptied)
-                              other = {};
-                          else if constexpr (requires { other.__isset; })
-                              other.__isset = {};
-                      });
-    }
-
     bool operator==(WireRecord const& other) const override
     {
         auto const* const same = dynamic_cast<HeldRecord const*>(&other);
@@ -85,6 +44,8 @@ public:
     TWire record;
 
 private:
+    std::type_info const& HeldType() const override { return typeid(TWire); }
+    void const* Held() const override { return &record; }
     void VisitValues(WireRecord const* const after, FieldSet const fieldsAfter, ValueVisit const& visit) const override
     {
         auto const* const same = static_cast<HeldRecord const*>(after);

@@ -12,6 +12,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <typeinfo>
 #include <vector>
 
 namespace apache::thrift::protocol
@@ -37,13 +38,6 @@ public:
     virtual void Read(Corvane::Zelmar::Serialization::Thrift::Wire::BinaryReader& reader) = 0;
     virtual void Write(apache::thrift::protocol::TProtocol& protocol) const = 0;
 
-    /// All fields with their flags.
-    virtual View Fields() const = 0;
-    /// Copies the value of one field from a record of the same type, and not its flag.
-    virtual void CopyValue(WireRecord const& other, int id) = 0;
-    /// Clears the flags of one nested record, or empties it. They count in the order of Fields(), from 0 on, without
-    /// those in keys and sets.
-    virtual void Spoil(std::size_t nested, bool isEmptied) = 0;
     /// Visits the values that were read into this record, in the order of the schema.
     void VisitValues(ValueVisit const& visit) const { VisitValues(nullptr, FieldSet::Read, visit); }
     /// The same, and beside them those of `after`, a record of the same type.
@@ -55,7 +49,19 @@ public:
     /// False for a record of another type.
     virtual bool operator==(WireRecord const& other) const = 0;
 
+    // These are for tests, and in the library RecordViews, since they take long to compile.
+
+    /// All fields with their flags.
+    View Fields() const;
+    /// Copies the value of one field from a record of the same type, and not its flag.
+    void CopyValue(WireRecord const& other, int id);
+    /// Clears the flags of one nested record, or empties it. They count in the order of Fields(), from 0 on, without
+    /// those in keys and sets.
+    void Spoil(std::size_t nested, bool isEmptied);
+
 private:
+    virtual std::type_info const& HeldType() const = 0; ///< The generated class,
+    virtual void const* Held() const = 0;               ///< and the record of that class.
     virtual void VisitValues(WireRecord const* after, FieldSet fieldsAfter, ValueVisit const& visit) const = 0;
 };
 

@@ -183,13 +183,13 @@ Fields const ReadRegardlessOfTheirFlags = FieldsIn(R"(
     DeletePlaylistsCommandParams 1 2, DialCommandParams 1 2 3, FailureReply 2, GetAnglesGroupsCommandReply 1 2 3,
     GetChannelsCommandReply 1 2 3, GetClipsCommandReply 1 2 3, GetPlaylistsCommandParams 1,
     GetPlaylistsCommandReply 1 2 3, GetServersCommandParams 1, GetServersCommandReply 1 2,
-    GetTrainsCommandReply 1 2 3, GoIdleCommandParams 1 2, LiveCommandParams 1 2, LoadClipsCommandParams 1 2,
+    GetTrainsCommandReply 1 2 3, GoIdleCommandParams 1 2 3, LiveCommandParams 1 2, LoadClipsCommandParams 1 2,
     LoadSequencesCommandParams 1 2, PlayCommandParams 1 2 3 4, SetLoadBoundariesCommandParams 1 2,
     StartRecordingCommandParams 1 2, StepCommandParams 1 2 3, StopRecordingCommandParams 1 2,
     SyncCommandParams 1 3, UpdateClipsCommandParams 1 2, UpdatePlaylistsCommandParams 1 2,
-    AnglesGroupCommandReply 3 4, AudioVideoTrack 1, OperationStatus 1 2, ServerInfo 1 2 3 4 5 6 7 8, Train 1 2 4 5,
+    AnglesGroupCommandReply 3 4, AudioVideoTrack 1, OperationStatus 1 2, ServerInfo 1 2 3 4 5 6 7 8 9, Train 1 2 3 4 5,
     ClipDeletionFinishedEventArgs 3, MassClipDeletionFinishedEventArgs 3, MassClipUpdateFinishedEventArgs 3,
-    PlayerStateChangedEventArgs 3, RecorderStateChangedEventArgs 3, RecordingRangesChangedEventArgs 1 2 4)");
+    PlayerStateChangedEventArgs 3, RecorderStateChangedEventArgs 3, RecordingRangesChangedEventArgs 1 2 3 4)");
 
 Fields const Appended = FieldsIn(R"(
     AudioVideoTrack 1, ChainCommandParams 2, DialCommandParams 2, Element 10, GoIdleCommandParams 2,

@@ -1,3 +1,4 @@
+#include "Domain/CorvaneData/Sequences/Tag.h"
 #include "Domain/HighLevelOperations/Commands/AnglesGroupCommandReply.h"
 #include "Domain/HighLevelOperations/Commands/ChannelCommandReply.h"
 #include "Domain/HighLevelOperations/Commands/CreateAnglesGroupCommandParams.h"
@@ -9,6 +10,7 @@
 #include "Domain/HighLevelOperations/Commands/GetPlaylistsCommandReply.h"
 #include "Domain/HighLevelOperations/Commands/GetServersCommandReply.h"
 #include "Domain/HighLevelOperations/Commands/GetTrainsCommandReply.h"
+#include "Domain/HighLevelOperations/Commands/LiveCommandParams.h"
 #include "Domain/HighLevelOperations/Commands/PlaylistCommandReply.h"
 #include "Domain/HighLevelOperations/Commands/SuccessReply.h"
 #include "Domain/HighLevelOperations/Commands/UnknownCommandReply.h"
@@ -46,6 +48,18 @@ TEST(CommandParams, NewParametersHaveNewIdentifiers)
     EXPECT_NE(first.commandGuid, first.creationParams.commandGuid);
     auto const copy = first;
     EXPECT_EQ(copy, first);
+}
+
+// The number of buckets decides which of two equal keys comes first in a map.
+TEST(Maps, StartWithTenBucketsAndAFactorOfOne)
+{
+    auto const expectNew = [](auto const& map)
+    {
+        EXPECT_GE(map.bucket_count(), 10u);
+        EXPECT_EQ(map.max_load_factor(), 1.0f);
+    };
+    expectNew(LiveCommandParams().players);
+    expectNew(Corvane::Data::Sequences::Tag(Corvane::Data::Sequences::Tag::CommandType::Custom).properties);
 }
 
 TEST(CommandReply, KindsAreNumbered)
