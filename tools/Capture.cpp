@@ -149,7 +149,8 @@ std::string Appearance(Bytes source, RecordType const* const type)
     if (!std::exchange(source.all, true))
     {
         if (auto const walk = FindRecords(source, false); walk.problem.empty())
-            return std::to_string(walk.count) + " records; --all reads them";
+            return walk.count == 1 ? "a record without a frame"
+                                   : std::to_string(walk.count) + " records; --all reads them";
     }
     source.all = false;
     for (auto const protocol : AllProtocols)

@@ -373,7 +373,7 @@ ExitStatus Convert(Source source, Target const& target, Style const& style)
     auto const& type = FindRecordType(source.record);
     if (type.throughDomain == nullptr)
         throw Failure(std::string(type.name) +
-                      " has no converters in both directions; talvo-wire list tells which have");
+                      " has no converters in both directions; talvo-wire list shows which have");
 
     // The domain object takes about as much as the record.
     source.limits.memory /= 2;

@@ -30,7 +30,7 @@ public:
         return {type_, writer_->Finish()};
     }
 
-    bool null() override { return Refuse("null stands for no value"); }
+    bool null() override { return Refuse("null is not a value"); }
     bool boolean(bool const value) override { return Scalar(value); }
     bool number_integer(std::int64_t const value) override { return Scalar(value); }
     bool number_unsigned(std::uint64_t const value) override
@@ -38,7 +38,7 @@ public:
         if (value > std::numeric_limits<std::int64_t>::max()) return Refuse("it is larger than any number of a record");
         return Scalar(static_cast<std::int64_t>(value));
     }
-    bool number_float(double, string_t const& text) override { return Refuse(text + " is no whole number"); }
+    bool number_float(double, string_t const& text) override { return Refuse(text + " is not a whole number"); }
     bool string(string_t& value) override { return Scalar(BytesOf(value)); }
     bool binary(binary_t&) override { return false; } // which JSON does not have
 
@@ -116,7 +116,7 @@ private:
         for (std::size_t i = 0; i < text.size(); ++i)
         {
             auto const byte = static_cast<unsigned char>(text[i]);
-            if (byte > 0xC3U) Refuse("a character is beyond U+00FF, and stands for no byte");
+            if (byte > 0xC3U) Refuse("a character is above U+00FF and is not a byte");
             bytes += byte < 0x80U
                          ? text[i]
                          : static_cast<char>((byte & 3U) << 6U | (static_cast<unsigned char>(text[++i]) & 0x3FU));
@@ -126,7 +126,7 @@ private:
 
     bool StartEmpty(EmptyJson const kind)
     {
-        if (place_ != Place::Element || member_ != "value") return Refuse("no array or object stands here");
+        if (place_ != Place::Element || member_ != "value") return Refuse("an array or object is not allowed here");
         value_ = kind;
         place_ = Place::Empty;
         return true;
@@ -135,7 +135,7 @@ private:
     bool Scalar(JsonValue value)
     {
         if (place_ == Place::Empty) return Refuse("only an empty object or array is a value");
-        if (place_ == Place::Outside || place_ == Place::Values) return Refuse("an object belongs here");
+        if (place_ == Place::Outside || place_ == Place::Values) return Refuse("an object is expected here");
         if (place_ == Place::Element && member_ == "value")
         {
             value_ = std::move(value);

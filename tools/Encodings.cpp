@@ -47,7 +47,7 @@ std::string Decoded(std::string text, std::string const& kind, std::string_view 
     {
         if (IsBlank(text[i])) continue;
         auto const digit = DigitOf(text[i], digits);
-        if (digit >= digits.size()) Refuse(kind, "its byte " + std::to_string(i) + " is no digit");
+        if (digit >= digits.size()) Refuse(kind, "its byte " + std::to_string(i) + " is not a digit");
         buffer = buffer << bits | digit;
         count += bits;
         if (count < 8) continue;
@@ -63,7 +63,7 @@ std::string Decoded(std::string text, std::string const& kind, std::string_view 
 std::string WithoutPadding(std::string text)
 {
     auto const digits = text.size() - static_cast<std::size_t>(std::ranges::count_if(text, IsBlank));
-    if (digits % 4 != 0) Refuse("base64", "its digits are no multiple of four");
+    if (digits % 4 != 0) Refuse("base64", "the number of its digits is not a multiple of four");
     std::size_t padding = 0;
     while (!text.empty() && (IsBlank(text.back()) || (text.back() == '=' && padding++ < 2))) text.pop_back();
     return text;

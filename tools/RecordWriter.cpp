@@ -85,7 +85,7 @@ std::string_view TakeBrackets(std::string_view& rest)
         else if (rest[i] == ']' && !isQuoted)
             end = i;
     }
-    if (end == std::string_view::npos) RefusePath(Quoted(rest) + " is no place in a list, set or map");
+    if (end == std::string_view::npos) RefusePath(Quoted(rest) + " is not a place in a list, set or map");
     auto const inside = rest.substr(1, end - 1);
     rest.remove_prefix(end + 1);
     return inside;
@@ -102,7 +102,7 @@ bool ParseNumber(std::string_view const text, TNumber& number)
 std::int64_t NumberOf(std::string_view const key)
 {
     std::int64_t number = 0;
-    if (!ParseNumber(key, number)) RefusePath(Quoted(key) + " is no number of a key");
+    if (!ParseNumber(key, number)) RefusePath(Quoted(key) + " is not the number of a key");
     return number;
 }
 
@@ -111,7 +111,7 @@ std::string TextOf(std::string_view const key)
     if (key.ends_with(')')) RefusePath("the key [" + std::string(key) + "] is cut: its whole has to come first");
     bool const isQuoted = key.size() >= 2 && key.front() == '"' && key.back() == '"';
     auto text = isQuoted ? Unescaped(key.substr(1, key.size() - 2)) : std::nullopt;
-    if (!text) RefusePath(Quoted(key) + " is no text of a key");
+    if (!text) RefusePath(Quoted(key) + " is not the text of a key");
     return std::move(*text);
 }
 
@@ -168,7 +168,7 @@ Shape const& RecordWriter::Go(std::string_view const path, std::string const* co
         {
             if (next == nullptr) RefusePath(std::string(path) + " has values already");
             if (wholeKey != nullptr && !(kind == Kind::Map && open_[level].awaitsValue))
-                throw Failure("key: " + std::string(path) + " is no entry of a map");
+                throw Failure("key: " + std::string(path) + " is not an entry of a map");
             return *next;
         }
         if (next == nullptr) continue;
@@ -205,7 +205,7 @@ Shape const* RecordWriter::StepIntoList(std::size_t const level, std::string_vie
 {
     auto const text = TakeBrackets(rest);
     std::uint32_t index = 0;
-    if (!ParseNumber(text, index)) RefusePath(Quoted(text) + " is no number of an element");
+    if (!ParseNumber(text, index)) RefusePath(Quoted(text) + " is not the number of an element");
     if (open_.size() > level + 1 && index + 1 == open_[level].count) return nullptr;
     CloseTo(level + 1);
     if (index != open_[level].count)
@@ -282,7 +282,7 @@ void RecordWriter::WriteKey(Shape const& shape, std::string_view const key, std:
     else
     {
         if (wholeKey->size() <= MaxKeySize || KeyText(Records::WireText{*wholeKey, {}}) != key)
-            throw Failure("key: it is none that begins with " + std::string(key));
+            throw Failure("key: it does not begin with " + std::string(key));
         WriteText(*wholeKey);
     }
 }

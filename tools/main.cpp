@@ -150,7 +150,7 @@ void ExpectCommand(CLI::App const& app, std::string const& word)
     std::vector<std::string_view> const names(known.begin(), known.end());
     auto const suggestion = Suggestion(word, names);
     throw Failure("there is no command '" + word + '\'' +
-                  (suggestion.empty() ? "; talvo-wire --help tells the usage" : suggestion));
+                  (suggestion.empty() ? "; talvo-wire --help shows the usage" : suggestion));
 }
 
 ExitStatus Run(int argc, char** argv)
@@ -258,7 +258,7 @@ ExitStatus Run(int argc, char** argv)
     }
     catch (CLI::ParseError const& error)
     {
-        throw Failure(std::string(error.what()) + "; talvo-wire --help tells the usage");
+        throw Failure(std::string(error.what()) + "; talvo-wire --help shows the usage");
     }
 
     if (!std::cout.flush()) throw Failure("can't write to standard output");
