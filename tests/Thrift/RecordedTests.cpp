@@ -199,8 +199,9 @@ bool HasConverter(std::string const& name)
     return std::ranges::any_of(RecordTypes(), [&name](auto const& type) { return type.toDomain && type.name == name; });
 }
 
-/// Calls `visit(path, view)` for each value that the converter of the outermost record converts: not for those inside
-/// a nested record that has a converter. The path is such as `clips[0].oldClip`.
+/// Calls `visit(path, view, isOwn)` for each value except those in keys and sets. The path is such as
+/// `clips[0].oldClip`. `isOwn` is true for values that the converter of the outermost record converts: those that are
+/// not inside a nested record with a converter of its own.
 void ForEachOwn(View const& view, auto const& visit, std::string const& path = {}, bool const isOwn = true)
 {
     for (auto const& [label, isSet, value] : view.parts)
