@@ -32,7 +32,7 @@ void Progress::Add(std::size_t const bytes)
     if (!isVisible_ || Clock::now() < next_) return;
     next_ = Clock::now() + std::chrono::seconds(1);
     isShown_ = true;
-    std::cerr << ClearLine << records_ << " records, " << 100 * bytes_ / totalBytes_ << " %" << std::flush;
+    std::cerr << ClearLine << records_ << " records, " << 100ULL * bytes_ / totalBytes_ << " %" << std::flush;
 }
 
 } // namespace Talvo::Tools
