@@ -45,12 +45,8 @@ public:
 
 private:
     std::type_info const& HeldType() const override { return typeid(TWire); }
+    Shape const& HeldShape() const override { return ShapeOf<TWire>(); }
     void const* Held() const override { return &record; }
-    void VisitValues(WireRecord const* const after, FieldSet const fieldsAfter, ValueVisit const& visit) const override
-    {
-        auto const* const same = static_cast<HeldRecord const*>(after);
-        ValueWalk(fieldsAfter, visit).Pass(&record, same == nullptr ? nullptr : &same->record);
-    }
 };
 
 template<typename TDomain>
@@ -106,20 +102,6 @@ ConversionResult ToWire(DomainObject const& source, WireRecord& destination, For
 }
 
 template<typename TPair>
-RoundTrip ThroughDomain(WireRecord const& source)
-{
-    auto const& wire = WireOf<typename TPair::Wire>(source);
-    auto domain = NewDomain<typename TPair::Domain>(wire);
-    RoundTrip trip{TryTo(typename TPair::ToDomain(), wire, domain), std::nullopt, nullptr};
-    if (!trip.toDomain.success) return trip;
-
-    auto back = std::make_unique<HeldRecord<typename TPair::Wire>>();
-    trip.toWire = typename TPair::ToWire().To(std::move(domain), back->record);
-    if (trip.toWire->success) trip.record = std::move(back);
-    return trip;
-}
-
-template<typename TPair>
 RecordType TypeOf(TPair, std::string_view const name, std::string_view const group)
 {
     using Wire = typename TPair::Wire;
@@ -138,7 +120,6 @@ RecordType TypeOf(TPair, std::string_view const name, std::string_view const gro
                     nullptr,
                     nullptr,
                     nullptr,
-                    nullptr,
                     &ShapeOf<Wire>};
     type.make = []() -> std::unique_ptr<WireRecord> { return std::make_unique<HeldRecord<Wire>>(); };
     if constexpr (HasToWire || HasToDomain)
@@ -151,7 +132,6 @@ RecordType TypeOf(TPair, std::string_view const name, std::string_view const gro
     }
     if constexpr (HasToDomain) type.convertToDomain = &ToDomain<TPair>;
     if constexpr (HasToWire) type.convertToWire = &ToWire<TPair>;
-    if constexpr (HasToWire && HasToDomain) type.throughDomain = &ThroughDomain<TPair>;
     return type;
 }
 
@@ -167,6 +147,28 @@ std::vector<RecordType> const& RecordTypes()
         return all;
     }();
     return types;
+}
+
+void WireRecord::VisitValues(ValueVisit const& visit) const
+{
+    ValueWalk(FieldSet::Read, visit).PassRecord(HeldShape(), Held(), nullptr);
+}
+
+void WireRecord::VisitValues(WireRecord const& after, FieldSet const fieldsAfter, ValueVisit const& visit) const
+{
+    ValueWalk(fieldsAfter, visit).PassRecord(HeldShape(), Held(), after.Held());
+}
+
+RoundTrip ThroughDomain(RecordType const& type, WireRecord const& record)
+{
+    auto const domain = type.makeDomain(record);
+    RoundTrip trip{type.convertToDomain(record, *domain, Form::Checked), std::nullopt, nullptr};
+    if (!trip.toDomain.success) return trip;
+
+    auto back = type.make();
+    trip.toWire = type.convertToWire(*domain, *back, Form::Movable);
+    if (trip.toWire->success) trip.record = std::move(back);
+    return trip;
 }
 
 bool SameDomain(RecordType const& type, WireRecord const& left, WireRecord const& right)

@@ -39,12 +39,9 @@ public:
     virtual void Write(apache::thrift::protocol::TProtocol& protocol) const = 0;
 
     /// Visits the values that were read into this record, in the order of the schema.
-    void VisitValues(ValueVisit const& visit) const { VisitValues(nullptr, FieldSet::Read, visit); }
+    void VisitValues(ValueVisit const& visit) const;
     /// The same, and beside them those of `after`, a record of the same type.
-    void VisitValues(WireRecord const& after, FieldSet const fieldsAfter, ValueVisit const& visit) const
-    {
-        VisitValues(&after, fieldsAfter, visit);
-    }
+    void VisitValues(WireRecord const& after, FieldSet fieldsAfter, ValueVisit const& visit) const;
 
     /// False for a record of another type.
     virtual bool operator==(WireRecord const& other) const = 0;
@@ -61,8 +58,8 @@ public:
 
 private:
     virtual std::type_info const& HeldType() const = 0; ///< The generated class,
+    virtual Shape const& HeldShape() const = 0;         ///< its shape,
     virtual void const* Held() const = 0;               ///< and the record of that class.
-    virtual void VisitValues(WireRecord const* after, FieldSet fieldsAfter, ValueVisit const& visit) const = 0;
 };
 
 /// One domain object, likewise.
@@ -107,13 +104,17 @@ struct RecordType
     Result (*convertToWire)(DomainObject const&, WireRecord&, Form);
     /// Null without equality in the domain, too.
     bool (*equal)(DomainObject const&, DomainObject const&);
-    /// Converts a record into a newly built domain object, checked, and that into a newly built wire record.
-    RoundTrip (*throughDomain)(WireRecord const&);
     Shape const& (*shape)(); ///< Never null.
+
+    bool ConvertsBothWays() const { return toDomain && toWire; }
 };
 
 /// Every record, by namespace, those of data and outer ones first, and name.
 std::vector<RecordType> const& RecordTypes();
+
+/// Converts a record into a newly built domain object, checked, and that into a newly built wire record. The type has
+/// converters in both directions.
+RoundTrip ThroughDomain(RecordType const& type, WireRecord const& record);
 
 /// Whether both records convert, each into a newly built domain object, and these are equal.
 bool SameDomain(RecordType const& type, WireRecord const& left, WireRecord const& right);

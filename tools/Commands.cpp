@@ -371,7 +371,7 @@ void Print(Source const& source, Style const& style)
 ExitStatus Convert(Source source, Target const& target, Style const& style)
 {
     auto const& type = FindRecordType(source.record);
-    if (type.throughDomain == nullptr)
+    if (!type.ConvertsBothWays())
         throw Failure(std::string(type.name) +
                       " has no converters in both directions; talvo-wire list shows which have");
 

@@ -31,7 +31,7 @@ Words ValuesOf(CLI::Option const& option, CLI::App const& command)
     Words names;
     if (type == "NAME")
         for (auto const& record : RecordTypes())
-            if (command.get_name() != "convert" || record.throughDomain != nullptr) names.emplace_back(record.name);
+            if (command.get_name() != "convert" || record.ConvertsBothWays()) names.emplace_back(record.name);
     return names;
 }
 

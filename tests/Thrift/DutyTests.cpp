@@ -87,7 +87,7 @@ std::vector<Subject> const& Subjects()
         std::vector<Subject> all;
         for (auto const& type : RecordTypes())
         {
-            if (type.throughDomain == nullptr) continue;
+            if (!type.ConvertsBothWays()) continue;
             auto const full = FullRecord(type);
             Subject subject{type,
                             full->Fields(),
