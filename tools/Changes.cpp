@@ -21,12 +21,12 @@ constexpr char Changed[] = "changed";
 
 /// A value of another type at the same path.
 template<typename T, typename U>
-std::string Why(T const&, U const&)
+std::string Reason(T const&, U const&)
 {
     return Changed;
 }
 
-std::string Why(std::string_view const before, std::string_view const after)
+std::string Reason(std::string_view const before, std::string_view const after)
 {
     static std::string const noTimeCode = TimePoints::TalvoTimeCodeFormatter().Format(TimePoints::TimeCode::Empty());
     if (after.empty()) return "emptied";
@@ -40,7 +40,7 @@ std::string Why(std::string_view const before, std::string_view const after)
 
 /// Numbers lose their upper half where the domain's are half as wide.
 template<typename T>
-requires std::is_integral_v<T> std::string Why(T const before, T const after)
+requires std::is_integral_v<T> std::string Reason(T const before, T const after)
 {
     constexpr int Bits = std::numeric_limits<std::make_unsigned_t<T>>::digits / 2;
     if (after == 0) return "became 0";
@@ -50,17 +50,17 @@ requires std::is_integral_v<T> std::string Why(T const before, T const after)
     return Changed;
 }
 
-std::string Why(Records::Enumerator const before, Records::Enumerator const after)
+std::string Reason(Records::Enumerator const before, Records::Enumerator const after)
 {
-    return Why(before.number, after.number);
+    return Reason(before.number, after.number);
 }
 
-std::string Why(Records::WireText const& before, Records::WireText const& after)
+std::string Reason(Records::WireText const& before, Records::WireText const& after)
 {
-    return Why(before.bytes, after.bytes);
+    return Reason(before.bytes, after.bytes);
 }
 
-std::string Why(bool, bool)
+std::string Reason(bool, bool)
 {
     return Changed;
 }
@@ -75,7 +75,7 @@ std::string Why(Records::Place const& place)
         if (place.inBoth) return "no longer empty";
         return place.cutTo ? "list cut to " + std::to_string(*place.cutTo) + " elements" : "dropped";
     }
-    return std::visit([](auto const& was, auto const& is) { return Why(was, is); }, *place.before, *place.after);
+    return std::visit([](auto const& was, auto const& is) { return Reason(was, is); }, *place.before, *place.after);
 }
 
 } // namespace Talvo::Tools

@@ -38,7 +38,7 @@ std::uint32_t DigitOf(char const character, std::string_view const digits)
 }
 
 /// Decodes in place: digits of `bits` bits each.
-std::string Decoded(std::string text, std::string const& kind, std::string_view const digits, unsigned const bits)
+std::string DecodeDigits(std::string text, std::string const& kind, std::string_view const digits, unsigned const bits)
 {
     std::uint32_t buffer = 0;
     unsigned count = 0;
@@ -83,9 +83,9 @@ std::string DecodeText(std::string text, Encoding const encoding)
     switch (encoding)
     {
     case Encoding::Hex:
-        return Decoded(std::move(text), "hex", HexDigits, 4);
+        return DecodeDigits(std::move(text), "hex", HexDigits, 4);
     case Encoding::Base64:
-        return Decoded(WithoutPadding(std::move(text)), "base64", Base64Digits, 6);
+        return DecodeDigits(WithoutPadding(std::move(text)), "base64", Base64Digits, 6);
     default:
         return text;
     }
