@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """make_records_page.py [--tags]: writes docs/records.md, the page of all records, from the schema files as the Thrift
-compiler reads them and from the banners of the converters' headers. With --tags, prints the sections of the page as a tag
-file of doxygen instead.
+compiler reads them, from the banners of the converters' headers, and from docs/domain-members.txt. With --tags, prints the
+sections of the page as a tag file of doxygen instead.
 
 A banner is the comment of a converter's class. Its paragraphs that begin with "Failure" or "Ends the process" become the
 items of that name, all others remarks on the conversion. The banner of a converter without failures says that it can't
@@ -20,6 +20,7 @@ sys.path.insert(0, str(ROOT / "schema"))
 import make_records  # noqa: E402
 
 PAGE = ROOT / "docs/records.md"
+MEMBERS = ROOT / "docs/domain-members.txt"
 
 FAMILIES = {
     "Common records": "Talvo::Corvane::Data::Generated",
@@ -35,10 +36,14 @@ FAMILIES = {
 INTRODUCTION = """# All records
 
 This page lists every record of the schema: its fields, the converter that writes it and the converter that reads it.
-`docs/make_records_page.py` writes this page from the schema and from the comments in the converters' headers.
+`docs/make_records_page.py` writes this page from the schema, from the comments in the converters' headers and from
+`docs/domain-members.txt`.
 
 - A field has an `__isset` bit, its "flag", which says whether the field was sent. A "required" field has no flag, and
   `read` rejects a record without it. An "optional" field is written only if its flag is set, a "default" field always.
+- A "domain member" is what is written to the field and what the field is read into. If the two differ, a slash separates
+  the members that are written from those that are read into. "-" marks a field that is not converted. The fields of a nested
+  record without a converter of its own become members of the same names, unless the row of the nested record names others.
 - A failure is a `ConversionResult` with one of these texts. The failure of a nested record is returned unchanged. What
   was written before a failure stays in the destination, unless the record's section says otherwise.
 - An enumeration number without a counterpart on the other side becomes 0.
@@ -160,6 +165,33 @@ def capitalised(text):
     return text[:1].upper() + text[1:]
 
 
+def domain_members(converted):
+    """What docs/domain-members.txt says of each field of the converted records, as Markdown."""
+    headers = [header.read_text() for folder in ("Domain", "TimePoints") for header in (ROOT / folder).glob("**/*.h")]
+    declared = set(re.findall(r"\w+", re.sub(r"//.*", "", "".join(headers))))
+    fields = [(record.name, field.name) for record in converted for field in record.fields]
+    found, record = {}, ""
+    for line in MEMBERS.read_text().splitlines():
+        if line.startswith("  "):
+            field, _, entry = line.strip().partition(" = ")
+            if (record, field) not in fields:
+                raise ValueError(f"{MEMBERS}: {record} has no field {field}")
+            if (record, field) in found:
+                raise ValueError(f"{MEMBERS}: {record} has two lines of {field}")
+            access, _, words = entry.partition("- ")
+            if unknown := set(re.findall(r"[A-Za-z_]\w*", access)) - declared:
+                raise ValueError(f"{MEMBERS}: {record}.{field}: no header of the domain has {sorted(unknown)}")
+            members = re.sub(r"\w[^ ,/]*", r"`\g<0>`", access.strip())
+            found[record, field] = ", ".join(filter(None, (members, words)))
+        elif line and not line.startswith("#"):
+            record = line
+            if record not in (name for name, _ in fields):
+                raise ValueError(f"{MEMBERS}: no record {record} has a converter")
+    if missing := [f"{record}.{field}" for record, field in fields if (record, field) not in found]:
+        raise ValueError(f"{MEMBERS}: no line of {', '.join(missing)}")
+    return found
+
+
 def remarks_of(banner):
     """What the banner says of the conversion, without the sentence that only names the two types."""
     first, *others = banner.on_the_way or ("",)
@@ -205,7 +237,7 @@ def linked(field, all_records):
     return text
 
 
-def record_section(record, all_records, own):
+def record_section(record, all_records, own, members):
     text = f"\n### {record.name}\n\nWire header `generated/{record.name}.h`"
     if own:
         header = domain_header(own[0].domain)
@@ -214,9 +246,11 @@ def record_section(record, all_records, own):
         users = [link(user.name) for user in all_records.values()
                  if any(record.name in field.records for field in user.fields)]
         text += ", no converter of its own; nested in " + ", ".join(users) if users else ", no converter"
-    text += ".\n\n| Id | Field | Type | Requiredness |\n|---|---|---|---|\n"
-    text += "".join(f"| {field.number} | `{field.name}` | {linked(field, all_records)} | {field.requiredness} |\n"
-                    for field in record.fields)
+    title, line = (" Domain member |", "---|") if own else ("", "")
+    text += f".\n\n| Id | Field | Type | Requiredness |{title}\n|---|---|---|---|{line}\n"
+    for field in record.fields:
+        member = f" {members[record.name, field.name]} |" if own else ""
+        text += f"| {field.number} | `{field.name}` | {linked(field, all_records)} | {field.requiredness} |{member}\n"
     return text + "".join(converter_section("To the wire" if banner.is_to_wire else "From the wire", banner) for banner in own)
 
 
@@ -225,6 +259,8 @@ def page():
     unknown = [banner.converter for banner in all_banners if banner.record not in all_records]
     if unknown or {record.namespace for record in all_records.values()} != set(FAMILIES.values()):
         raise ValueError(f"unknown record or family: {unknown}")
+    members = domain_members([record for record in all_records.values()
+                              if any(banner.record == record.name for banner in all_banners)])
     text = INTRODUCTION
     for title, namespace in FAMILIES.items():
         text += f"\n## {title}\n\nIn `{namespace}`.\n"
@@ -232,7 +268,7 @@ def page():
             if record.namespace == namespace:
                 own = sorted((banner for banner in all_banners if banner.record == record.name),
                              key=lambda banner: not banner.is_to_wire)
-                text += record_section(record, all_records, own)
+                text += record_section(record, all_records, own, members)
     for banner in all_banners:
         text = re.sub(rf"(?<![\w\[]){banner.converter}\b(?!\])", f"[{banner.converter}]", text)
     return text + "\n" + "".join(f"[{banner.converter}]: ../{banner.header}\n" for banner in all_banners)
