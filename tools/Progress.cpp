@@ -10,29 +10,36 @@ namespace Talvo::Tools
 namespace
 {
 
-constexpr auto* ClearLine = "\r\x1b[K";
+bool IsVisible()
+{
+    return isatty(STDERR_FILENO) != 0 && isatty(STDOUT_FILENO) == 0;
+}
 
 } // namespace
 
+void ClearProgress()
+{
+    if (IsVisible()) std::cerr << "\r\x1b[K";
+}
+
 Progress::Progress(std::size_t const totalBytes)
     : totalBytes_(totalBytes)
-    , isVisible_(isatty(STDERR_FILENO) != 0 && isatty(STDOUT_FILENO) == 0)
 {
 }
 
 Progress::~Progress()
 {
-    if (isShown_) std::cerr << ClearLine << std::flush;
+    ClearProgress();
 }
 
 void Progress::Add(std::size_t const bytes)
 {
     bytes_ += bytes;
     ++records_;
-    if (!isVisible_ || Clock::now() < next_) return;
+    if (Clock::now() < next_ || !IsVisible()) return;
     next_ = Clock::now() + std::chrono::seconds(1);
-    isShown_ = true;
-    std::cerr << ClearLine << records_ << " records, " << 100ULL * bytes_ / totalBytes_ << " %" << std::flush;
+    ClearProgress();
+    std::cerr << records_ << " records, " << 100ULL * bytes_ / totalBytes_ << " %" << std::flush;
 }
 
 } // namespace Talvo::Tools

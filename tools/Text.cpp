@@ -133,6 +133,7 @@ void PrintValue(std::ostream& output, Value const& value)
 
 void Report(std::string_view const message)
 {
+    ClearProgress();
     std::cerr << "talvo-wire: " << Escaped(message) << '\n';
 }
 
