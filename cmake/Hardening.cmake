@@ -2,8 +2,10 @@
 include(CheckCXXCompilerFlag)
 include(CheckPIESupported)
 
+option(TALVO_HARDENING "Make faults harder to exploit" ON)
+
 check_pie_supported()
-if(CMAKE_BUILD_TYPE STREQUAL Release AND NOT CMAKE_CXX_FLAGS MATCHES -fsanitize)
+if(TALVO_HARDENING AND CMAKE_BUILD_TYPE STREQUAL Release AND NOT CMAKE_CXX_FLAGS MATCHES -fsanitize)
     foreach(option -fstack-protector-strong -fstack-clash-protection -fcf-protection)
         string(MAKE_C_IDENTIFIER "TALVO_HAS${option}" has)
         check_cxx_compiler_flag(${option} ${has})
