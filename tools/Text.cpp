@@ -1,5 +1,6 @@
 #include "tools/Text.h"
 
+#include "tools/Progress.h"
 #include "tools/Utf16.h"
 
 #include <cstddef>
