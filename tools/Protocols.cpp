@@ -340,6 +340,12 @@ std::string Transcode(Message const& message, Protocol const to)
 
 std::string Encode(WireRecord const& record, Protocol protocol)
 {
+    if (protocol == Protocol::Binary)
+    {
+        Wire::BinaryWriter writer;
+        record.Write(writer);
+        return std::string(writer.Text());
+    }
     auto const buffer = std::make_shared<TMemoryBuffer>();
     auto const writer = MakeProtocol(protocol, buffer);
     record.Write(*writer);
